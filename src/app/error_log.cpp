@@ -1,0 +1,15 @@
+#include "app/error_log.h"
+
+#include <algorithm>
+#include <fstream>
+
+namespace kelvo::app {
+
+void ErrorLog::Write(std::string_view message) const {
+  std::string line = LogStamp(clock_.Now()) + " " + std::string(message);
+  std::replace_if(
+      line.begin(), line.end(), [](char c) { return c == '\n' || c == '\r'; }, ' ');
+  std::ofstream(file_, std::ios::app) << line << '\n';
+}
+
+}  // namespace kelvo::app

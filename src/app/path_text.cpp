@@ -1,0 +1,48 @@
+#include "app/path_text.h"
+
+#include <algorithm>
+
+namespace kelvo::app {
+namespace {
+
+#ifdef _WIN32
+constexpr std::string_view kSeparators = "/\\";
+#else
+constexpr std::string_view kSeparators = "/";
+#endif
+
+}  // namespace
+
+std::filesystem::path PathFromText(std::string_view text) {
+  return {std::u8string(text.begin(), text.end())};
+}
+
+std::string TextFromPath(const std::filesystem::path& path) {
+  const std::u8string text = path.u8string();
+  return {text.begin(), text.end()};
+}
+
+std::string FolderPart(std::string_view path) {
+  const auto separator = path.find_last_of(kSeparators);
+  return std::string(separator == std::string_view::npos ? std::string_view() : path.substr(0, separator));
+}
+
+std::string FileNamePart(std::string_view path) {
+  const auto separator = path.find_last_of(kSeparators);
+  return std::string(separator == std::string_view::npos ? path : path.substr(separator + 1));
+}
+
+std::string LowerExtension(std::string_view path) {
+  const std::string name = FileNamePart(path);
+  const auto dot = name.rfind('.');
+  return dot == std::string::npos ? std::string() : ToLower(std::string_view(name).substr(dot));
+}
+
+std::string ToLower(std::string_view text) {
+  std::string lower(text);
+  std::transform(lower.begin(), lower.end(), lower.begin(),
+                 [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
+  return lower;
+}
+
+}  // namespace kelvo::app

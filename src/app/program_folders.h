@@ -1,0 +1,35 @@
+// The program folder and what lies in it.
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+namespace kelvo::app {
+
+// Every file and folder that the program keeps for itself has its place here.
+class ProgramFolders {
+ public:
+  explicit ProgramFolders(std::filesystem::path root) : root_(std::move(root)) {}
+
+  const std::filesystem::path& Root() const { return root_; }
+  std::filesystem::path System() const { return root_ / "SYSTEM"; }  // templates, tools, work files of a build
+  std::filesystem::path Backup() const { return root_ / "BACKUP"; }  // backups and rescue copies
+  std::filesystem::path Gfx() const { return root_ / "GFX"; }        // where pictures are looked for first
+  std::filesystem::path Snapshot() const { return System() / "currentbmp.prg"; }
+  std::filesystem::path ErrorLogFile() const { return root_ / "Kelvo_logg.txt"; }
+
+  // Makes SYSTEM, BACKUP and GFX. Folders that are there already, or cannot be made, are no error.
+  void Create() const;
+
+  // Copies what is shipped under `shipped`/SYSTEM and `shipped`/GFX to here, leaving alone what is here already.
+  void Seed(const std::filesystem::path& shipped) const;
+
+ private:
+  std::filesystem::path root_;
+};
+
+// The folder of the executable where that can be written (a portable copy, a build folder), else the user's own.
+std::filesystem::path ChooseProgramFolder(const std::filesystem::path& executable_folder,
+                                          const std::filesystem::path& user_folder);
+
+}  // namespace kelvo::app

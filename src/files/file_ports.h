@@ -1,0 +1,35 @@
+// What the file operations need of the windows.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "files/current_file.h"
+#include "files/picture_format.h"
+
+namespace kelvo::files {
+
+struct ChosenFile {
+  std::string path;
+  FormatType type;  // the position of the filter that was active
+};
+
+// The common dialogs; empty when cancelled.
+class FileDialogs {
+ public:
+  virtual ~FileDialogs() = default;
+  // "Select file" with OpenFilter(), starting in `folder`.
+  virtual std::optional<ChosenFile> SelectFile(const std::string& folder) = 0;
+  // "Save Kelvo-file", proposing `path`; the answer ends in ".kvp", added where the user typed no such ending.
+  virtual std::optional<std::string> SaveAs(const std::string& path) = 0;
+};
+
+// Where the current file shows: the window title, the first status panel, and the entries that need a file.
+class FileDisplay {
+ public:
+  virtual ~FileDisplay() = default;
+  virtual void ShowFile(const CurrentFile& file) = 0;
+};
+
+}  // namespace kelvo::files

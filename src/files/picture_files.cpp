@@ -1,0 +1,151 @@
+#include "files/picture_files.h"
+
+#include "app/path_text.h"
+#include "app/whole_file.h"
+#include "files/load_picture.h"
+#include "files/picture_format.h"
+#include "files/rescue_copy.h"
+
+namespace kelvo::files {
+namespace {
+
+namespace fs = std::filesystem;
+
+bool IsThere(std::string_view path) {
+  std::error_code ignored;
+  return fs::exists(app::PathFromText(path), ignored);
+}
+
+// What a file that a person did not choose with a filter is read as.
+FormatType TypeOf(const std::string& path) {
+  std::error_code error;
+  const std::uintmax_t size = fs::file_size(app::PathFromText(path), error);
+  return TypeOfFile(path, error ? 0 : size);
+}
+
+}  // namespace
+
+bool PictureFiles::Open() {
+  const auto chosen = with_.dialogs.SelectFile(FolderForDialogs());
+  if (!chosen) return false;
+  with_.settings.Write(kFilePath, app::FolderPart(chosen->path));
+  return OpenAs(chosen->path, chosen->type, OnFailure::kMessageBox);
+}
+
+bool PictureFiles::OpenPicture(std::string_view path, OnFailure on_failure) {
+  const std::string own_path(path);  // it may be the current file's own text, which loading replaces
+  return OpenAs(own_path, TypeOf(own_path), on_failure);
+}
+
+bool PictureFiles::OpenAs(const std::string& path, FormatType type, OnFailure on_failure) {
+  const app::WaitScope wait(with_.pointer);
+  const auto picture = Read(path, type, on_failure);
+  if (!picture || !MayThrowAwayPicture()) return false;
+  TakeOver(*picture, SetFileParameters(path));
+  with_.prompt.CommandPromptList("LOAD " + document_.file.CurrentFileName);
+  app::Guarded(with_.log, "MDIFormMenu_OpenPicture",
+               [&] { app::CopyWholeFile(app::PathFromText(path), with_.folders.Snapshot()); });
+  recent_.Add(path);
+  return true;
+}
+
+std::optional<model::PictureImage> PictureFiles::Read(const std::string& path, FormatType type, OnFailure on_failure) {
+  std::optional<model::PictureImage> picture;
+  app::Guarded(
+      with_.log, "MDIFormMenu_LoadPicture",
+      [&] { picture = LoadPicture(path, type, document_.picture.BackgroundColour); },
+      [&](const std::exception& error) {
+        const bool wrong_size = dynamic_cast<const FormatError*>(&error) != nullptr;
+        if (wrong_size && !FormatOf(type).size_message.empty()) return with_.messages.Inform(error.what());
+        TellFailedLoad(path, error.what(), on_failure);
+      });
+  return picture;
+}
+
+void PictureFiles::TellFailedLoad(std::string_view path, const std::string& why, OnFailure on_failure) {
+  with_.prompt.CommandPromptList("LOAD " + NameOfPath(path) + " [err 902]");
+  if (on_failure == OnFailure::kMessageBox) with_.messages.Warn(why);
+}
+
+void PictureFiles::TakeOver(const model::PictureImage& picture, const CurrentFile& file) {
+  document_.picture = document_.kept = picture;
+  document_.file = file;
+  with_.display.ShowFile(document_.file);
+  with_.views.PictureChanged();
+}
+
+bool PictureFiles::Reload() {
+  return document_.file.HasFile() && OpenPicture(document_.file.CurrentFilePath);
+}
+
+bool PictureFiles::Save() {
+  if (!document_.file.HasFile()) return SaveAs();
+  const std::string& path = document_.file.CurrentFilePath;
+  const std::string target = path.size() < 4 ? path : SavedName(path);
+  if (target != path && IsThere(target) && !with_.messages.Ask(target + " exists already. Replace it?")) return false;
+  with_.prompt.CommandPromptList("SAVE " + document_.file.CurrentFileName);
+  return SaveTo("");
+}
+
+bool PictureFiles::SaveAs() {
+  const std::string proposal =
+      document_.file.HasFile() ? document_.file.CurrentFilePath : FolderForDialogs() + "/unnamed.kvp";
+  const auto path = with_.dialogs.SaveAs(proposal);
+  return path && SaveTo(*path);
+}
+
+bool PictureFiles::SaveTo(std::string_view path) {
+  const app::WaitScope wait(with_.pointer);
+  std::string trouble;
+  const bool saved = app::Guarded(
+      with_.log, "MDIFormMenu_SaveBitmap",
+      [&] {
+        trouble = SaveBitmap(document_, path, {with_.folders, with_.settings, with_.clock});
+      },
+      [&](const std::exception& error) {
+        with_.messages.Warn("The picture was not saved.\n" + std::string(error.what()));
+      });
+  if (!saved) return false;
+  with_.display.ShowFile(document_.file);
+  if (!trouble.empty()) {
+    with_.log.Write("MDIFormMenu_SaveBitmap: " + trouble);
+    with_.messages.Warn("The picture is saved, but its backup could not be made.\n" + trouble);
+  }
+  return true;
+}
+
+void PictureFiles::New() {
+  if (!MayThrowAwayPicture()) return;
+  TakeOver({.BackgroundColour = document_.picture.BackgroundColour}, {});
+  with_.prompt.CommandPromptList("NEW");
+}
+
+bool PictureFiles::MayClose() {
+  if (!document_.HasUnsavedWork()) return true;
+  const app::UnsavedAnswer answer =
+      with_.messages.AskUnsaved("The picture " + StatusName(document_.file) + " has unsaved changes.");
+  return answer == app::UnsavedAnswer::kDiscard || (answer == app::UnsavedAnswer::kSave && Save());
+}
+
+void PictureFiles::OpenRecent(std::string_view path) {
+  if (IsThere(path)) OpenPicture(path);
+}
+
+bool PictureFiles::MayThrowAwayPicture() {
+  if (!document_.HasUnsavedWork()) return true;
+  bool may = true;
+  app::Guarded(
+      with_.log, "MDIFormMenu_KeepRescueCopy", [&] { KeepRescueCopy(document_, with_.folders, with_.clock); },
+      [&](const std::exception& error) {
+        may = with_.messages.Ask("The unsaved picture could not be kept in the BACKUP folder.\n" +
+                                 std::string(error.what()) + "\nThrow it away?");
+      });
+  return may;
+}
+
+std::string PictureFiles::FolderForDialogs() const {
+  const std::string stored = with_.settings.Read(kFilePath);
+  return stored.empty() ? app::TextFromPath(with_.folders.Gfx()) : stored;
+}
+
+}  // namespace kelvo::files

@@ -1,0 +1,82 @@
+// The File menu: open, reload, save, save as, new.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "app/clock.h"
+#include "app/error_log.h"
+#include "app/messages.h"
+#include "app/program_folders.h"
+#include "app/settings_store.h"
+#include "app/wait_pointer.h"
+#include "files/document.h"
+#include "files/file_ports.h"
+#include "files/recent_files.h"
+#include "files/save_bitmap.h"
+#include "model/picture_views.h"
+
+namespace kelvo::files {
+
+// What the file operations work with; all of it outlives them.
+struct FileSurroundings {
+  const app::ProgramFolders& folders;
+  app::SettingsStore& settings;
+  const app::Clock& clock;
+  const app::ErrorLog& log;
+  app::Messages& messages;
+  app::PromptOutput& prompt;
+  app::WaitPointer& pointer;
+  FileDialogs& dialogs;
+  FileDisplay& display;
+  model::PictureViews& views;
+};
+
+// How a load that failed is told, besides its line in the prompt.
+enum class OnFailure { kMessageBox, kPromptOnly };
+
+// No operation throws: what fails is logged and told to the user, and the picture, its name and the title are as they
+// were. Operations that throw unsaved work away keep a rescue copy of it first; where that cannot be written they ask.
+class PictureFiles {
+ public:
+  PictureFiles(Document& document, const FileSurroundings& surroundings)
+      : document_(document), with_(surroundings), recent_(surroundings.settings) {}
+
+  // True when a picture was opened. The first asks with the open dialog.
+  bool Open();
+  bool OpenPicture(std::string_view path, OnFailure on_failure = OnFailure::kMessageBox);
+
+  // Opens the current file again, without asking. False without a current file.
+  bool Reload();
+
+  // True when the picture is on the disk. Save on a picture that has no file yet is SaveAs.
+  bool Save();
+  bool SaveAs();
+  bool SaveTo(std::string_view path);
+
+  // An empty picture without a file; the background colour stays.
+  void New();
+
+  // True when the program may end: nothing is unsaved, or the user saved it or gave it up.
+  bool MayClose();
+
+  std::vector<std::string> RecentPaths() const { return recent_.Paths(); }
+  // Opens a path of the recent list; one that is gone is passed over in silence.
+  void OpenRecent(std::string_view path);
+
+ private:
+  bool OpenAs(const std::string& path, FormatType type, OnFailure on_failure);
+  std::optional<model::PictureImage> Read(const std::string& path, FormatType type, OnFailure on_failure);
+  void TellFailedLoad(std::string_view path, const std::string& why, OnFailure on_failure);
+  void TakeOver(const model::PictureImage& picture, const CurrentFile& file);
+  bool MayThrowAwayPicture();
+  std::string FolderForDialogs() const;
+
+  Document& document_;
+  FileSurroundings with_;
+  RecentFiles recent_;
+};
+
+}  // namespace kelvo::files

@@ -1,0 +1,64 @@
+// The picture formats, as bytes: no file, no window.
+//
+// All are C64 program files: a load address of two bytes, low byte first, then blocks of memory. The own format (.kvp)
+// is Vidcom64's layout with a signature and the background colour in the spare bytes behind the screen block; Koala's
+// is that of Koala Painter for the C64.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "app/whole_file.h"
+#include "model/picture_image.h"
+
+namespace kelvo::files {
+
+// How a file of one type is read. Block offsets count from the byte after the load address; the background's position
+// counts from the start of the file, on purpose: for Koala it therefore names the colour byte of cell 999.
+struct PictureFormat {
+  std::string_view filter;        // its part of the open dialog's filter text; empty for the general row
+  std::string_view size_message;  // shown when a file has another size; empty: such a load just fails
+  std::size_t file_size, other_size;
+  std::size_t colour_at, screen_at, bitmap_at;
+  std::optional<std::size_t> background_at;
+
+  constexpr bool Takes(std::uintmax_t size) const { return size == file_size || size == other_size; }
+};
+
+// Format types are the positions of the open dialog's filters, counted from 1. Any other number is the general row: a
+// file of 10050 bytes in the own layout.
+using FormatType = int;
+inline constexpr FormatType kOwnType = 1, kVidcom64Type = 2, kKoaType = 3, kKlaType = 4, kGeneralType = 0;
+
+const PictureFormat& FormatOf(FormatType type);
+
+// The filters of all types joined, as "caption|patterns|caption|patterns...".
+std::string OpenFilter();
+
+// The type of a file that no dialog chose: by extension (.kvp, .lmp, .vid, .koa, .kla), else by size.
+FormatType TypeOfFile(std::string_view path, std::uintmax_t size);
+
+// A file of a size that its type does not take. The message is the type's own, or one that tells the sizes.
+class FormatError : public std::runtime_error {
+ public:
+  FormatError(const PictureFormat& format, std::uintmax_t size);
+};
+
+// The picture in `bytes`; the background is `background_before` where the file carries none. Throws FormatError when
+// the type does not take that many bytes. The last bitmap byte is never read, on purpose, and is 255 after reading.
+model::PictureImage Decode(const PictureFormat& format, std::span<const std::uint8_t> bytes,
+                           model::C64Colour background_before);
+
+// Puts the signature KELVOED (in screen codes) and the background colour into the spare screen bytes 1017..1024.
+void Sign(model::PictureImage& picture);
+
+// The 10050 bytes of the own format, the spare screen bytes as they stand.
+app::Bytes Encode(const model::PictureImage& picture);
+
+}  // namespace kelvo::files

@@ -1,0 +1,28 @@
+// The five pictures opened last, kept in the settings.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "app/settings_store.h"
+
+namespace kelvo::files {
+
+class RecentFiles {
+ public:
+  static constexpr int kMost = 5;
+
+  explicit RecentFiles(app::SettingsStore& settings) : settings_(settings) {}
+
+  // At most kMost paths, the latest first; empty places in the settings are left out.
+  std::vector<std::string> Paths() const;
+
+  // A path that is in the list keeps its place; a new one goes to the front, and the last of five drops out.
+  void Add(std::string_view path);
+
+ private:
+  app::SettingsStore& settings_;
+};
+
+}  // namespace kelvo::files

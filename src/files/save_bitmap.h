@@ -1,0 +1,35 @@
+// Saving the picture in the own format, with its backup and its snapshot.
+#pragma once
+
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+#include "app/clock.h"
+#include "app/program_folders.h"
+#include "app/settings_store.h"
+#include "files/document.h"
+
+namespace kelvo::files {
+
+inline constexpr app::Setting kFilePath{"Settings", "FilePath", ""};
+
+// The name that a picture is saved under: `path` itself when it ends in ".kvp", else `path` with its last four
+// characters replaced by ".kvp", whatever they are, on purpose: "pic.txt" becomes "pic.kvp", and "picture" "pic.kvp"
+// too. Throws std::runtime_error for a path of fewer than four characters.
+std::string SavedName(std::string_view path);
+
+struct SavePlaces {
+  const app::ProgramFolders& folders;
+  app::SettingsStore& settings;
+  const app::Clock& clock;
+};
+
+// Writes the picture to SavedName(`path`), an empty path meaning the current file, and makes that the current file. The
+// signature and the background stay in the picture's spare screen bytes. The snapshot of the last load or save goes
+// into the BACKUP folder under the old name with the time, and the new file becomes the snapshot. Throws app::FileError
+// when the picture could not be written: then nothing has changed. Gives what went wrong with the backup or the
+// snapshot after the picture was written, else an empty text.
+std::string SaveBitmap(Document& document, std::string_view path, const SavePlaces& places);
+
+}  // namespace kelvo::files

@@ -1,0 +1,85 @@
+// Puts the program together and runs it.
+#include <QCommandLineParser>
+#include <QDir>
+#include <QFileInfo>
+#include <QStandardPaths>
+#include <algorithm>
+#include <string_view>
+
+#include "app/path_text.h"
+#include "ui/application.h"
+#include "ui/main_frame.h"
+#include "ui/qt_messages.h"
+#include "ui/qt_settings.h"
+#include "ui/qt_text.h"
+
+namespace {
+
+using kelvo::ui::FromQt;
+
+std::filesystem::path PathOf(const QString& text) {
+  return kelvo::app::PathFromText(FromQt(text));
+}
+
+void NameProgram() {
+  QCoreApplication::setOrganizationName("Kelvo");
+  QCoreApplication::setApplicationName("Kelvo");
+  QCoreApplication::setApplicationVersion("1.2");
+  QGuiApplication::setDesktopFileName("kelvo");
+}
+
+// --help and --version are answered without a display.
+bool OnlyAsks(int argc, char** argv) {
+  return std::any_of(argv + 1, argv + argc, [](std::string_view argument) {
+    return argument == "--help" || argument == "-h" || argument == "--version" || argument == "-v";
+  });
+}
+
+void Parse(QCommandLineParser& parser, const QCoreApplication& application) {
+  parser.setApplicationDescription("Editor for Commodore 64 multicolour pictures.");
+  parser.addHelpOption();
+  parser.addVersionOption();
+  parser.addPositionalArgument("picture", "The picture to open (.kvp, .vid, .koa, .kla).", "[picture]");
+  parser.process(application);
+}
+
+kelvo::app::ProgramFolders FindFolders() {
+  const QString executable = QCoreApplication::applicationDirPath();
+  const QString user = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/Kelvo";
+  kelvo::app::ProgramFolders folders(kelvo::app::ChooseProgramFolder(PathOf(executable), PathOf(user)));
+  folders.Create();
+  folders.Seed(PathOf(executable) / ".." / "share" / "kelvo");
+  return folders;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  NameProgram();
+  QCommandLineParser parser;
+  if (OnlyAsks(argc, argv)) {
+    const QCoreApplication application(argc, argv);
+    Parse(parser, application);
+    return 0;
+  }
+  QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+  kelvo::ui::KelvoApplication application(argc, argv);
+  Parse(parser, application);
+
+  const kelvo::app::ProgramFolders folders = FindFolders();
+  kelvo::ui::QtSettings settings;
+  const kelvo::app::SystemClock clock;
+  kelvo::ui::MainFrame frame(folders, settings, clock);
+  kelvo::ui::QtMessages messages(&frame);
+  application.on_error = [&](const std::exception& error) {
+    frame.Log().Write(std::string("MDIFormMenu_Event: ") + error.what());
+    messages.Warn(std::string("Something went wrong; the picture is untouched.\n") + error.what());
+  };
+  frame.StartUp();
+  frame.show();
+  if (!parser.positionalArguments().isEmpty()) {
+    const QFileInfo picture(parser.positionalArguments().first());
+    frame.Files().OpenPicture(FromQt(picture.absoluteFilePath()));
+  }
+  return kelvo::ui::KelvoApplication::exec();
+}

@@ -1,0 +1,51 @@
+// The zoom window: a part of the picture at 4:1 or 8:1, where painting happens.
+#pragma once
+
+#include <QWidget>
+
+#include "model/picture_image.h"
+#include "model/surface.h"
+#include "model/zoom_area.h"
+#include "model/zoom_border.h"
+#include "model/zoom_view.h"
+#include "ui/surface_view.h"
+
+namespace kelvo::ui {
+
+class frmZoom : public QWidget {
+  Q_OBJECT
+
+ public:
+  frmZoom(const model::PictureImage& picture, QWidget* parent);
+
+  const model::ZoomArea& Area() const { return area_; }
+  void SetMagnification(int magnification);  // 4 or 8; shows the top left of the picture
+  void CentreOn(int col, int row);           // 1..40, 1..25
+  void Move(model::ZoomMove move, model::ZoomStep step);
+
+  model::C64Colour GridColor() const { return grid_.colour; }
+  void SetGridColor(model::C64Colour colour);
+  void SetBorder(model::ZoomBorder border);
+  void TickBorder();
+
+  void DrawCapturePic();
+  void RedrawZoomChar(int cell);    // 1..1000
+  void PutZoomPixel(int x, int y);  // 1..160, 1..200
+
+ signals:
+  void AreaChanged();
+
+ private:
+  template <typename Change>
+  void ChangeArea(Change&& change);
+  void DrawBorder();
+
+  const model::PictureImage& picture_;
+  model::ZoomArea area_;
+  model::ZoomGrid grid_;
+  model::ZoomBorderColour border_;
+  model::Surface surface_;
+  SurfaceView* picStd_;
+};
+
+}  // namespace kelvo::ui

@@ -1,0 +1,154 @@
+#include "ui/main_frame.h"
+
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QMdiArea>
+#include <QMenuBar>
+#include <QStatusBar>
+
+#include "app/path_text.h"
+#include "model/palette.h"
+#include "ui/qt_text.h"
+
+namespace kelvo::ui {
+namespace {
+
+constexpr int kTimerMilliseconds = 100;
+constexpr QSize kFirstSize(1016, 700);
+
+model::C64Colour ColourNumber(int number) {
+  return model::C64Colour::FromNumber(number).value_or(model::C64Colour());
+}
+
+QStringList ColourCaptions() {
+  QStringList captions;
+  for (int number = 0; number < model::C64Colour::kCount; ++number) {
+    captions << ToQt(model::ColourName(ColourNumber(number)));
+  }
+  return captions;
+}
+
+}  // namespace
+
+MainFrame::MainFrame(const app::ProgramFolders& folders, app::SettingsStore& settings, const app::Clock& clock)
+    : folders_(folders),
+      settings_(settings),
+      log_(folders.ErrorLogFile(), clock),
+      area_(new QMdiArea(this)),
+      full_view_(new frmBMPView(document_.picture, this)),
+      zoom_(new frmZoom(document_.picture, this)),
+      menu_(*this),
+      panels_(statusBar()),
+      Timer1_(new QTimer(this)),
+      messages_(this),
+      dialogs_(this),
+      views_(*full_view_, *zoom_),
+      files_(document_, {folders, settings, clock, log_, messages_, prompt_, pointer_, dialogs_, *this, views_}) {
+  setObjectName("MDIFormMenu");
+  area_->setObjectName("mdiArea");
+  setCentralWidget(area_);
+  resize(kFirstSize);
+  AddChild(ChildWindowId::kFullView, full_view_, {664, 0});
+  AddChild(ChildWindowId::kZoom, zoom_, {0, 0});
+  connect(full_view_, &frmBMPView::ZoomAreaChosen, zoom_, &frmZoom::CentreOn);
+  MakeChoiceMenus();
+  MakeRecentMenu();
+  Timer1_->setObjectName("Timer1");
+  connect(Timer1_, &QTimer::timeout, this, &MainFrame::Timer1_Timer);
+}
+
+ChildWindow* MainFrame::AddChild(ChildWindowId id, QWidget* form, QPoint place) {
+  auto* child = new ChildWindow(form);
+  area_->addSubWindow(child);
+  child->setAttribute(Qt::WA_DeleteOnClose, false);
+  child->move(place);
+  connect(child, &ChildWindow::ClosedByUser, this, &MainFrame::RefreshMenus);
+  children_[static_cast<std::size_t>(id)] = child;
+  return child;
+}
+
+void MainFrame::MakeChoiceMenus() {
+  background_menu_ = new ChoiceMenu(menu_.Menu("mnuBG"), ColourCaptions());
+  grid_menu_ = new ChoiceMenu(menu_.Menu("mnuGrid"), ColourCaptions());
+  border_menu_ = new ChoiceMenu(menu_.Menu("mnuZB"), {"Flash", "White", "None"});
+  connect(background_menu_, &ChoiceMenu::Chosen, this, &MainFrame::SetBackgroundColour);
+  connect(grid_menu_, &ChoiceMenu::Chosen, this, &MainFrame::SetGridColor);
+  connect(border_menu_, &ChoiceMenu::Chosen, this,
+          [this](int index) { zoom_->SetBorder(static_cast<model::ZoomBorder>(index)); });
+  border_menu_->Check(static_cast<int>(model::ZoomBorder::kNone));
+}
+
+void MainFrame::MakeRecentMenu() {
+  QMenu* menu = menu_.Menu("mnuRecent");
+  connect(menu, &QMenu::aboutToShow, this, [this, menu] {
+    menu->clear();
+    const auto paths = files_.RecentPaths();
+    for (const std::string& path : paths) {
+      QAction* entry = menu->addAction(ToQt(path).replace('&', "&&"));
+      entry->setObjectName(QString("mnuRecent_%1").arg(menu->actions().size() - 1));
+      connect(entry, &QAction::triggered, this, [this, path] { files_.OpenRecent(path); });
+    }
+    if (paths.empty()) menu->addAction("<none>")->setEnabled(false);
+  });
+}
+
+void MainFrame::StartUp() {
+  setWindowTitle(ToQt(files::WindowTitle(document_.file)));
+  zoom_->SetMagnification(app::ReadNumber(settings_, app::kMagnification, 4, 8));
+  SetGridColor(app::ReadNumber(settings_, app::kGridColor, 0, model::C64Colour::kCount - 1));
+  Timer1_->start(kTimerMilliseconds);
+  ShowFile(document_.file);
+  folders_.Create();
+  std::error_code ignored;
+  std::filesystem::remove(folders_.Snapshot(), ignored);  // so that the first save makes no backup
+  views_.PictureChanged();
+}
+
+void MainFrame::SetMagnification(int magnification) {
+  zoom_->SetMagnification(magnification);
+}
+
+void MainFrame::SetBackgroundColour(int number) {
+  document_.picture.BackgroundColour = ColourNumber(number);
+  background_menu_->Check(number);
+  views_.PictureChanged();
+}
+
+void MainFrame::SetGridColor(int number) {
+  zoom_->SetGridColor(ColourNumber(number));
+  grid_menu_->Check(number);
+}
+
+void MainFrame::ToggleWindow(ChildWindowId id) {
+  ChildWindow* child = children_[static_cast<std::size_t>(id)];
+  child->setVisible(!IsWindowShown(id));
+  if (IsWindowShown(id)) area_->setActiveSubWindow(child);
+}
+
+bool MainFrame::IsWindowShown(ChildWindowId id) const {
+  return !children_[static_cast<std::size_t>(id)]->isHidden();
+}
+
+void MainFrame::ShowFile(const files::CurrentFile& file) {
+  setWindowTitle(ToQt(files::WindowTitle(file)));
+  panels_.Show(StatusPanel::kFile, ToQt(files::StatusName(file)));
+  RefreshMenus();
+}
+
+void MainFrame::RefreshMenus() {
+  background_menu_->Check(document_.picture.BackgroundColour.Number());
+  menu_.Refresh();
+}
+
+void MainFrame::Timer1_Timer() {
+  zoom_->TickBorder();
+}
+
+void MainFrame::closeEvent(QCloseEvent* event) {
+  if (!files_.MayClose()) return event->ignore();
+  settings_.Write(app::kGridColor, std::to_string(zoom_->GridColor().Number()));
+  settings_.Write(app::kMagnification, menu_.Action("mnuZoom_4X")->isChecked() ? "4" : "8");
+  event->accept();
+}
+
+}  // namespace kelvo::ui

@@ -1,0 +1,49 @@
+#include "ui/main_menu.h"
+
+#include <QMenuBar>
+
+#include "ui/main_frame.h"
+#include "ui/menu_table.h"
+
+namespace kelvo::ui {
+
+MainMenu::MainMenu(MainFrame& frame) : frame_(frame) {
+  for (const MenuRow& row : Menus()) {
+    auto* menu = new QMenu(row.text, &frame);
+    menu->setObjectName(row.name);
+    menu->setStatusTip(row.tip);
+    if (row.parent == nullptr) frame.menuBar()->addMenu(menu);
+    menus_.insert(row.name, menu);
+  }
+  for (const MenuEntry& entry : MenuEntries()) {
+    QMenu* menu = menus_.value(entry.menu);
+    if (entry.name == nullptr) {
+      menu->addSeparator();
+    } else if (entry.text == nullptr) {
+      menu->addMenu(menus_.value(entry.name));
+    } else {
+      auto* action = new QAction(entry.text, &frame);
+      action->setObjectName(entry.name);
+      action->setShortcut(QKeySequence(entry.key));
+      action->setStatusTip(entry.tip);
+      action->setCheckable(entry.is_checked != nullptr);
+      QObject::connect(action, &QAction::triggered, &frame, [&frame, this, run = entry.run] {
+        run(frame);
+        Refresh();
+      });
+      menu->addAction(action);
+      actions_.insert(entry.name, action);
+    }
+  }
+}
+
+void MainMenu::Refresh() const {
+  for (const MenuEntry& entry : MenuEntries()) {
+    QAction* action = actions_.value(entry.name);
+    if (action == nullptr) continue;
+    action->setEnabled(entry.can == nullptr || entry.can(frame_));
+    if (entry.is_checked != nullptr) action->setChecked(entry.is_checked(frame_));
+  }
+}
+
+}  // namespace kelvo::ui

@@ -1,0 +1,29 @@
+// The menu bar, made from the menu tables.
+#pragma once
+
+#include <QAction>
+#include <QHash>
+#include <QMenu>
+
+namespace kelvo::ui {
+
+class MainFrame;
+
+class MainMenu {
+ public:
+  // Fills `frame`'s menu bar. Every action belongs to `frame` and has its row's name as objectName.
+  explicit MainMenu(MainFrame& frame);
+
+  // Asks every row whether it can, and whether it is checked.
+  void Refresh() const;
+
+  QMenu* Menu(const QString& name) const { return menus_.value(name); }
+  QAction* Action(const QString& name) const { return actions_.value(name); }
+
+ private:
+  MainFrame& frame_;
+  QHash<QString, QMenu*> menus_;
+  QHash<QString, QAction*> actions_;
+};
+
+}  // namespace kelvo::ui

@@ -1,0 +1,81 @@
+#include "ui/menu_table.h"
+
+#include <iterator>
+
+#include "ui/main_frame.h"
+
+namespace kelvo::ui {
+namespace {
+
+constexpr MenuRow kMenus[] = {
+    {"mnuFile", nullptr, "&File", ""},
+    {"mnuRecent", "mnuFile", "Load r&ecent...", "Open this picture"},
+    {"mnuLimPaint", nullptr, "&Paint", ""},
+    {"mnuBG", "mnuLimPaint", "&Background color", "Show this colour wherever the picture's background shows"},
+    {"mnuViewMenu", nullptr, "&Show", ""},
+    {"mnuGrid", "mnuViewMenu", "Zoom &grid", "Draw the grid of the zoom window in this colour"},
+    {"mnuZB", "mnuViewMenu", "Zoom &border", "How the border of the zoom window looks"},
+};
+
+template <ChildWindowId id>
+constexpr MenuEntry ShowEntry(const char* name, const char* text, const char* tip) {
+  return {name,    "mnuViewMenu",
+          text,    "",
+          tip,     [](MainFrame& f) { f.ToggleWindow(id); },
+          nullptr, [](const MainFrame& f) { return f.IsWindowShown(id); }};
+}
+
+template <int magnification>
+constexpr MenuEntry ZoomEntry(const char* name, const char* text, const char* key, const char* tip) {
+  return {name,    "mnuViewMenu",
+          text,    key,
+          tip,     [](MainFrame& f) { f.SetMagnification(magnification); },
+          nullptr, [](const MainFrame& f) { return f.Zoom().Area().Magnification() == magnification; }};
+}
+
+constexpr MenuEntry Separator(const char* menu) {
+  return {nullptr, menu, nullptr, "", "", nullptr};
+}
+
+constexpr MenuEntry Submenu(const char* name, const char* menu) {
+  return {name, menu, nullptr, "", "", nullptr};
+}
+
+constexpr auto kHasFile = [](const MainFrame& f) { return f.HasFile(); };
+
+constexpr MenuEntry kEntries[] = {
+    {"mnuNew", "mnuFile", "&New", "Ctrl+N", "Begin an empty picture", [](MainFrame& f) { f.Files().New(); }},
+    {"mnuLoad", "mnuFile", "&Load...", "Ctrl+O", "Open a picture", [](MainFrame& f) { f.Files().Open(); }},
+    {"mnuReload", "mnuFile", "&Reload", "Ctrl+R", "Open the current picture's file again",
+     [](MainFrame& f) { f.Files().Reload(); }, kHasFile},
+    Submenu("mnuRecent", "mnuFile"),
+    Separator("mnuFile"),
+    {"mnuSave", "mnuFile", "&Save", "Ctrl+S", "Save the picture under its name",
+     [](MainFrame& f) { f.Files().Save(); }},
+    {"mnuSaveAs", "mnuFile", "Save &As...", "Ctrl+Shift+S", "Save the picture under another name",
+     [](MainFrame& f) { f.Files().SaveAs(); }},
+    Separator("mnuFile"),
+    {"mnuExit", "mnuFile", "E&xit", "Ctrl+Q", "End the program", [](MainFrame& f) { f.close(); }},
+
+    Submenu("mnuBG", "mnuLimPaint"),
+
+    ShowEntry<ChildWindowId::kFullView>("mnuView_0", "&Full view", "Show or hide the whole picture"),
+    ShowEntry<ChildWindowId::kZoom>("mnuView_4", "&Zoom window", "Show or hide the zoom window"),
+    Separator("mnuViewMenu"),
+    ZoomEntry<4>("mnuZoom_4X", "Zoom &4:1", "Ctrl+4", "Show pixels four times as large"),
+    ZoomEntry<8>("mnuZoom_8X", "Zoom &8:1", "Ctrl+8", "Show pixels eight times as large"),
+    Submenu("mnuGrid", "mnuViewMenu"),
+    Submenu("mnuZB", "mnuViewMenu"),
+};
+
+}  // namespace
+
+std::span<const MenuRow> Menus() {
+  return kMenus;
+}
+
+std::span<const MenuEntry> MenuEntries() {
+  return kEntries;
+}
+
+}  // namespace kelvo::ui

@@ -1,0 +1,32 @@
+// Every menu and every plain menu entry of the main window, as rows of two tables.
+#pragma once
+
+#include <span>
+
+namespace kelvo::ui {
+
+class MainFrame;
+
+struct MenuRow {
+  const char* name;    // objectName
+  const char* parent;  // the menu that holds it; null: the menu bar
+  const char* text;
+  const char* tip;  // status text; for a menu of choices, that of each choice
+};
+
+// An entry, a separator (no name), or the place of a submenu (no text).
+struct MenuEntry {
+  const char* name;
+  const char* menu;
+  const char* text;
+  const char* key;  // empty: no shortcut
+  const char* tip;
+  void (*run)(MainFrame&);
+  bool (*can)(const MainFrame&) = nullptr;         // null: always
+  bool (*is_checked)(const MainFrame&) = nullptr;  // null: the entry carries no check mark
+};
+
+std::span<const MenuRow> Menus();
+std::span<const MenuEntry> MenuEntries();
+
+}  // namespace kelvo::ui

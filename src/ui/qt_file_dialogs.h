@@ -1,0 +1,26 @@
+// The common open and save dialogs.
+#pragma once
+
+#include <QPointer>
+#include <QString>
+#include <QWidget>
+
+#include "files/file_ports.h"
+
+namespace kelvo::ui {
+
+// "Caption|*.a;*.b|Caption|*.c" as Qt's "Caption (*.a *.b);;Caption (*.c)".
+QString ToQtFilter(std::string_view filter);
+
+class QtFileDialogs final : public files::FileDialogs {
+ public:
+  explicit QtFileDialogs(QWidget* parent) : parent_(parent) {}
+
+  std::optional<files::ChosenFile> SelectFile(const std::string& folder) override;
+  std::optional<std::string> SaveAs(const std::string& path) override;
+
+ private:
+  QPointer<QWidget> parent_;
+};
+
+}  // namespace kelvo::ui

@@ -1,0 +1,85 @@
+#include "ui/surface_view.h"
+
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPainter>
+#include <cmath>
+
+namespace kelvo::ui {
+
+SurfaceView::SurfaceView(model::Surface& surface, int unit, QWidget* parent)
+    : QWidget(parent),
+      image_(reinterpret_cast<const uchar*>(surface.Row(0)), surface.Width(), surface.Height(), QImage::Format_RGB32),
+      unit_(unit) {
+  setAttribute(Qt::WA_OpaquePaintEvent);
+  setMouseTracking(true);
+  setFocusPolicy(Qt::StrongFocus);
+  TakeScale();
+}
+
+double SurfaceView::Scale() const {
+  const double device = devicePixelRatioF();
+  return std::floor(device * unit_) / unit_ / device;
+}
+
+void SurfaceView::TakeScale() {
+  scale_ = Scale();
+  setFixedSize(sizeHint());
+}
+
+QSize SurfaceView::sizeHint() const {
+  const QSizeF size = QSizeF(image_.size()) * scale_;
+  return {static_cast<int>(std::ceil(size.width())), static_cast<int>(std::ceil(size.height()))};
+}
+
+void SurfaceView::Refresh(const model::Rect& area) {
+  update(WidgetRect(area).toAlignedRect());
+}
+
+void SurfaceView::Refresh() {
+  update();
+}
+
+QPoint SurfaceView::SurfacePoint(const QPointF& place) const {
+  return {static_cast<int>(std::floor(place.x() / scale_)), static_cast<int>(std::floor(place.y() / scale_))};
+}
+
+QRectF SurfaceView::WidgetRect(const model::Rect& area) const {
+  return {area.x * scale_, area.y * scale_, area.width * scale_, area.height * scale_};
+}
+
+void SurfaceView::paintEvent(QPaintEvent* event) {
+  QPainter painter(this);
+  if (scale_ == 1.0 && devicePixelRatioF() == 1.0) {
+    for (const QRect& part : event->region()) painter.drawImage(part, image_, part);
+  } else {
+    painter.fillRect(event->rect(), Qt::black);  // the fraction of a pixel that the widget is larger
+    painter.scale(scale_, scale_);
+    painter.drawImage(0, 0, image_);
+  }
+  PaintOverlay(painter);
+}
+
+void SurfaceView::showEvent(QShowEvent* event) {
+  TakeScale();
+  QWidget::showEvent(event);
+}
+
+void SurfaceView::mousePressEvent(QMouseEvent* event) {
+  emit Pressed(SurfacePoint(event->position()), event->button(), event->modifiers());
+}
+
+void SurfaceView::mouseMoveEvent(QMouseEvent* event) {
+  emit Moved(SurfacePoint(event->position()), event->buttons());
+}
+
+void SurfaceView::mouseReleaseEvent(QMouseEvent* event) {
+  emit Released(SurfacePoint(event->position()), event->button());
+}
+
+void SurfaceView::leaveEvent(QEvent* event) {
+  emit PointerLeft();
+  QWidget::leaveEvent(event);
+}
+
+}  // namespace kelvo::ui

@@ -1,0 +1,58 @@
+// A widget that shows a Surface, pixel for pixel, and tells where the pointer is on it.
+#pragma once
+
+#include <QImage>
+#include <QPoint>
+#include <QWidget>
+
+#include "model/surface.h"
+
+namespace kelvo::ui {
+
+// A surface pixel becomes as many device pixels as the display's scale asks for, as long as `unit` surface pixels (the
+// side of the smallest thing drawn) come out at a whole number of them; else a little less. So nothing is ever blurred,
+// and no two columns of one width come out at different widths.
+class SurfaceView : public QWidget {
+  Q_OBJECT
+
+ public:
+  SurfaceView(model::Surface& surface, int unit, QWidget* parent);
+
+  // The surface was drawn on in `area`, or everywhere.
+  void Refresh(const model::Rect& area);
+  void Refresh();
+
+  // The surface pixel under a place of the widget; it may lie outside the surface.
+  QPoint SurfacePoint(const QPointF& place) const;
+  // A rectangle of the surface in the widget's coordinates.
+  QRectF WidgetRect(const model::Rect& area) const;
+
+  QSize sizeHint() const override;
+
+ signals:
+  void Pressed(QPoint at, Qt::MouseButton button, Qt::KeyboardModifiers modifiers);
+  void Moved(QPoint at, Qt::MouseButtons buttons);
+  void Released(QPoint at, Qt::MouseButton button);
+  void PointerLeft();
+
+ protected:
+  // What is drawn over the surface, in the surface's coordinates.
+  virtual void PaintOverlay(QPainter&) {}
+
+  void paintEvent(QPaintEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void leaveEvent(QEvent* event) override;
+
+ private:
+  double Scale() const;  // widget pixels that a surface pixel takes
+  void TakeScale();
+
+  QImage image_;  // the surface's own pixels, not a copy
+  int unit_;
+  double scale_ = 1.0;
+};
+
+}  // namespace kelvo::ui
