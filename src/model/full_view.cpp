@@ -1,7 +1,9 @@
 #include "model/full_view.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <cstring>
 
 #include "model/cell_palette.h"
 #include "model/palette.h"
@@ -13,17 +15,28 @@ namespace {
 
 constexpr int kCellSide = 8;  // display pixels of a cell, across and down
 
-bool IsOneColour(std::uint8_t byte) {
-  return byte == 0xFF || byte == 0xAA || byte == 0x55;
+// True when the byte's four pixels are of one bit pair.
+constexpr bool IsOneColour(std::uint8_t byte) {
+  return (byte & 3) * 0b01010101 == byte;
+}
+
+// A cell's colours by bit pair, each twice: the two equal display pixels of a picture pixel, put down in one go.
+using DoubledPalette = std::array<std::uint64_t, 4>;
+
+DoubledPalette Doubled(const CellPalette& palette) {
+  const auto twice = [](std::uint32_t colour) { return std::uint64_t{colour} << 32 | colour; };
+  return {twice(palette[0]), twice(palette[1]), twice(palette[2]), twice(palette[3])};
 }
 
 // One line of a cell, eight display pixels: a byte of one colour is one run.
-void DrawCellLine(std::uint8_t byte, const CellPalette& palette, std::uint32_t* at) {
+void DrawCellLine(std::uint8_t byte, const DoubledPalette& palette, std::uint32_t* at) {
+  const auto put = [&](int position, std::uint64_t colour) { std::memcpy(at + 2 * position, &colour, sizeof colour); };
   if (IsOneColour(byte)) {
-    std::fill_n(at, kCellSide, PixelIn(palette, byte, 1));
+    const std::uint64_t colour = palette[byte & 3];
+    for (int position = 0; position < 4; ++position) put(position, colour);
     return;
   }
-  for (int position = 1; position <= 4; ++position, at += 2) at[0] = at[1] = PixelIn(palette, byte, position);
+  for (int position = 0; position < 4; ++position) put(position, palette[byte >> (6 - 2 * position) & 3]);
 }
 
 }  // namespace
@@ -36,14 +49,15 @@ Rect FullViewCellRect(int cell) {
 void DrawPicture(const PictureImage& picture, Surface& surface, app::Progress& progress) {
   const app::ProgressScope scope(progress, PictureImage::kCellsHigh - 1);
   surface.Fill({0, 0, kFullViewWidth, kFullViewHeight}, SurfaceColour(picture.BackgroundColour));
+  const int stride = surface.Width();
   int cell = 1;
   const std::uint8_t* bytes = &picture.Bitmap[1];
   for (int row = 0; row < PictureImage::kCellsHigh; ++row) {
     for (int column = 0; column < PictureImage::kCellsWide; ++column, ++cell) {
-      const CellPalette palette = PaletteOfCell(picture, cell);
-      for (int line = 0; line < kCellSide; ++line, ++bytes) {
-        if (*bytes == 0) continue;  // background only: the fill has drawn it
-        DrawCellLine(*bytes, palette, surface.Row(row * kCellSide + line) + column * kCellSide);
+      const DoubledPalette palette = Doubled(PaletteOfCell(picture, cell));
+      std::uint32_t* at = surface.Row(row * kCellSide) + column * kCellSide;
+      for (int line = 0; line < kCellSide; ++line, ++bytes, at += stride) {
+        if (*bytes != 0) DrawCellLine(*bytes, palette, at);  // else background only: the fill has drawn it
       }
     }
     progress.Advance(row);
@@ -51,7 +65,7 @@ void DrawPicture(const PictureImage& picture, Surface& surface, app::Progress& p
 }
 
 void RedrawChar(const PictureImage& picture, int cell, Surface& surface) {
-  const CellPalette palette = PaletteOfCell(picture, cell);
+  const DoubledPalette palette = Doubled(PaletteOfCell(picture, cell));
   const Rect at = FullViewCellRect(cell);
   const std::uint8_t* bytes = &picture.Bitmap[static_cast<std::size_t>(BaseOfCell(cell) + 1)];
   for (int line = 0; line < kCellSide; ++line) DrawCellLine(bytes[line], palette, surface.Row(at.y + line) + at.x);

@@ -1,0 +1,220 @@
+// Opening, saving, reloading and beginning pictures, on real files.
+#include "files/picture_files.h"
+
+#include <gtest/gtest.h>
+
+#include "app/path_text.h"
+#include "support/pictures.h"
+#include "support/recorders.h"
+#include "support/temp_folder.h"
+
+namespace kelvo::files {
+namespace {
+
+namespace fs = std::filesystem;
+using support::Lines;
+
+class PictureFilesTest : public testing::Test {
+ protected:
+  PictureFilesTest() { folders.Create(); }
+
+  std::string Place(const std::string& name) const { return app::TextFromPath(folder / name); }
+  std::string WriteKoala(const std::string& name, std::uint8_t seed = 0) {
+    app::Bytes bytes = support::CountingBytes(10003);
+    bytes[100] = seed;
+    support::WriteFile(folder / name, bytes);
+    return Place(name);
+  }
+  Lines Backups() const {
+    Lines names;
+    for (const auto& entry : fs::directory_iterator(folders.Backup()))
+      names.push_back(entry.path().filename().string());
+    std::sort(names.begin(), names.end());
+    return names;
+  }
+  std::string LogText() const {
+    const app::Bytes bytes = support::ReadFile(folders.ErrorLogFile());
+    return {bytes.begin(), bytes.end()};
+  }
+
+  support::TempFolder folder;
+  app::ProgramFolders folders{folder / "program"};
+  support::MapSettings settings;
+  support::FixedClock clock;
+  app::ErrorLog log{folders.ErrorLogFile(), clock};
+  support::RecordingMessages messages;
+  support::RecordingPrompt prompt;
+  support::NoWaitPointer pointer;
+  support::PlannedDialogs dialogs;
+  support::RecordingDisplay display;
+  support::RecordingViews views;
+  Document document;
+  PictureFiles files{document, {folders, settings, clock, log, messages, prompt, pointer, dialogs, display, views}};
+};
+
+TEST_F(PictureFilesTest, OpeningByDialogTakesTheChosenTypeAndTellsEveryone) {
+  const std::string path = WriteKoala("Castle.PRG");
+  dialogs.open = ChosenFile{path, kKoaType};
+  EXPECT_TRUE(files.Open());
+  EXPECT_EQ(dialogs.folders, Lines{app::TextFromPath(folders.Gfx())});
+  EXPECT_EQ(settings.values["Settings/FilePath"], app::TextFromPath(folder.Path()));
+  EXPECT_EQ(document.file.CurrentFilePath, path);
+  EXPECT_EQ(display.title, "Kelvo v1.2 by the Kelvo developers [Castle]");
+  EXPECT_EQ(prompt.lines, Lines{"LOAD Castle"});
+  EXPECT_EQ(views.pictures, 1);
+  EXPECT_EQ(files.RecentPaths(), Lines{path});
+  EXPECT_EQ(support::ReadFile(folders.Snapshot()), support::ReadFile(folder / "Castle.PRG"));
+  EXPECT_FALSE(document.HasUnsavedWork());
+
+  dialogs.open.reset();
+  EXPECT_FALSE(files.Open());
+  EXPECT_EQ(prompt.lines.size(), 1U);
+}
+
+TEST_F(PictureFilesTest, AFailedLoadChangesNothing) {
+  files.OpenPicture(WriteKoala("good.koa"));
+  const Document before = document;
+  fs::create_directory(folder / "folder.kvp");
+  support::WriteFile(folder / "empty.kvp", {});
+  support::WriteFile(folder / "short.koa", support::CountingBytes(10002));
+  support::WriteFile(folder / "odd.prg", support::CountingBytes(77));
+  support::WriteFile(folder / "huge.kvp", {});
+  fs::resize_file(folder / "huge.kvp", std::uintmax_t{4} << 30);
+  struct Case {
+    const char* name;
+    bool own_message;  // a size message alone; else the failed line as well
+  };
+  for (const Case& c : {Case{"missing.kvp", false},
+                        {"folder.kvp", false},
+                        {"empty.kvp", true},
+                        {"short.koa", true},
+                        {"odd.prg", false},
+                        {"huge.kvp", true}}) {
+    SCOPED_TRACE(c.name);
+    prompt.lines.clear();
+    messages.shown.clear();
+    EXPECT_FALSE(files.OpenPicture(Place(c.name)));
+    EXPECT_EQ(document.picture, before.picture);
+    EXPECT_EQ(document.file.CurrentFilePath, before.file.CurrentFilePath);
+    EXPECT_EQ(messages.shown.size(), 1U);
+    EXPECT_EQ(prompt.lines, c.own_message ? Lines{} : Lines{"LOAD " + NameOfPath(c.name) + " [err 902]"});
+    EXPECT_FALSE(LogText().empty());
+  }
+  messages.shown.clear();
+  files.OpenPicture(Place("missing.kvp"), OnFailure::kPromptOnly);
+  EXPECT_TRUE(messages.shown.empty());
+  EXPECT_EQ(files.RecentPaths().size(), 1U);
+  EXPECT_NE(LogText().find("260203 09:07:05 MDIFormMenu_LoadPicture: "), std::string::npos);
+}
+
+TEST_F(PictureFilesTest, SavingKeepsTheStateBeforeAsBackup) {
+  const std::string path = WriteKoala("pic.koa");
+  files.OpenPicture(path);
+  document.picture.Bitmap[5] ^= 1;
+  EXPECT_TRUE(files.Save());
+  EXPECT_EQ(document.file.CurrentFilePath, Place("pic.kvp"));
+  EXPECT_EQ(prompt.lines.back(), "SAVE pic.koa");
+  EXPECT_EQ(fs::file_size(folder / "pic.kvp"), 10050U);
+  EXPECT_EQ(document.picture.ScreenMemory[1017], 11);  // the signature stays in memory
+  EXPECT_FALSE(document.HasUnsavedWork());
+  EXPECT_EQ(Backups(), Lines{"pic.koa_2602030907.prg"});
+  EXPECT_EQ(support::ReadFile(folders.Backup() / "pic.koa_2602030907.prg"), support::ReadFile(folder / "pic.koa"));
+  EXPECT_EQ(support::ReadFile(folders.Snapshot()), support::ReadFile(folder / "pic.kvp"));
+  for (const auto& entry : fs::directory_iterator(folder.Path())) {
+    EXPECT_NE(entry.path().extension(), ".tmp") << "a temporary file is left";
+  }
+}
+
+TEST_F(PictureFilesTest, SavingElsewhereMayBeRefusedAndThenNothingChanges) {
+  files.OpenPicture(WriteKoala("pic.koa"));
+  support::WriteFile(folder / "pic.kvp", {1, 2, 3});
+  EXPECT_FALSE(files.Save());  // it would replace another picture, and the answer is no
+  EXPECT_EQ(support::ReadFile(folder / "pic.kvp"), (app::Bytes{1, 2, 3}));
+
+  document.picture.Bitmap[5] ^= 1;
+  const Document before = document;
+  for (const std::string& path :
+       {Place("gone/pic.kvp"), std::string("abc"), app::TextFromPath(folders.Gfx()) + ".kvp/x.kvp"}) {
+    messages.shown.clear();
+    EXPECT_FALSE(files.SaveTo(path)) << path;
+    EXPECT_EQ(messages.shown.size(), 1U);
+    EXPECT_EQ(document.picture, before.picture);
+    EXPECT_EQ(document.file.CurrentFilePath, before.file.CurrentFilePath);
+    EXPECT_TRUE(document.HasUnsavedWork());
+  }
+}
+
+TEST_F(PictureFilesTest, APictureWithoutFileIsSavedByDialog) {
+  EXPECT_FALSE(files.Save());
+  EXPECT_EQ(dialogs.proposals, Lines{app::TextFromPath(folders.Gfx()) + "/unnamed.kvp"});
+  dialogs.save = Place("new.kvp");
+  EXPECT_TRUE(files.Save());
+  EXPECT_EQ(document.file.CurrentFileName, "new.kvp");
+  EXPECT_EQ(settings.values["Settings/FilePath"], app::TextFromPath(folder.Path()));
+  EXPECT_TRUE(Backups().empty());
+}
+
+TEST_F(PictureFilesTest, UnsavedWorkIsKeptBeforeItIsThrownAway) {
+  const std::string path = WriteKoala("pic.koa");
+  files.OpenPicture(path);
+  const auto draw = [&](std::uint8_t byte) { document.picture.Bitmap[9] = byte; };
+  draw(1);
+  files.New();
+  EXPECT_EQ(document.picture, (model::PictureImage{.BackgroundColour = document.picture.BackgroundColour}));
+  EXPECT_EQ(display.title, "Kelvo v1.2 by the Kelvo developers [unnamed.kvp]");
+  EXPECT_EQ(prompt.lines.back(), "NEW");
+  EXPECT_FALSE(files.Reload());
+  files.OpenPicture(path);
+  draw(2);
+  EXPECT_TRUE(files.Reload());
+  draw(3);
+  files.OpenPicture(WriteKoala("other.koa"));
+  EXPECT_EQ(Backups(), (Lines{"pic.koa_2602030907_unsaved.kvp", "pic.koa_2602030907_unsaved_2.kvp",
+                              "pic.koa_2602030907_unsaved_3.kvp"}));
+  EXPECT_EQ(support::ReadFile(folders.Backup() / "pic.koa_2602030907_unsaved_2.kvp")[2050 + 8], 2);
+
+  draw(4);
+  fs::remove_all(folders.Backup());
+  support::WriteFile(folders.Backup(), {});  // a file in the folder's place: no rescue copy can be written
+  files.New();
+  EXPECT_EQ(document.picture.Bitmap[9], 4);
+  messages.yes = true;
+  files.New();
+  EXPECT_EQ(document.picture.Bitmap[9], 0);
+}
+
+TEST_F(PictureFilesTest, ClosingAsksAboutUnsavedWork) {
+  EXPECT_TRUE(files.MayClose());
+  document.picture.Bitmap[9] = 1;
+  EXPECT_FALSE(files.MayClose());
+  messages.unsaved = app::UnsavedAnswer::kSave;
+  EXPECT_FALSE(files.MayClose());  // the save dialog was cancelled
+  dialogs.save = Place("kept.kvp");
+  EXPECT_TRUE(files.MayClose());
+  EXPECT_TRUE(fs::exists(folder / "kept.kvp"));
+  document.picture.Bitmap[9] = 2;
+  messages.unsaved = app::UnsavedAnswer::kDiscard;
+  EXPECT_TRUE(files.MayClose());
+}
+
+TEST(SavedName, ReplacesTheLastFourCharacters) {
+  EXPECT_EQ(SavedName("pic.kvp"), "pic.kvp");
+  EXPECT_EQ(SavedName("pic.txt"), "pic.kvp");
+  EXPECT_EQ(SavedName("picture"), "pic.kvp");
+  EXPECT_EQ(SavedName("pic.KVP"), "pic.kvp");
+  EXPECT_EQ(SavedName("b\xC3\xA4\xC3\xB6\xC3\xBC\xC3\x9F"), "b.kvp");  // characters, not bytes
+  EXPECT_THROW(SavedName("abc"), std::runtime_error);
+}
+
+TEST(RecentFiles, KeepTheFiveLastInOrder) {
+  support::MapSettings settings;
+  RecentFiles recent(settings);
+  EXPECT_TRUE(recent.Paths().empty());
+  settings.values["Recent/Recent2"] = "old";  // a gap before it closes
+  for (const char* path : {"a", "b", "c", "d", "b", "e"}) recent.Add(path);
+  EXPECT_EQ(recent.Paths(), (Lines{"e", "d", "c", "b", "a"}));
+  EXPECT_EQ(settings.values["Recent/Recent5"], "a");
+}
+
+}  // namespace
+}  // namespace kelvo::files
