@@ -1,4 +1,5 @@
-// A Qt program that shows an empty main window with four empty child windows: what any program like ours costs at least.
+// A Qt program that shows an empty main window with four empty child windows: what any program like ours costs at
+// least.
 #include <QApplication>
 #include <QMainWindow>
 #include <QMdiArea>
