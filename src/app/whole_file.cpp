@@ -42,8 +42,9 @@ std::uintmax_t FileSize(const fs::path& file) {
 
 Bytes ReadWholeFile(const fs::path& file, std::uintmax_t most) {
   const std::uintmax_t size = FileSize(file);
-  if (size > most)
+  if (size > most) {
     Fail(file, "it has " + std::to_string(size) + " bytes, at most " + std::to_string(most) + " are read");
+  }
   std::ifstream stream(file, std::ios::binary);
   Bytes bytes(static_cast<std::size_t>(size));
   stream.read(reinterpret_cast<char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));

@@ -24,7 +24,7 @@ double SurfaceView::Scale() const {
 
 void SurfaceView::TakeScale() {
   scale_ = Scale();
-  setFixedSize(sizeHint());
+  setFixedSize(SurfaceView::sizeHint());
 }
 
 QSize SurfaceView::sizeHint() const {
