@@ -1,8 +1,23 @@
 #include "ui/application.h"
 
+#include <QIcon>
 #include <exception>
 
+namespace {
+
+// The icons lie in a static library, so they register only when asked to; the macro must stand in no named namespace.
+void RegisterIcons() {
+  Q_INIT_RESOURCE(icons);
+}
+
+}  // namespace
+
 namespace kelvo::ui {
+
+KelvoApplication::KelvoApplication(int& argc, char** argv) : QApplication(argc, argv) {
+  RegisterIcons();
+  setWindowIcon(QIcon(":/icons/kelvo.svg"));
+}
 
 bool KelvoApplication::notify(QObject* receiver, QEvent* event) {
   try {

@@ -11,7 +11,7 @@ class KelvoApplication : public QApplication {
   Q_OBJECT
 
  public:
-  using QApplication::QApplication;
+  KelvoApplication(int& argc, char** argv);
 
   std::function<void(const std::exception&)> on_error;
 
