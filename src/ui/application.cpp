@@ -3,14 +3,10 @@
 #include <QIcon>
 #include <exception>
 
-namespace {
-
-// The icons lie in a static library, so they register only when asked to; the macro must stand in no named namespace.
-void RegisterIcons() {
+// The icons lie in a static library, so they register only when asked to; the macro must stand in no namespace.
+static void RegisterIcons() {
   Q_INIT_RESOURCE(icons);
 }
-
-}  // namespace
 
 namespace kelvo::ui {
 

@@ -1,0 +1,54 @@
+// The char data window: the cell under the pointer, enlarged, in bytes and in colours.
+#pragma once
+
+#include <QLabel>
+#include <QWidget>
+#include <array>
+
+#include "model/picture_image.h"
+#include "model/pixel_place.h"
+#include "model/surface.h"
+#include "ui/surface_view.h"
+#include "ui/swatch_button.h"
+
+namespace kelvo::ui {
+
+class frmCharData : public QWidget {
+  Q_OBJECT
+
+ public:
+  frmCharData(const model::PictureImage& picture, QWidget* parent);
+
+  // Shows the cell of `place`, and the bit pairs of its line: the pair at the pointer's position is the selected one.
+  void Show(const model::PixelPlace& place);
+
+  // The cell that is shown changed.
+  void Refresh() { Show(place_); }
+  int Cell() const { return place_.cell; }
+
+  // The caption of the label for `position` (1..4 from the left) in the pointer's byte: "00".."11".
+  QString BitPairCaption(int position) const;
+
+ private:
+  // One of the cell's four colours: its slot, its swatch, its name and the number of its pixels.
+  struct SlotRow {
+    SwatchButton* swatch;
+    QLabel* name;
+    QLabel* count;
+  };
+  void MakeCellBox();
+  void ShowBytes();
+  void ShowSlots();
+  void ShowBitPairs();
+
+  const model::PictureImage& picture_;
+  model::PixelPlace place_;
+  model::Surface surface_;
+  SurfaceView* picStd_;
+  std::array<QLabel*, 4> lblBits_{};
+  std::array<QLabel*, 8> lblBytes_{};
+  QLabel* lblCell_;
+  std::array<SlotRow, 4> slots_{};
+};
+
+}  // namespace kelvo::ui

@@ -1,0 +1,42 @@
+// A button that shows one C64 colour and what it is used for.
+#pragma once
+
+#include <QAbstractButton>
+#include <QString>
+
+#include "model/c64_colour.h"
+
+namespace kelvo::ui {
+
+// "Light red": the colour's name without its number.
+QString PlainColourName(model::C64Colour colour);
+
+// Any mouse button presses it; the keyboard's Space stands for the left one, with Ctrl for the right, with Shift for the
+// left with Shift.
+class SwatchButton : public QAbstractButton {
+  Q_OBJECT
+
+ public:
+  explicit SwatchButton(QWidget* parent);
+
+  // Shows `colour`; `marks` are letters in its corner, `in_cell` puts a dot below them. `role` begins the accessible name.
+  void Show(model::C64Colour colour, const QString& role = {}, const QString& marks = {}, bool in_cell = false);
+  model::C64Colour Colour() const { return colour_; }
+
+  QSize sizeHint() const override;
+
+ signals:
+  void Chosen(Qt::MouseButton button, Qt::KeyboardModifiers modifiers);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  model::C64Colour colour_;
+  QString marks_;
+  bool in_cell_ = false;
+};
+
+}  // namespace kelvo::ui
