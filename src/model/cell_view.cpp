@@ -1,33 +1,49 @@
 #include "model/cell_view.h"
 
-#include "model/cell_palette.h"
+#include "model/palette.h"
 #include "model/pixel_place.h"
 
 namespace kelvo::model {
 namespace {
 
-// Calls `visit` with the cell's pixels: column 0..3, line 0..7, byte.
-template <typename Visit>
-void ForEachPixel(const PictureImage& picture, int cell, Visit&& visit) {
+// Draws the four by eight boxes of a cell; `colour_of` gives a byte's pixel at a position (1..4).
+template <typename ColourOf>
+void DrawBoxes(const std::uint8_t* bytes, ColourOf&& colour_of, Surface& surface) {
+  const int width = surface.Width() / 4, height = surface.Height() / 8;
   for (int line = 0; line < 8; ++line) {
-    const std::uint8_t byte = picture.Bitmap[static_cast<std::size_t>(BaseOfCell(cell) + 1 + line)];
-    for (int column = 0; column < 4; ++column) visit(column, line, PairAt(byte, column + 1));
+    for (int position = 1; position <= 4; ++position) {
+      surface.Fill({(position - 1) * width, line * height, width, height},
+                   SurfaceColour(colour_of(bytes[line], position)));
+    }
   }
+}
+
+const std::uint8_t* BytesOf(const PictureImage& picture, int cell) {
+  return &picture.Bitmap[static_cast<std::size_t>(BaseOfCell(cell) + 1)];
 }
 
 }  // namespace
 
 void DrawCellView(const PictureImage& picture, int cell, Surface& surface) {
-  const CellPalette palette = PaletteOfCell(picture, cell);
-  ForEachPixel(picture, cell, [&](int column, int line, BitPair pair) {
-    surface.Fill({column * kCellViewBoxWidth, line * kCellViewBoxHeight, kCellViewBoxWidth, kCellViewBoxHeight},
-                 palette[static_cast<std::size_t>(pair)]);
-  });
+  DrawBoxes(
+      BytesOf(picture, cell),
+      [&](std::uint8_t byte, int position) { return GetPixelColour(picture, byte, position, BaseOfCell(cell) + 1); },
+      surface);
+}
+
+void DrawCharCopy(const DetachedCell& cell, C64Colour background, Surface& surface) {
+  DrawBoxes(
+      &cell[3], [&](std::uint8_t byte, int position) { return GetPixelColour(cell, byte, position, background); },
+      surface);
 }
 
 std::array<int, 4> CountPairs(const PictureImage& picture, int cell) {
   std::array<int, 4> counts{};
-  ForEachPixel(picture, cell, [&](int, int, BitPair pair) { ++counts[static_cast<std::size_t>(pair)]; });
+  for (int line = 0; line < 8; ++line) {
+    for (int position = 1; position <= 4; ++position) {
+      ++counts[static_cast<std::size_t>(PairAt(BytesOf(picture, cell)[line], position))];
+    }
+  }
   return counts;
 }
 

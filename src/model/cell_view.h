@@ -2,19 +2,21 @@
 #pragma once
 
 #include <array>
-#include <cstdint>
 
 #include "model/picture_image.h"
+#include "model/pixel_colour.h"
 #include "model/surface.h"
 
 namespace kelvo::model {
 
-// One pixel of an enlarged cell is 24 x 12 display pixels.
-inline constexpr int kCellViewBoxWidth = 24, kCellViewBoxHeight = 12;
-inline constexpr int kCellViewWidth = 4 * kCellViewBoxWidth, kCellViewHeight = 8 * kCellViewBoxHeight;
+// One pixel of the enlarged cell in the char data window is 24 x 12 display pixels.
+inline constexpr int kCellViewWidth = 96, kCellViewHeight = 96;
 
-// Draws `cell` (1..1000) into a surface of kCellViewWidth x kCellViewHeight.
+// Fills a surface, whose sides are multiples of 4 and 8, with `cell` (1..1000).
 void DrawCellView(const PictureImage& picture, int cell, Surface& surface);
+
+// The same for the cell in the copy buffer.
+void DrawCharCopy(const DetachedCell& cell, C64Colour background, Surface& surface);
 
 // How many of the cell's 32 pixels show each bit pair, %00 first.
 std::array<int, 4> CountPairs(const PictureImage& picture, int cell);

@@ -1,0 +1,108 @@
+#include "editing/painting.h"
+
+#include "editing/cell_tools.h"
+#include "editing/circle_tool.h"
+#include "editing/draw_tool.h"
+#include "editing/fill_tool.h"
+#include "editing/line_tool.h"
+
+namespace kelvo::editing {
+namespace {
+
+constexpr std::array<ToolRow, 7> kTools{{
+    {"draw", "Draw", 'D'},
+    {"fill", "Fill", 'F'},
+    {"line", "Line", 'L'},
+    {"continuous_line", "Continous line", 'K'},
+    {"circle", "Circle", 'C'},
+    {"mouse_copy", "Mouse copy", 'M'},
+    {"block_fill", "Char block fill", 'B'},
+}};
+
+}  // namespace
+
+std::span<const ToolRow> ToolTable() {
+  return kTools;
+}
+
+// Marks one event as being at work for as long as it lives.
+class Painting::BusyScope {
+ public:
+  explicit BusyScope(bool& busy) : busy_(busy) { busy_ = true; }
+  ~BusyScope() { busy_ = false; }
+  BusyScope(const BusyScope&) = delete;
+  BusyScope& operator=(const BusyScope&) = delete;
+
+ private:
+  bool& busy_;
+};
+
+Painting::Painting(model::PictureImage& picture, const PaintingPorts& ports)
+    : undo_(picture, ports.views),
+      plotter_(picture, ports.views, ports.settings, ports.messages),
+      fill_(picture, ports.views, ports.events),
+      tools_{std::make_unique<DrawTool>(plotter_, pens_, undo_),
+             std::make_unique<FillTool>(fill_, pens_, undo_,
+                                        FillTool::Surroundings{ports.settings, ports.log, ports.pointer, ports.views}),
+             std::make_unique<LineTool>(LineKind::kSingle, plotter_, pens_, undo_),
+             std::make_unique<LineTool>(LineKind::kContinuous, plotter_, pens_, undo_),
+             std::make_unique<CircleTool>(plotter_, pens_, undo_),
+             std::make_unique<MouseCopyTool>(picture, ports.views, undo_, buffer_),
+             std::make_unique<BlockFillTool>(picture, ports.views, undo_, pens_)} {}
+
+Painting::~Painting() = default;
+
+void Painting::ChooseTool(int index) {
+  Tick();  // a shape whose last point is set is drawn before the tool changes
+  if (busy_) return;
+  stroke_.reset();
+  index_ = index;
+  Active().Choose();
+}
+
+void Painting::Press(const PointerEvent& event) {
+  if (busy_ || stroke_) return;
+  const BusyScope busy(busy_);
+  if (Active().Press(event) == PressResult::kStroke) stroke_ = event;
+}
+
+void Painting::Move(model::PixelPoint at, bool held) {
+  if (busy_ || !stroke_) return;
+  if (!held) return Release();
+  if (stroke_->at == at) return;
+  const BusyScope busy(busy_);
+  const model::PixelPoint from = stroke_->at;
+  stroke_->at = at;
+  const PointerEvent to = *stroke_;  // a message box may end the stroke before the drag is done
+  Active().Drag(from, to);
+}
+
+void Painting::Tick() {
+  if (busy_) return;
+  const BusyScope busy(busy_);
+  Active().Tick();
+}
+
+void Painting::Escape() {
+  if (busy_) return;
+  Active().Cancel();
+  ChooseTool(kDrawToolIndex);
+}
+
+void Painting::Undo() {
+  if (busy_ || stroke_) return;
+  Active().Cancel();
+  undo_.Undo();
+}
+
+void Painting::Forget() {
+  stroke_.reset();
+  Active().Cancel();
+  undo_.Forget();
+}
+
+std::optional<Button> Painting::StrokeButton() const {
+  return stroke_ ? std::optional(stroke_->button) : std::nullopt;
+}
+
+}  // namespace kelvo::editing

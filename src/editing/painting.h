@@ -1,0 +1,93 @@
+// Painting as a whole: the tools, the pens, the stroke under way, and undo.
+#pragma once
+
+#include <array>
+#include <memory>
+#include <optional>
+#include <span>
+
+#include "app/error_log.h"
+#include "app/messages.h"
+#include "app/process_events.h"
+#include "app/settings_store.h"
+#include "app/wait_pointer.h"
+#include "editing/flood_fill.h"
+#include "editing/pens.h"
+#include "editing/plotter.h"
+#include "editing/tool.h"
+#include "editing/undo_step.h"
+#include "model/pixel_colour.h"
+
+namespace kelvo::editing {
+
+// A tool as the toolbar shows it. Tools are numbered from 1 in the table's order.
+struct ToolRow {
+  std::string_view name;  // of its icon and of its action
+  std::string_view caption;
+  char key;  // chooses it
+};
+
+inline constexpr int kDrawToolIndex = 1;
+
+std::span<const ToolRow> ToolTable();
+
+struct PaintingPorts {
+  model::PictureViews& views;
+  const app::SettingsStore& settings;
+  app::Messages& messages;
+  app::ProcessEvents& events;
+  app::WaitPointer& pointer;
+  const app::ErrorLog& log;
+};
+
+// Takes pointer events in picture pixels. While one of them is at work (a fill that lets events through, a message box
+// that waits for an answer), others are passed over, so that no second action starts inside the first.
+class Painting {
+ public:
+  Painting(model::PictureImage& picture, const PaintingPorts& ports);
+  ~Painting();
+
+  void ChooseTool(int index);  // 1..7
+  int ToolIndex() const { return index_; }
+  std::string_view Prompt() const { return Active().Prompt(); }
+
+  // A press while another button's stroke lasts is passed over.
+  void Press(const PointerEvent& event);
+  // `held`: the stroke's button is still down. Where it is not, its release was lost and the stroke ends.
+  void Move(model::PixelPoint at, bool held);
+  void Release() { stroke_.reset(); }
+  void Tick();
+
+  // Takes back an unfinished shape and returns to Draw.
+  void Escape();
+  void Undo();
+  // Another picture is in memory: nothing of the old one is left to undo or to finish.
+  void Forget();
+
+  // The points that a press at `pointer` would plot; for a shape whose second point is awaited.
+  Points Preview(model::PixelPoint pointer) const { return Active().Preview(pointer); }
+  std::optional<Button> StrokeButton() const;
+  bool IsBusy() const { return busy_; }
+
+  Pens& PenColours() { return pens_; }
+  const UndoStep& UndoData() const { return undo_; }
+  UndoStep& UndoData() { return undo_; }
+  const model::DetachedCell& CopyBuffer() const { return buffer_; }
+
+ private:
+  class BusyScope;
+
+  Tool& Active() const { return *tools_[static_cast<std::size_t>(index_ - 1)]; }
+
+  Pens pens_;
+  UndoStep undo_;
+  Plotter plotter_;
+  FloodFill fill_;
+  model::DetachedCell buffer_{};
+  std::array<std::unique_ptr<Tool>, 7> tools_;
+  int index_ = kDrawToolIndex;
+  std::optional<PointerEvent> stroke_;  // where the stroke under way is
+  bool busy_ = false;
+};
+
+}  // namespace kelvo::editing

@@ -1,0 +1,29 @@
+// What the tools draw with: plots that the windows hear of.
+#pragma once
+
+#include "app/messages.h"
+#include "app/settings_store.h"
+#include "editing/line.h"
+#include "editing/pixel_plot.h"
+#include "model/picture_views.h"
+
+namespace kelvo::editing {
+
+class Plotter {
+ public:
+  Plotter(model::PictureImage& picture, model::PictureViews& views, const app::SettingsStore& settings,
+          app::Messages& messages)
+      : picture_(picture), views_(views), settings_(settings), messages_(messages) {}
+
+  // Plots every point, as far as it lies in the picture and its cell has room. When cells had none and the preference
+  // "4thColReplaces" is off, says so once, at the end. True when all went well.
+  bool Plot(const Points& points, model::C64Colour pen);
+
+ private:
+  model::PictureImage& picture_;
+  model::PictureViews& views_;
+  const app::SettingsStore& settings_;
+  app::Messages& messages_;
+};
+
+}  // namespace kelvo::editing

@@ -1,0 +1,15 @@
+// The user's preferences for painting, read afresh at each use.
+#pragma once
+
+#include "app/settings_store.h"
+
+namespace kelvo::editing {
+
+inline constexpr app::Setting k4thColReplaces{"Preferences", "4thColReplaces", "1"};
+inline constexpr app::Setting kReplaceLeastUsedColWhenFilling{"Preferences", "ReplaceLeastUsedColWhenFilling", "0"};
+
+inline bool IsOn(const app::SettingsStore& settings, const app::Setting& preference) {
+  return app::ReadNumber(settings, preference, 0, 1) == 1;
+}
+
+}  // namespace kelvo::editing

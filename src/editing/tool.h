@@ -1,0 +1,49 @@
+// What every drawing tool is asked.
+#pragma once
+
+#include <string_view>
+
+#include "editing/line.h"
+#include "editing/pens.h"
+#include "model/zoom_area.h"
+
+namespace kelvo::editing {
+
+// A place in the picture with the mouse button that is pressed there.
+struct PointerEvent {
+  model::PixelPoint at;  // 1..160, 1..200
+  Button button = Button::kLeft;
+};
+
+enum class PressResult {
+  kStroke,   // a stroke begins: moves with the button held go to Drag()
+  kHandled,  // the press was all
+};
+
+// Pixels come in, plots go out: a tool knows no window, zoom factor or menu.
+class Tool {
+ public:
+  virtual ~Tool() = default;
+
+  // What the status bar shows: the tool, or the point to set next.
+  virtual std::string_view Prompt() const = 0;
+
+  // The tool was chosen: it begins afresh.
+  virtual void Choose() {}
+
+  virtual PressResult Press(const PointerEvent& event) = 0;
+
+  // The pointer moved on from `from` while the stroke lasts; the places in between were crossed.
+  virtual void Drag(model::PixelPoint from, const PointerEvent& to) { static_cast<void>(from), static_cast<void>(to); }
+
+  // The timer ticked, ten times a second.
+  virtual void Tick() {}
+
+  // Takes back an unfinished shape.
+  virtual void Cancel() {}
+
+  // The points that a press at `pointer` would plot now.
+  virtual Points Preview(model::PixelPoint pointer) const { return static_cast<void>(pointer), Points(); }
+};
+
+}  // namespace kelvo::editing

@@ -1,0 +1,147 @@
+// Which slot a colour takes in a cell, and what a plot writes.
+#include <gtest/gtest.h>
+
+#include "editing/cell_slots.h"
+#include "editing/pixel_plot.h"
+#include "editing/set_data.h"
+#include "support/painted.h"
+#include "support/pictures.h"
+
+namespace kelvo::editing {
+namespace {
+
+using model::BitPair;
+using model::PictureImage;
+using support::Colour;
+using support::kAllSlots;
+using support::PictureWithCell;
+
+constexpr int kCell = 42, kX = 5, kY = 9;  // cell 42 begins at x 5, y 9
+
+TEST(SetData, TouchesOneSlotAndOnePixel) {
+  for (const BitPair pair : {BitPair::k00, BitPair::k01, BitPair::k10, BitPair::k11}) {
+    for (int x = kX; x < kX + 4; ++x) {
+      const PictureImage before = support::RandomPicture(5);
+      PictureImage after = before;
+      const model::PixelPlace place = model::LookUpPixel(x, kY + 3);
+      SetData(after, place.byte, place.position, pair, place.cell, Colour(12));
+      EXPECT_EQ(model::GetPixelData(after, x, kY + 3).pair, pair);
+      EXPECT_EQ(support::ColourAt(after, x, kY + 3), pair == BitPair::k00 ? before.BackgroundColour.Number() : 12);
+      PictureImage expected = before;
+      expected.Bitmap[static_cast<std::size_t>(place.byte)] = after.Bitmap[static_cast<std::size_t>(place.byte)];
+      expected.ScreenMemory[kCell] = after.ScreenMemory[kCell];
+      expected.ColourMemory[kCell] = after.ColourMemory[kCell];
+      EXPECT_EQ(after, expected);
+      for (const BitPair other : {BitPair::k01, BitPair::k10, BitPair::k11}) {
+        if (other == pair) continue;
+        EXPECT_EQ(model::ColourInCell(after, kCell, other), model::ColourInCell(before, kCell, other));
+      }
+    }
+  }
+  PictureImage picture;
+  EXPECT_THROW(SetData(picture, 8242, 1, BitPair::k01, 1, Colour(1)), std::out_of_range);
+  EXPECT_THROW(SetData(picture, -1, 1, BitPair::k01, 1, Colour(1)), std::out_of_range);
+}
+
+TEST(CellSlots, LeastUsedCountsOneByteEarly) {
+  struct Case {
+    const char* what;
+    std::uint8_t byte_before;
+    std::array<std::uint8_t, 8> lines;
+    BitPair expected;
+  };
+  for (const Case& c : {
+           Case{"all equal: %11 first", 0, {0, 0, 0, 0, 0, 0, 0, 0}, BitPair::k11},
+           {"%11 used: %10 before %01", 0, {0xC0, 0, 0, 0, 0, 0, 0, 0}, BitPair::k10},
+           {"7, 3, 3", 0, {0xFF, 0xFC, 0xA8, 0x54, 0, 0, 0, 0}, BitPair::k10},
+           {"5, 5, 9", 0, {0xFF, 0xC0, 0xAA, 0x80, 0x55, 0x55, 0x40, 0}, BitPair::k11},
+           {"only %01 is free", 0, {0xE0, 0, 0, 0, 0, 0, 0, 0}, BitPair::k01},
+           {"the bottom line does not count", 0, {0xE0, 0, 0, 0, 0, 0, 0, 0x55}, BitPair::k01},
+           {"the byte before does", 0x55, {0xE0, 0, 0, 0, 0, 0, 0, 0}, BitPair::k11},
+       }) {
+    SCOPED_TRACE(c.what);
+    PictureImage picture = PictureWithCell(kCell, c.lines, 1, 2, 3, 0);
+    picture.Bitmap[static_cast<std::size_t>(model::BaseOfCell(kCell))] = c.byte_before;
+    EXPECT_EQ(GetLeastUsedCol(picture, model::BaseOfCell(kCell)), c.expected);
+  }
+  PictureImage first_cell;
+  first_cell.Bitmap[0] = 0xFF;
+  EXPECT_EQ(GetLeastUsedCol(first_cell, 0), BitPair::k10);
+}
+
+// A slot for colour 5 in a cell of `lines` with own colours %11 %10 %01 on a background, for fills and for plots.
+struct SlotCase {
+  const char* what;
+  std::array<std::uint8_t, 8> lines;
+  int c11, c10, c01, background;
+  std::optional<BitPair> fill, plot;
+};
+
+const SlotCase kSlotCases[] = {
+    {"own %11", kAllSlots, 5, 5, 5, 0, BitPair::k11, BitPair::k11},
+    {"own %10", kAllSlots, 1, 5, 5, 0, BitPair::k10, BitPair::k10},
+    {"own %01", kAllSlots, 1, 2, 5, 0, BitPair::k01, BitPair::k01},
+    {"background alone", kAllSlots, 1, 2, 3, 5, BitPair::k00, BitPair::k00},
+    {"background and own: a fill takes the slot, a plot the background", kAllSlots, 5, 2, 3, 5, BitPair::k11,
+     BitPair::k00},
+    {"nothing used", {}, 1, 2, 3, 0, BitPair::k11, BitPair::k11},
+    {"%11 used", {0x03}, 1, 2, 3, 0, BitPair::k10, BitPair::k10},
+    {"%11 and %10 used", {0x0B}, 1, 2, 3, 0, BitPair::k01, BitPair::k01},
+    {"full, but %10 shows the background", kAllSlots, 1, 0, 3, 0, BitPair::k10, BitPair::k10},
+    {"%11 shows the background, %01 is unused", {0x0B}, 0, 2, 3, 0, BitPair::k01, BitPair::k11},
+    {"full", kAllSlots, 1, 2, 3, 0, std::nullopt, std::nullopt},
+};
+
+TEST(CellSlots, AFillsColourTakesSameThenUnusedThenBackgroundSlots) {
+  for (const SlotCase& c : kSlotCases) {
+    SCOPED_TRACE(c.what);
+    const PictureImage picture = PictureWithCell(kCell, c.lines, c.c11, c.c10, c.c01, c.background);
+    EXPECT_EQ(GetColorBinForChar(picture, Colour(5), kCell, model::BaseOfCell(kCell)), c.fill);
+  }
+  PictureImage junk = PictureWithCell(kCell, kAllSlots, 0xF5, 2, 3, 0);
+  EXPECT_EQ(GetColorBinForChar(junk, Colour(5), kCell, model::BaseOfCell(kCell)), BitPair::k11);
+}
+
+TEST(PlotPixel, FollowsItsOwnOrderAndRefusesAFullCell) {
+  for (const SlotCase& c : kSlotCases) {
+    SCOPED_TRACE(c.what);
+    const PictureImage before = PictureWithCell(kCell, c.lines, c.c11, c.c10, c.c01, c.background);
+    PictureImage after = before;
+    const PlotResult result = PlotPixel(after, kX + 1, kY + 4, Colour(5), FullCell::kRefuse);
+    EXPECT_EQ(result, c.plot ? PlotResult::kPlotted : PlotResult::kCellFull);
+    if (c.plot) {
+      EXPECT_EQ(model::GetPixelData(after, kX + 1, kY + 4).pair, *c.plot);
+      EXPECT_EQ(support::ColourAt(after, kX + 1, kY + 4), 5);
+    } else {
+      EXPECT_EQ(after, before);
+    }
+  }
+}
+
+TEST(PlotPixel, RecoloursTheClickedSlotOfAFullCell) {
+  const PictureImage before = PictureWithCell(kCell, kAllSlots, 1, 2, 3, 0);
+  PictureImage after = before;
+  EXPECT_EQ(PlotPixel(after, kX + 2, kY, Colour(5), FullCell::kRecolour), PlotResult::kRecoloured);  // a %10 pixel
+  EXPECT_EQ(after, PictureWithCell(kCell, kAllSlots, 1, 5, 3, 0));
+  after = before;
+  EXPECT_EQ(PlotPixel(after, kX, kY, Colour(5), FullCell::kRecolour), PlotResult::kRecoloured);  // a background pixel
+  EXPECT_EQ(after, before);
+  EXPECT_EQ(PlotPixel(after, kX, kY, Colour(0), FullCell::kRefuse), PlotResult::kPlotted);  // always room for that
+  for (const auto& [x, y] : {std::pair{0, 1}, {161, 1}, {1, 0}, {1, 201}, {-5, -5}}) {
+    EXPECT_EQ(PlotPixel(after, x, y, Colour(5), FullCell::kRecolour), PlotResult::kOutside);
+  }
+  EXPECT_EQ(after, before);
+}
+
+TEST(PlotPixel, TakesFreeSlotsInOrder) {
+  PictureImage picture = PictureWithCell(kCell, {}, 0, 0, 0, 0);
+  for (const auto& [x, colour, pair] :
+       {std::tuple{kX, 7, BitPair::k11}, {kX + 1, 8, BitPair::k10}, {kX + 2, 9, BitPair::k01}}) {
+    PlotPixel(picture, x, kY, Colour(colour), FullCell::kRefuse);
+    EXPECT_EQ(model::GetPixelData(picture, x, kY).pair, pair);
+  }
+  EXPECT_EQ(PlotPixel(picture, kX + 3, kY, Colour(10), FullCell::kRefuse), PlotResult::kCellFull);
+}
+
+}  // namespace
+}  // namespace kelvo::editing

@@ -1,0 +1,184 @@
+// Fills against a slow, literal one, and the cases that users meet.
+#include "editing/flood_fill.h"
+
+#include <gtest/gtest.h>
+
+#include <deque>
+
+#include "editing/cell_slots.h"
+#include "editing/set_data.h"
+#include "support/painted.h"
+#include "support/pictures.h"
+#include "support/recorders.h"
+
+namespace kelvo::editing {
+namespace {
+
+using model::PictureImage;
+using support::Colour;
+using support::ColourAt;
+using support::RecordingViews;
+
+class CountingEvents final : public app::ProcessEvents {
+ public:
+  void Process() override { ++count; }
+  int count = 0;
+};
+
+// The rules word by word: a queue that is searched, a slot that is looked for at every pixel.
+class LiteralFill {
+ public:
+  LiteralFill(PictureImage& picture, bool replace) : picture_(picture), before_(picture), replace_(replace) {}
+
+  void Fill(int x, int y, model::C64Colour colour) {
+    colour_ = colour;
+    target_ = model::GetPixelData(before_, x, y).colour;
+    queue_.push_back({});
+    Write(x, y);
+    Visit(x + 1, y, 'H');
+    Visit(x - 1, y, 'V');
+    Visit(x, y - 1, 'U');
+    Visit(x, y + 1, 'N');
+    while (head_ + 1 < queue_.size()) {
+      const Entry entry = queue_[++head_];
+      Visit(entry.x, entry.y, entry.letter);
+    }
+  }
+
+  std::vector<std::pair<int, int>> written;
+
+ private:
+  struct Entry {
+    int x = 0, y = 0;
+    char letter = ' ';
+  };
+
+  bool IsTarget(int x, int y) const {
+    return model::IsInPicture(x, y) && model::GetPixelData(before_, x, y).colour == target_;
+  }
+
+  void Write(int x, int y) {
+    const model::PixelPlace place = model::LookUpPixel(x, y);
+    auto pair = GetColorBinForChar(before_, colour_, place.cell, place.base);
+    const bool on_background = model::GetPixelData(before_, x, y).colour == before_.BackgroundColour;
+    if (!pair && on_background && replace_) pair = GetLeastUsedCol(before_, place.base);
+    if (!pair) return;
+    SetData(picture_, place.byte, place.position, *pair, place.cell, colour_);
+    written.push_back({x, y});
+  }
+
+  void Visit(int x, int y, char letter) {
+    if (!IsTarget(x, y)) return;
+    Write(x, y);
+    if (letter != 'V') Store(x + 1, y, 'H');
+    if (letter != 'H') Store(x - 1, y, 'V');
+    if (letter != 'N') Store(x, y - 1, 'U');
+    if (letter != 'U') Store(x, y + 1, 'N');
+  }
+
+  void Store(int x, int y, char letter) {
+    if (!IsTarget(x, y)) return;
+    const std::size_t count = queue_.size() - 1, first = count > 1000 ? count - 1000 : 0;
+    for (std::size_t i = first; i <= count; ++i) {
+      if (queue_[i].x == x && queue_[i].y == y) return;
+    }
+    queue_.push_back({x, y, letter});
+  }
+
+  PictureImage& picture_;
+  const PictureImage before_;
+  bool replace_;
+  model::C64Colour colour_, target_;
+  std::deque<Entry> queue_;
+  std::size_t head_ = 0;
+};
+
+// A picture with large regions, so that fills reach far and the window of the queue overflows.
+PictureImage Blotchy(unsigned seed) {
+  std::mt19937 random(seed);
+  PictureImage picture{.BackgroundColour = Colour(static_cast<int>(random() % 4))};
+  for (int cell = 1; cell <= 1000; ++cell) {
+    std::array<std::uint8_t, 8> lines{};
+    for (std::uint8_t& line : lines) line = random() % 4 == 0 ? static_cast<std::uint8_t>(random()) : std::uint8_t{0};
+    const auto colour = [&] { return static_cast<int>(random() % 6); };
+    support::SetCell(picture, cell, lines, colour(), colour(), colour());
+  }
+  return picture;
+}
+
+// Corridors of background between walls, one pixel wide: the longest way that a fill can go.
+PictureImage Maze() {
+  PictureImage picture;
+  for (int cell = 1; cell <= 1000; ++cell) support::SetCell(picture, cell, {}, 1, 2, 3);
+  for (int x = 2; x <= 160; x += 2) {
+    for (int y = 1; y <= 200; ++y) {
+      if (y == (x / 2 % 2 == 0 ? 1 : 200)) continue;
+      const model::PixelPlace place = model::LookUpPixel(x, y);
+      SetData(picture, place.byte, place.position, model::BitPair::k11, place.cell, Colour(1));
+    }
+  }
+  return picture;
+}
+
+void CompareWithLiteral(const PictureImage& before, int x, int y, int colour, bool replace) {
+  PictureImage fast = before, slow = before;
+  RecordingViews views;
+  CountingEvents events;
+  FloodFill fill(fast, views, events);
+  fill.Fill(x, y, Colour(colour), replace ? FullCellInFill::kReplaceLeastUsed : FullCellInFill::kKeep);
+  LiteralFill literal(slow, replace);
+  literal.Fill(x, y, Colour(colour));
+  EXPECT_EQ(fast, slow);
+  EXPECT_EQ(views.pixels, literal.written);  // the same pixels in the same order
+}
+
+TEST(FloodFill, EqualsTheLiteralRulesInContentAndOrder) {
+  std::mt19937 random(99);
+  for (unsigned seed = 0; seed < 12; ++seed) {
+    const PictureImage picture = Blotchy(seed);
+    for (const bool replace : {false, true}) {
+      SCOPED_TRACE(testing::Message() << "seed " << seed << ", replace " << replace);
+      CompareWithLiteral(picture, static_cast<int>(random() % 160) + 1, static_cast<int>(random() % 200) + 1,
+                         static_cast<int>(random() % 8), replace);
+    }
+  }
+  CompareWithLiteral(PictureImage{}, 80, 100, 5, false);
+  CompareWithLiteral(PictureImage{}, 1, 200, 0, true);
+  CompareWithLiteral(Maze(), 1, 1, 5, false);
+}
+
+TEST(FloodFill, PassesThroughAFullCellAndLeavesItAlone) {
+  PictureImage before;
+  for (int cell = 1; cell <= 40; ++cell) {
+    if (cell != 20) support::SetCell(before, cell, {}, 1, 2, 3);
+  }
+  support::SetCell(before, 20, {0x1B, 0, 0, 0, 0, 0, 0, 0}, 1, 2, 3);
+  PictureImage after = before;
+  RecordingViews views;
+  CountingEvents events;
+  FloodFill fill(after, views, events);
+  fill.Fill(1, 2, Colour(9), FullCellInFill::kKeep);
+  EXPECT_EQ(ColourAt(after, 77, 3), 0);   // in the full cell
+  EXPECT_EQ(ColourAt(after, 160, 3), 9);  // beyond it
+  EXPECT_GT(events.count, 1000);
+
+  after = before;
+  fill.Fill(1, 2, Colour(9), FullCellInFill::kReplaceLeastUsed);
+  EXPECT_EQ(ColourAt(after, 77, 3), 9);
+  EXPECT_EQ(ColourAt(after, 80, 1), 9);  // its least used slot, %11 of equals, took the colour with all its pixels
+  EXPECT_EQ(ColourAt(after, 79, 1), 2);
+}
+
+TEST(FloodFill, ASinglePixelStoresNothing) {
+  PictureImage picture = support::PictureWithCell(42, {0xFF, 0xF3, 0xFF, 0, 0, 0, 0, 0}, 7, 2, 3, 0);
+  RecordingViews views;
+  CountingEvents events;
+  FloodFill fill(picture, views, events);
+  fill.Fill(7, 10, Colour(2), FullCellInFill::kKeep);
+  EXPECT_EQ(views.pixels, (std::vector<std::pair<int, int>>{{7, 10}}));
+  EXPECT_EQ(ColourAt(picture, 7, 10), 2);
+  EXPECT_EQ(events.count, 0);
+}
+
+}  // namespace
+}  // namespace kelvo::editing

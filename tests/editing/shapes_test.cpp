@@ -1,0 +1,57 @@
+// The points of lines and circles.
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "editing/circle.h"
+#include "editing/line.h"
+
+namespace kelvo::editing {
+namespace {
+
+TEST(Line, LeavesItsEndToTheNextSegment) {
+  EXPECT_EQ(DrawLine({10, 10}, {13, 10}), (Points{{10, 10}, {11, 10}, {12, 10}}));
+  EXPECT_EQ(DrawLine({5, 5}, {5, 5}), Points());
+  EXPECT_EQ(DrawLine({1, 1}, {4, 2}), (Points{{1, 1}, {2, 1}, {3, 2}}));
+  EXPECT_EQ(DrawLine({4, 2}, {1, 1}), (Points{{4, 2}, {3, 2}, {2, 1}}));
+  EXPECT_EQ(DrawLine({1, 1}, {2, 5}), (Points{{1, 1}, {1, 2}, {2, 3}, {2, 4}}));  // the half rounds upwards
+}
+
+TEST(Path, HasNoHolesAndEndsWhereThePointerIs) {
+  for (const model::PixelPoint to : {model::PixelPoint{1, 1}, {160, 200}, {90, 1}, {1, 101}, {81, 100}}) {
+    model::PixelPoint last{80, 100};
+    for (const model::PixelPoint& point : PathBetween(last, to)) {
+      EXPECT_LE(std::max(std::abs(point.x - last.x), std::abs(point.y - last.y)), 1);
+      last = point;
+    }
+    EXPECT_EQ(last, to);
+  }
+}
+
+TEST(Circle, RadiusIsMeasuredInColumns) {
+  struct Case {
+    model::PixelPoint point;
+    int radius;
+  };
+  for (const Case& c : {Case{{80, 110}, 5},
+                        {{83, 104}, 4},
+                        {{80, 100}, 0},
+                        {{72, 100}, 8},
+                        {{80, 105}, 2},
+                        {{80, 107}, 4},
+                        {{77, 92}, 5}}) {
+    EXPECT_EQ(CircleRadius({80, 100}, c.point), c.radius) << c.point.x << ", " << c.point.y;
+  }
+}
+
+TEST(Circle, SamplesColumnsInsideThePicture) {
+  EXPECT_EQ(DrawCircle({80, 100}, 0), (Points{{80, 100}, {80, 100}}));
+  EXPECT_EQ(DrawCircle({80, 100}, 1), (Points{{79, 100}, {79, 100}, {80, 102}, {80, 98}, {81, 100}, {81, 100}}));
+  for (const model::PixelPoint& point : DrawCircle({2, 3}, 20)) {
+    EXPECT_GE(point.x, 1);
+    EXPECT_LE(point.y, 200);
+  }
+}
+
+}  // namespace
+}  // namespace kelvo::editing

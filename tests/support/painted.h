@@ -1,0 +1,40 @@
+// Pictures whose cells a test sets up line by line.
+#pragma once
+
+#include <array>
+#include <cstdint>
+
+#include "model/pixel_colour.h"
+
+namespace kelvo::support {
+
+inline model::C64Colour Colour(int number) {
+  return model::C64Colour::FromByte(static_cast<std::uint8_t>(number));
+}
+
+// Gives `cell` (1..1000) its eight lines and its own colours.
+inline void SetCell(model::PictureImage& picture, int cell, const std::array<std::uint8_t, 8>& lines, int c11, int c10,
+                    int c01) {
+  const auto index = static_cast<std::size_t>(cell);
+  for (std::size_t line = 0; line < 8; ++line) {
+    picture.Bitmap[static_cast<std::size_t>(model::BaseOfCell(cell)) + 1 + line] = lines[line];
+  }
+  picture.ColourMemory[index] = static_cast<std::uint8_t>(c11);
+  picture.ScreenMemory[index] = static_cast<std::uint8_t>(c01 << 4 | c10);
+}
+
+inline model::PictureImage PictureWithCell(int cell, const std::array<std::uint8_t, 8>& lines, int c11, int c10,
+                                           int c01, int background) {
+  model::PictureImage picture{.BackgroundColour = Colour(background)};
+  SetCell(picture, cell, lines, c11, c10, c01);
+  return picture;
+}
+
+// Every slot is used: lines of %00 %01 %10 %11.
+inline constexpr std::array<std::uint8_t, 8> kAllSlots{0x1B, 0x1B, 0x1B, 0x1B, 0x1B, 0x1B, 0x1B, 0x1B};
+
+inline int ColourAt(const model::PictureImage& picture, int x, int y) {
+  return model::GetPixelData(picture, x, y).colour.Number();
+}
+
+}  // namespace kelvo::support
