@@ -30,6 +30,8 @@ class FileDisplay {
  public:
   virtual ~FileDisplay() = default;
   virtual void ShowFile(const CurrentFile& file) = 0;
+  // Another picture took the place of the one in memory: what belonged to that one (its undo step) is void.
+  virtual void PictureReplaced() = 0;
 };
 
 }  // namespace kelvo::files

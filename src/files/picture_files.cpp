@@ -70,6 +70,7 @@ void PictureFiles::TellFailedLoad(std::string_view path, const std::string& why,
 void PictureFiles::TakeOver(const model::PictureImage& picture, const CurrentFile& file) {
   document_.picture = document_.kept = picture;
   document_.file = file;
+  with_.display.PictureReplaced();
   with_.display.ShowFile(document_.file);
   with_.views.PictureChanged();
 }

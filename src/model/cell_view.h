@@ -9,8 +9,8 @@
 
 namespace kelvo::model {
 
-// One pixel of the enlarged cell in the char data window is 24 x 12 display pixels.
-inline constexpr int kCellViewWidth = 96, kCellViewHeight = 96;
+// One pixel of the enlarged cell in the char data window is 20 x 10 display pixels.
+inline constexpr int kCellViewWidth = 80, kCellViewHeight = 80;
 
 // Fills a surface, whose sides are multiples of 4 and 8, with `cell` (1..1000).
 void DrawCellView(const PictureImage& picture, int cell, Surface& surface);

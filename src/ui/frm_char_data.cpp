@@ -34,7 +34,9 @@ frmCharData::frmCharData(const model::PictureImage& picture, QWidget* parent)
   setObjectName("frmCharData");
   setWindowTitle(" Char data");
   auto* grid = new QGridLayout(this);
-  grid->setHorizontalSpacing(10);
+  grid->setContentsMargins(6, 4, 6, 4);
+  grid->setHorizontalSpacing(8);
+  grid->setVerticalSpacing(0);
   picStd_->setObjectName("picStd");
   picStd_->setAccessibleName("Cell picture");
   picStd_->setFocusPolicy(Qt::NoFocus);
@@ -63,7 +65,7 @@ void frmCharData::MakeCellBox() {
     slots_[i].swatch->setObjectName(QString("slot_%1").arg(ToQt(model::ToText(kSlots[i]))));
     slots_[i].swatch->setFocusPolicy(Qt::NoFocus);
     slots_[i].swatch->setFixedSize(26, 20);
-    slots_[i].name->setMinimumWidth(fontMetrics().horizontalAdvance("%00 Middle gray "));
+    slots_[i].name->setMinimumWidth(fontMetrics().horizontalAdvance("%00 Middle gray"));
     const int row = static_cast<int>(i);
     rows->addWidget(slots_[i].swatch, row, 0);
     rows->addWidget(slots_[i].name, row, 1);
@@ -74,6 +76,7 @@ void frmCharData::MakeCellBox() {
 
 void frmCharData::Show(const model::PixelPlace& place) {
   place_ = place;
+  if (isHidden()) return;
   lblCell_->setText(QString("Cell %1 (column %2, row %3)").arg(place.cell).arg(place.column).arg(place.row));
   model::DrawCellView(picture_, place.cell, surface_);
   picStd_->Refresh();
@@ -108,6 +111,11 @@ void frmCharData::ShowBitPairs() {
     label->setText(ToQt(model::ToText(model::PairAt(byte, position))));
     label->setForegroundRole(position == place_.position ? QPalette::Link : QPalette::WindowText);
   }
+}
+
+void frmCharData::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  Show(place_);
 }
 
 QString frmCharData::BitPairCaption(int position) const {

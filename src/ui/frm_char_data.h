@@ -22,12 +22,11 @@ class frmCharData : public QWidget {
   // Shows the cell of `place`, and the bit pairs of its line: the pair at the pointer's position is the selected one.
   void Show(const model::PixelPlace& place);
 
-  // The cell that is shown changed.
-  void Refresh() { Show(place_); }
-  int Cell() const { return place_.cell; }
-
   // The caption of the label for `position` (1..4 from the left) in the pointer's byte: "00".."11".
   QString BitPairCaption(int position) const;
+
+ protected:
+  void showEvent(QShowEvent* event) override;
 
  private:
   // One of the cell's four colours: its slot, its swatch, its name and the number of its pixels.

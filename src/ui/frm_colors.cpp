@@ -1,9 +1,7 @@
 #include "ui/frm_colors.h"
 
 #include <QGridLayout>
-#include <QLabel>
 #include <QStringList>
-#include <QVBoxLayout>
 #include <tuple>
 
 namespace kelvo::ui {
@@ -12,13 +10,11 @@ namespace {
 constexpr int kColumns = 8;
 constexpr auto kHint = "Click: left pen. Right click: right pen. Shift or middle click: background.";
 
-SwatchButton* AddLabelled(QHBoxLayout* row, const QString& label, const char* name) {
-  auto* swatch = new SwatchButton(row->parentWidget());
+SwatchButton* AddSwatch(QGridLayout* grid, int row, const char* name) {
+  auto* swatch = new SwatchButton(grid->parentWidget());
   swatch->setObjectName(name);
   swatch->setFocusPolicy(Qt::NoFocus);
-  row->addWidget(swatch);
-  row->addWidget(new QLabel(label, row->parentWidget()));
-  row->addSpacing(12);
+  grid->addWidget(swatch, row, kColumns + 1);
   return swatch;
 }
 
@@ -27,10 +23,10 @@ SwatchButton* AddLabelled(QHBoxLayout* row, const QString& label, const char* na
 frmColors::frmColors(QWidget* parent) : QWidget(parent) {
   setObjectName("frmColors");
   setWindowTitle(" Colors");
-  auto* column = new QVBoxLayout(this);
-  auto* grid = new QGridLayout;
+  auto* grid = new QGridLayout(this);
+  grid->setContentsMargins(6, 6, 6, 6);
   grid->setSpacing(3);
-  column->addLayout(grid);
+  grid->setColumnMinimumWidth(kColumns, 3);
   for (int number = 0; number < model::C64Colour::kCount; ++number) {
     auto* swatch = new SwatchButton(this);
     const model::C64Colour colour = *model::C64Colour::FromNumber(number);
@@ -42,11 +38,8 @@ frmColors::frmColors(QWidget* parent) : QWidget(parent) {
             [this, colour](Qt::MouseButton button, Qt::KeyboardModifiers keys) { Choose(colour, button, keys); });
     swatches_[static_cast<std::size_t>(number)] = swatch;
   }
-  auto* row = new QHBoxLayout;
-  column->addLayout(row);
-  paint_ = AddLabelled(row, "Left pen", "PaintColor");
-  back_ = AddLabelled(row, "Background", "BGColor");
-  row->addStretch();
+  paint_ = AddSwatch(grid, 0, "PaintColor");
+  back_ = AddSwatch(grid, 1, "BGColor");
   ShowMarks();
 }
 
@@ -88,13 +81,13 @@ void frmColors::ShowMarks() {
       marks += mark;
       roles << role;
     }
-    const bool in_cell = cell_ && (cell_->CellColour11 == colour || cell_->CellColour10 == colour ||
-                                   cell_->CellColour01 == colour);
+    const bool in_cell =
+        cell_ && (cell_->CellColour11 == colour || cell_->CellColour10 == colour || cell_->CellColour01 == colour);
     if (in_cell) roles << "in this cell";
     swatches_[static_cast<std::size_t>(number)]->Show(colour, roles.join(", "), marks, in_cell);
   }
-  paint_->Show(left_, "Left pen");
-  back_->Show(background_, "Background");
+  paint_->Show(left_, "Left pen", "L");
+  back_->Show(background_, "Background", "B");
 }
 
 }  // namespace kelvo::ui

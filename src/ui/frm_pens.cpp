@@ -1,6 +1,6 @@
 #include "ui/frm_pens.h"
 
-#include <QGridLayout>
+#include <QHBoxLayout>
 #include <QIcon>
 #include <QLabel>
 #include <QToolButton>
@@ -16,30 +16,30 @@ model::C64Colour Step(model::C64Colour colour, Qt::MouseButton button, Qt::Keybo
 
 }  // namespace
 
-frmPens::PenRow frmPens::MakeRow(const char* object_name, int row) {
-  auto* grid = static_cast<QGridLayout*>(layout());
+frmPens::PenRow frmPens::MakeRow(const char* object_name) {
   const PenRow pen{new SwatchButton(this), new QLabel(this)};
   pen.swatch->setObjectName(object_name);
   pen.swatch->setAccessibleDescription("A click takes the next colour, with Shift the one before.");
   pen.swatch->setStatusTip(pen.swatch->accessibleDescription());
-  pen.name->setMinimumWidth(pen.name->fontMetrics().horizontalAdvance("Right: Middle gray "));
-  grid->addWidget(pen.swatch, row, 0);
-  grid->addWidget(pen.name, row, 1);
+  pen.name->setMinimumWidth(pen.name->fontMetrics().horizontalAdvance("R: Middle gray "));
+  layout()->addWidget(pen.swatch);
+  layout()->addWidget(pen.name);
   return pen;
 }
 
 frmPens::frmPens(QWidget* parent) : QWidget(parent) {
   setObjectName("frmPens");
   setWindowTitle(" Pens");
-  auto* grid = new QGridLayout(this);
-  left_ = MakeRow("LeftPen", 0);
-  right_ = MakeRow("RightPen", 1);
+  auto* row = new QHBoxLayout(this);
+  row->setContentsMargins(6, 6, 6, 6);
+  left_ = MakeRow("LeftPen");
+  right_ = MakeRow("RightPen");
   auto* swap = new QToolButton(this);
   swap->setObjectName("cmdSwap");
   swap->setIcon(QIcon(":/icons/swap.svg"));
   swap->setToolTip("Swap the pens");
   swap->setAccessibleName("Swap the pens");
-  grid->addWidget(swap, 0, 2, 2, 1);
+  row->addWidget(swap);
   connect(swap, &QToolButton::clicked, this, &frmPens::SwapAsked);
   connect(left_.swatch, &SwatchButton::Chosen, this,
           [this](auto button, auto keys) { emit LeftPenChosen(Step(left_.swatch->Colour(), button, keys)); });
@@ -49,9 +49,9 @@ frmPens::frmPens(QWidget* parent) : QWidget(parent) {
 
 void frmPens::ShowPens(model::C64Colour left, model::C64Colour right) {
   left_.swatch->Show(left, "Left pen");
-  left_.name->setText("Left: " + PlainColourName(left));
+  left_.name->setText("L: " + PlainColourName(left));
   right_.swatch->Show(right, "Right pen");
-  right_.name->setText("Right: " + PlainColourName(right));
+  right_.name->setText("R: " + PlainColourName(right));
 }
 
 }  // namespace kelvo::ui

@@ -29,7 +29,7 @@ class frmPens : public QWidget {
     SwatchButton* swatch;
     QLabel* name;
   };
-  PenRow MakeRow(const char* object_name, int row);
+  PenRow MakeRow(const char* object_name);
 
   PenRow left_, right_;
 };

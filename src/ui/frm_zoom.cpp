@@ -1,22 +1,21 @@
 #include "ui/frm_zoom.h"
 
+#include <utility>
+
 namespace kelvo::ui {
-namespace {
-
-constexpr int kSmallestBox = 4;  // display pixels: the height of a box at 4:1
-
-}  // namespace
-
 frmZoom::frmZoom(const model::PictureImage& picture, QWidget* parent)
     : QWidget(parent),
       picture_(picture),
       surface_(model::kZoomSurfaceWidth, model::kZoomSurfaceHeight),
-      picStd_(new SurfaceView(surface_, kSmallestBox, this)) {
+      picStd_(new ZoomPicture(surface_, area_, this)) {
   setObjectName("frmZoom");
   picStd_->setObjectName("picStd");
   picStd_->setAccessibleName("Zoom picture");
   picStd_->setAccessibleDescription("The part of the picture that is painted on.");
   setFixedSize(picStd_->sizeHint());
+  connect(picStd_, &SurfaceView::Pressed, this, &frmZoom::Pressed);
+  connect(picStd_, &SurfaceView::Moved, this, &frmZoom::Moved);
+  connect(picStd_, &SurfaceView::Released, this, &frmZoom::Released);
   SetMagnification(area_.Magnification());
   DrawBorder();
 }
@@ -68,6 +67,10 @@ void frmZoom::DrawBorder() {
         model::Rect{0, 0, kBorder, kHeight}, model::Rect{kWidth - kBorder, 0, kBorder, kHeight}}) {
     picStd_->Refresh(side);
   }
+}
+
+void frmZoom::ShowPreview(editing::Points points, model::C64Colour colour) {
+  picStd_->ShowPreview(std::move(points), colour);
 }
 
 void frmZoom::DrawCapturePic() {

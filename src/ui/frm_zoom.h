@@ -3,12 +3,13 @@
 
 #include <QWidget>
 
+#include "editing/line.h"
 #include "model/picture_image.h"
 #include "model/surface.h"
 #include "model/zoom_area.h"
 #include "model/zoom_border.h"
 #include "model/zoom_view.h"
-#include "ui/surface_view.h"
+#include "ui/zoom_picture.h"
 
 namespace kelvo::ui {
 
@@ -28,12 +29,19 @@ class frmZoom : public QWidget {
   void SetBorder(model::ZoomBorder border);
   void TickBorder();
 
+  // Shows points over the picture, as if they were drawn in `colour`; an empty list takes them away.
+  void ShowPreview(editing::Points points, model::C64Colour colour);
+
   void DrawCapturePic();
   void RedrawZoomChar(int cell);    // 1..1000
   void PutZoomPixel(int x, int y);  // 1..160, 1..200
 
  signals:
   void AreaChanged();
+  // Pointer events on the picture box, in pixels of the zoom surface.
+  void Pressed(QPoint at, Qt::MouseButton button);
+  void Moved(QPoint at, Qt::MouseButtons buttons);
+  void Released(QPoint at, Qt::MouseButton button);
 
  private:
   template <typename Change>
@@ -45,7 +53,7 @@ class frmZoom : public QWidget {
   model::ZoomGrid grid_;
   model::ZoomBorderColour border_;
   model::Surface surface_;
-  SurfaceView* picStd_;
+  ZoomPicture* picStd_;
 };
 
 }  // namespace kelvo::ui

@@ -2,19 +2,22 @@
 
 #include <QCloseEvent>
 #include <QCoreApplication>
+#include <QKeyEvent>
 #include <QMdiArea>
 #include <QMenuBar>
 #include <QStatusBar>
 
 #include "app/path_text.h"
+#include "editing/preferences.h"
 #include "model/palette.h"
 #include "ui/qt_text.h"
+#include "ui/settings_dialog.h"
 
 namespace kelvo::ui {
 namespace {
 
 constexpr int kTimerMilliseconds = 100;
-constexpr QSize kFirstSize(1016, 700);
+constexpr QSize kFirstSize(1016, 720);
 
 model::C64Colour ColourNumber(int number) {
   return model::C64Colour::FromNumber(number).value_or(model::C64Colour());
@@ -36,23 +39,34 @@ MainFrame::MainFrame(const app::ProgramFolders& folders, app::SettingsStore& set
       log_(folders.ErrorLogFile(), clock),
       area_(new QMdiArea(this)),
       full_view_(new frmBMPView(document_.picture, this)),
+      colors_(new frmColors(this)),
+      char_data_(new frmCharData(document_.picture, this)),
       zoom_(new frmZoom(document_.picture, this)),
+      pens_(new frmPens(this)),
+      Toolbar1_(new PaintToolBar(this)),
       menu_(*this),
       panels_(statusBar()),
       Timer1_(new QTimer(this)),
       messages_(this),
       dialogs_(this),
       views_(*full_view_, *zoom_),
-      files_(document_, {folders, settings, clock, log_, messages_, prompt_, pointer_, dialogs_, *this, views_}) {
+      files_(document_, {folders, settings, clock, log_, messages_, prompt_, pointer_, dialogs_, *this, views_}),
+      desk_(document_, {views_, settings, messages_, events_, pointer_, log_},
+            {*full_view_, *zoom_, *colors_, *pens_, *char_data_, *Toolbar1_}) {
   setObjectName("MDIFormMenu");
   area_->setObjectName("mdiArea");
   setCentralWidget(area_);
   resize(kFirstSize);
-  AddChild(ChildWindowId::kFullView, full_view_, {664, 0});
+  addToolBar(Toolbar1_);
+  AddChild(ChildWindowId::kFullView, full_view_, {668, 0});
+  AddChild(ChildWindowId::kColors, colors_, {668, 235});
+  AddChild(ChildWindowId::kPens, pens_, {668, 340});
+  AddChild(ChildWindowId::kCharData, char_data_, {668, 415});
   AddChild(ChildWindowId::kZoom, zoom_, {0, 0});
   connect(full_view_, &frmBMPView::ZoomAreaChosen, zoom_, &frmZoom::CentreOn);
   MakeChoiceMenus();
   MakeRecentMenu();
+  ConnectDesk();
   Timer1_->setObjectName("Timer1");
   connect(Timer1_, &QTimer::timeout, this, &MainFrame::Timer1_Timer);
 }
@@ -92,6 +106,21 @@ void MainFrame::MakeRecentMenu() {
   });
 }
 
+void MainFrame::ConnectDesk() {
+  connect(&desk_, &PaintingDesk::StateChanged, this, &MainFrame::ShowPaintingState);
+  connect(&desk_, &PaintingDesk::PointerAt, this,
+          [this](const QString& text) { panels_.Show(StatusPanel::kPointer, text); });
+  connect(&desk_, &PaintingDesk::BackgroundChosen, this,
+          [this](model::C64Colour colour) { SetBackgroundColour(colour.Number()); });
+}
+
+void MainFrame::ShowPaintingState() {
+  panels_.Show(StatusPanel::kTool, ToQt(desk_.Painting().Prompt()));
+  QAction* undo = menu_.Action("mnuUndo");
+  undo->setText("&" + ToQt(desk_.Painting().UndoData().Caption()));
+  undo->setEnabled(desk_.Painting().UndoData().CanUndo());
+}
+
 void MainFrame::StartUp() {
   setWindowTitle(ToQt(files::WindowTitle(document_.file)));
   zoom_->SetMagnification(app::ReadNumber(settings_, app::kMagnification, 4, 8));
@@ -111,6 +140,7 @@ void MainFrame::SetMagnification(int magnification) {
 void MainFrame::SetBackgroundColour(int number) {
   document_.picture.BackgroundColour = ColourNumber(number);
   background_menu_->Check(number);
+  desk_.ShowColours();
   views_.PictureChanged();
 }
 
@@ -135,13 +165,30 @@ void MainFrame::ShowFile(const files::CurrentFile& file) {
   RefreshMenus();
 }
 
+void MainFrame::ShowPreferences() {
+  SettingsDialog dialog(settings_, "frmPreferences", "Preferences", this);
+  dialog.AddCheckBox(editing::k4thColReplaces, "4th char color replaces selected color");
+  dialog.AddCheckBox(editing::kReplaceLeastUsedColWhenFilling, "Replace least used color when filling");
+  dialog.exec();
+}
+
 void MainFrame::RefreshMenus() {
   background_menu_->Check(document_.picture.BackgroundColour.Number());
   menu_.Refresh();
 }
 
 void MainFrame::Timer1_Timer() {
+  desk_.Tick();
   zoom_->TickBorder();
+}
+
+void MainFrame::keyReleaseEvent(QKeyEvent* event) {
+  if (!desk_.HandleKeyUp(event->key(), event->modifiers())) QMainWindow::keyReleaseEvent(event);
+}
+
+void MainFrame::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::ActivationChange && !isActiveWindow()) desk_.LoseFocus();
+  QMainWindow::changeEvent(event);
 }
 
 void MainFrame::closeEvent(QCloseEvent* event) {

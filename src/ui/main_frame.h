@@ -12,9 +12,15 @@
 #include "files/picture_files.h"
 #include "ui/child_window.h"
 #include "ui/choice_menu.h"
+#include "ui/event_pump.h"
 #include "ui/frm_bmp_view.h"
+#include "ui/frm_char_data.h"
+#include "ui/frm_colors.h"
+#include "ui/frm_pens.h"
 #include "ui/frm_zoom.h"
 #include "ui/main_menu.h"
+#include "ui/paint_tool_bar.h"
+#include "ui/painting_desk.h"
 #include "ui/picture_windows.h"
 #include "ui/prompt_lines.h"
 #include "ui/qt_file_dialogs.h"
@@ -26,8 +32,8 @@ class QMdiArea;
 
 namespace kelvo::ui {
 
-enum class ChildWindowId { kFullView, kZoom };
-inline constexpr std::size_t kChildWindows = 2;
+enum class ChildWindowId { kFullView, kColors, kCharData, kZoom, kPens };
+inline constexpr std::size_t kChildWindows = 5;
 
 class MainFrame : public QMainWindow, private files::FileDisplay {
   Q_OBJECT
@@ -44,10 +50,13 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   bool HasFile() const { return document_.file.HasFile(); }
 
   const frmZoom& Zoom() const { return *zoom_; }
+  PaintingDesk& Desk() { return desk_; }
+  const PaintingDesk& Desk() const { return desk_; }
   void SetMagnification(int magnification);
   void SetBackgroundColour(int number);  // 0..15
   void SetGridColor(int number);         // 0..15
 
+  void ShowPreferences();
   void ToggleWindow(ChildWindowId id);
   bool IsWindowShown(ChildWindowId id) const;
 
@@ -55,12 +64,17 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void keyReleaseEvent(QKeyEvent* event) override;
+  void changeEvent(QEvent* event) override;
 
  private:
   void ShowFile(const files::CurrentFile& file) override;
+  void PictureReplaced() override { desk_.PictureReplaced(); }
   ChildWindow* AddChild(ChildWindowId id, QWidget* form, QPoint place);
   void MakeChoiceMenus();
   void MakeRecentMenu();
+  void ConnectDesk();
+  void ShowPaintingState();
   void RefreshMenus();
   void Timer1_Timer();
 
@@ -71,7 +85,11 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
 
   QMdiArea* area_;
   frmBMPView* full_view_;
+  frmColors* colors_;
+  frmCharData* char_data_;
   frmZoom* zoom_;
+  frmPens* pens_;
+  PaintToolBar* Toolbar1_;
   std::array<ChildWindow*, kChildWindows> children_{};
   MainMenu menu_;
   ChoiceMenu* background_menu_ = nullptr;
@@ -84,8 +102,10 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   QtFileDialogs dialogs_;
   WaitCursor pointer_;
   PromptLines prompt_;
+  EventPump events_;
   PictureWindows views_;
   files::PictureFiles files_;
+  PaintingDesk desk_;
 };
 
 }  // namespace kelvo::ui

@@ -57,10 +57,18 @@ constexpr MenuEntry kEntries[] = {
     Separator("mnuFile"),
     {"mnuExit", "mnuFile", "E&xit", "Ctrl+Q", "End the program", [](MainFrame& f) { f.close(); }},
 
+    {"mnuUndo", "mnuLimPaint", "&Undo", "Ctrl+Z", "Take back the last action", [](MainFrame& f) { f.Desk().Undo(); },
+     [](const MainFrame& f) { return f.Desk().Painting().UndoData().CanUndo(); }},
+    Separator("mnuLimPaint"),
     Submenu("mnuBG", "mnuLimPaint"),
+    {"mnuPreferences", "mnuLimPaint", "&Preferences...", "", "How painting treats full cells",
+     [](MainFrame& f) { f.ShowPreferences(); }},
 
     ShowEntry<ChildWindowId::kFullView>("mnuView_0", "&Full view", "Show or hide the whole picture"),
+    ShowEntry<ChildWindowId::kColors>("mnuView_1", "&Colors", "Show or hide the sixteen colours"),
+    ShowEntry<ChildWindowId::kCharData>("mnuView_2", "Char &data", "Show or hide the cell under the pointer"),
     ShowEntry<ChildWindowId::kZoom>("mnuView_4", "&Zoom window", "Show or hide the zoom window"),
+    ShowEntry<ChildWindowId::kPens>("mnuPens", "&Pens", "Show or hide the two pens"),
     Separator("mnuViewMenu"),
     ZoomEntry<4>("mnuZoom_4X", "Zoom &4:1", "Ctrl+4", "Show pixels four times as large"),
     ZoomEntry<8>("mnuZoom_8X", "Zoom &8:1", "Ctrl+8", "Show pixels eight times as large"),

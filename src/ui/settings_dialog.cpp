@@ -8,8 +8,7 @@
 
 namespace kelvo::ui {
 
-SettingsDialog::SettingsDialog(app::SettingsStore& settings, const QString& name, const QString& title,
-                               QWidget* parent)
+SettingsDialog::SettingsDialog(app::SettingsStore& settings, const QString& name, const QString& title, QWidget* parent)
     : QDialog(parent), settings_(settings), form_(new QFormLayout) {
   setObjectName(name);
   setWindowTitle(title);

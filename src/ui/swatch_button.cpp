@@ -37,7 +37,7 @@ void SwatchButton::Show(model::C64Colour colour, const QString& role, const QStr
 }
 
 QSize SwatchButton::sizeHint() const {
-  return {34, 28};
+  return {32, 28};
 }
 
 void SwatchButton::paintEvent(QPaintEvent*) {

@@ -11,15 +11,16 @@ namespace kelvo::ui {
 // "Light red": the colour's name without its number.
 QString PlainColourName(model::C64Colour colour);
 
-// Any mouse button presses it; the keyboard's Space stands for the left one, with Ctrl for the right, with Shift for the
-// left with Shift.
+// Any mouse button presses it; the keyboard's Space stands for the left one, with Ctrl for the right, with Shift for
+// the left with Shift.
 class SwatchButton : public QAbstractButton {
   Q_OBJECT
 
  public:
   explicit SwatchButton(QWidget* parent);
 
-  // Shows `colour`; `marks` are letters in its corner, `in_cell` puts a dot below them. `role` begins the accessible name.
+  // Shows `colour`; `marks` are letters in its corner, `in_cell` puts a dot below them. `role` begins the accessible
+  // name.
   void Show(model::C64Colour colour, const QString& role = {}, const QString& marks = {}, bool in_cell = false);
   model::C64Colour Colour() const { return colour_; }
 

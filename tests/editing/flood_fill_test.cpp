@@ -7,6 +7,7 @@
 
 #include "editing/cell_slots.h"
 #include "editing/set_data.h"
+#include "support/mazes.h"
 #include "support/painted.h"
 #include "support/pictures.h"
 #include "support/recorders.h"
@@ -106,20 +107,6 @@ PictureImage Blotchy(unsigned seed) {
   return picture;
 }
 
-// Corridors of background between walls, one pixel wide: the longest way that a fill can go.
-PictureImage Maze() {
-  PictureImage picture;
-  for (int cell = 1; cell <= 1000; ++cell) support::SetCell(picture, cell, {}, 1, 2, 3);
-  for (int x = 2; x <= 160; x += 2) {
-    for (int y = 1; y <= 200; ++y) {
-      if (y == (x / 2 % 2 == 0 ? 1 : 200)) continue;
-      const model::PixelPlace place = model::LookUpPixel(x, y);
-      SetData(picture, place.byte, place.position, model::BitPair::k11, place.cell, Colour(1));
-    }
-  }
-  return picture;
-}
-
 void CompareWithLiteral(const PictureImage& before, int x, int y, int colour, bool replace) {
   PictureImage fast = before, slow = before;
   RecordingViews views;
@@ -144,7 +131,7 @@ TEST(FloodFill, EqualsTheLiteralRulesInContentAndOrder) {
   }
   CompareWithLiteral(PictureImage{}, 80, 100, 5, false);
   CompareWithLiteral(PictureImage{}, 1, 200, 0, true);
-  CompareWithLiteral(Maze(), 1, 1, 5, false);
+  CompareWithLiteral(support::Maze(), 1, 1, 5, false);
 }
 
 TEST(FloodFill, PassesThroughAFullCellAndLeavesItAlone) {

@@ -103,7 +103,9 @@ class PlannedDialogs final : public files::FileDialogs {
 class RecordingDisplay final : public files::FileDisplay {
  public:
   void ShowFile(const files::CurrentFile& file) override { title = files::WindowTitle(file); }
+  void PictureReplaced() override { ++replaced; }
   std::string title;
+  int replaced = 0;
 };
 
 }  // namespace kelvo::support

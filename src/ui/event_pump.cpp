@@ -1,0 +1,15 @@
+#include "ui/event_pump.h"
+
+#include <QCoreApplication>
+
+#include "ui/display_frame.h"
+
+namespace kelvo::ui {
+
+void EventPump::Process() {
+  if (since_paint_.elapsed() < kDisplayFrameMilliseconds) return;
+  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+  since_paint_.restart();
+}
+
+}  // namespace kelvo::ui
