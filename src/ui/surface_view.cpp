@@ -33,7 +33,10 @@ QSize SurfaceView::sizeHint() const {
 }
 
 void SurfaceView::Refresh(const model::Rect& area) {
-  update(WidgetRect(area).toAlignedRect());
+  const QRect changed = WidgetRect(area).toAlignedRect();
+  if (waiting_.contains(changed)) return;
+  waiting_ |= changed;
+  update(waiting_);
 }
 
 void SurfaceView::Refresh() {
@@ -49,6 +52,7 @@ QRectF SurfaceView::WidgetRect(const model::Rect& area) const {
 }
 
 void SurfaceView::paintEvent(QPaintEvent* event) {
+  waiting_ = {};
   QPainter painter(this);
   if (scale_ == 1.0 && devicePixelRatioF() == 1.0) {
     for (const QRect& part : event->region()) painter.drawImage(part, image_, part);

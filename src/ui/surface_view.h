@@ -53,6 +53,7 @@ class SurfaceView : public QWidget {
   QImage image_;  // the surface's own pixels, not a copy
   int unit_;
   double scale_ = 1.0;
+  QRect waiting_;  // what is to be painted next: one rectangle, so that a fill's many pixels cost Qt one update
 };
 
 }  // namespace kelvo::ui
