@@ -149,6 +149,13 @@ TEST_F(ProcessCommandTest, AnimTogglesOrSetsTheFlagAlone) {
   EXPECT_FALSE(animation.flag);
 }
 
+TEST_F(ProcessCommandTest, PassesOnTheErrorsOfOthers) {
+  struct Broken final : app::PromptOutput {
+    void CommandPromptList(std::string_view) override { throw std::logic_error("no list"); }
+  } broken;
+  EXPECT_THROW(ProcessCommand("VER", {folders, document, files, broken, animation}), std::logic_error);
+}
+
 TEST_F(ProcessCommandTest, AnyLineGivesAtMostTwoRepliesAndStaysInTheProgramFolder) {
   std::mt19937 random(7);
   const Lines parts = {"MD",  "RD", "LOAD", "ANIM", " ",      " ", ",", "8",
