@@ -17,7 +17,7 @@ namespace fs = std::filesystem;
 using support::Lines;
 
 // A menu entry that follows when it may.
-class RecordingAnimation final : public app::AnimationSwitch {
+class RecordingAnimation : public app::AnimationSwitch {
  public:
   void ToggleAnimMode() override { checked = may_start && !checked; }
   bool IsAnimModeChecked() const override { return checked; }
@@ -150,10 +150,11 @@ TEST_F(ProcessCommandTest, AnimTogglesOrSetsTheFlagAlone) {
 }
 
 TEST_F(ProcessCommandTest, PassesOnTheErrorsOfOthers) {
-  struct Broken final : app::PromptOutput {
-    void CommandPromptList(std::string_view) override { throw std::logic_error("no list"); }
+  struct Broken final : RecordingAnimation {
+    void ToggleAnimMode() override { throw std::logic_error("no mode"); }
   } broken;
-  EXPECT_THROW(ProcessCommand("VER", {folders, document, files, broken, animation}), std::logic_error);
+  EXPECT_THROW(ProcessCommand("ANIM", {folders, document, files, prompt, broken}), std::logic_error);
+  EXPECT_TRUE(prompt.lines.empty());
 }
 
 TEST_F(ProcessCommandTest, AnyLineGivesAtMostTwoRepliesAndStaysInTheProgramFolder) {
