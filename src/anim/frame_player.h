@@ -12,9 +12,8 @@
 namespace kelvo::anim {
 
 // Runs through the frames over and over, at a steady pace: a frame's turn follows from the time since the start alone,
-// so a view that comes late once does not fall behind. Reads one file at a time and keeps two pictures, however many
-// frames there are; the picture in memory is never touched. A frame that cannot be read any more leaves the one before
-// to be seen.
+// so a view that comes late once does not fall behind. Holds one picture, however many frames there are; the picture in
+// memory is never touched. A frame that cannot be read any more leaves the one before to be seen.
 class FramePlayer {
  public:
   using Milliseconds = std::chrono::milliseconds;
