@@ -5,17 +5,12 @@
 
 #include "model/cell_palette.h"
 #include "model/full_view.h"
+#include "model/mix_quarter.h"
 #include "model/palette.h"
 #include "model/pixel_place.h"
 
 namespace kelvo::model {
 namespace {
-
-// A quarter of `over` mixed into `under`, channel by channel.
-constexpr std::uint32_t MixQuarter(std::uint32_t under, std::uint32_t over) {
-  constexpr std::uint32_t kLowBitsOff = 0x3F3F3F3F;
-  return under - (under >> 2 & kLowBitsOff) + (over >> 2 & kLowBitsOff);
-}
 
 // A pixel's box: its top row, and the row that stands in all the others.
 struct BoxColours {

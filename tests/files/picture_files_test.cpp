@@ -5,8 +5,7 @@
 
 #include "app/path_text.h"
 #include "support/pictures.h"
-#include "support/recorders.h"
-#include "support/temp_folder.h"
+#include "support/program.h"
 
 namespace kelvo::files {
 namespace {
@@ -14,10 +13,8 @@ namespace {
 namespace fs = std::filesystem;
 using support::Lines;
 
-class PictureFilesTest : public testing::Test {
+class PictureFilesTest : public testing::Test, protected support::Program {
  protected:
-  PictureFilesTest() { folders.Create(); }
-
   std::string Place(const std::string& name) const { return app::TextFromPath(folder / name); }
   std::string WriteKoala(const std::string& name, std::uint8_t seed = 0) {
     app::Bytes bytes = support::CountingBytes(10003);
@@ -36,20 +33,6 @@ class PictureFilesTest : public testing::Test {
     const app::Bytes bytes = support::ReadFile(folders.ErrorLogFile());
     return {bytes.begin(), bytes.end()};
   }
-
-  support::TempFolder folder;
-  app::ProgramFolders folders{folder / "program"};
-  support::MapSettings settings;
-  support::FixedClock clock;
-  app::ErrorLog log{folders.ErrorLogFile(), clock};
-  support::RecordingMessages messages;
-  support::RecordingPrompt prompt;
-  support::NoWaitPointer pointer;
-  support::PlannedDialogs dialogs;
-  support::RecordingDisplay display;
-  support::RecordingViews views;
-  Document document;
-  PictureFiles files{document, {folders, settings, clock, log, messages, prompt, pointer, dialogs, display, views}};
 };
 
 TEST_F(PictureFilesTest, OpeningByDialogTakesTheChosenTypeAndTellsEveryone) {

@@ -1,0 +1,59 @@
+// Animation mode: switching it on and off, with its questions.
+#pragma once
+
+#include <string_view>
+
+#include "anim/anim_settings.h"
+#include "app/animation_switch.h"
+#include "app/messages.h"
+#include "app/settings_store.h"
+#include "files/document.h"
+#include "files/picture_files.h"
+
+namespace kelvo::anim {
+
+// Where the mode shows.
+class AnimDisplay {
+ public:
+  virtual ~AnimDisplay() = default;
+  virtual void ShowCheckMark(bool on) = 0;             // of the menu entry Animation mode
+  virtual void ShowStatus(std::string_view text) = 0;  // "ANIM=ON" or "ANIM=OFF", in the fourth status panel
+  virtual void ShowFrameWindow() = 0;                  // makes it when there is none
+  virtual void UnloadFrameWindow() = 0;                // keeps its place; nothing when there is none
+};
+
+// What animation works with; all of it outlives it.
+struct AnimSurroundings {
+  app::SettingsStore& settings;
+  app::Messages& messages;
+  const files::Document& document;
+  files::PictureFiles& files;
+};
+
+// The menu's check mark and the flag are two states, on purpose: the check mark says whether the frame window is open,
+// the flag what the command prompt set last. They may disagree until the menu entry is used again.
+class AnimMode final : public app::AnimationSwitch {
+ public:
+  AnimMode(const AnimSurroundings& with, AnimDisplay& display) : with_(with), display_(display) {}
+
+  // What the menu entry does. All that stands against the mode is told, and leaves it off.
+  void ToggleAnimMode() override;
+  bool IsAnimModeChecked() const override { return checked_; }
+
+  void SetAnimFlag(bool on) override;
+  bool AnimFlag() const { return flag_; }
+
+  // The frame window is gone, whoever closed it: its place is kept and the check mark cleared.
+  void FrameWindowUnloaded(const FrameWindowPlace& place);
+
+ private:
+  void Check(bool on);
+  bool MayStart();
+  bool Refuse(std::string_view why);
+
+  AnimSurroundings with_;
+  AnimDisplay& display_;
+  bool checked_ = false, flag_ = false;
+};
+
+}  // namespace kelvo::anim

@@ -1,0 +1,49 @@
+#include "anim/anim_settings.h"
+
+#include <algorithm>
+
+#include "app/text.h"
+
+namespace kelvo::anim {
+namespace {
+
+constexpr int kFarthest = 32767;  // no display reaches farther
+
+}  // namespace
+
+AnimProperties ReadAnimProperties(const app::SettingsStore& settings) {
+  return {settings.Read(kFolder), settings.Read(kAnimPrefix)};
+}
+
+void KeepAnimProperties(app::SettingsStore& settings, const AnimProperties& properties) {
+  settings.Write(kFolder, app::Trimmed(properties.folder));
+  settings.Write(kAnimPrefix, app::Trimmed(properties.prefix));
+}
+
+int ReadPlayRate(const app::SettingsStore& settings) {
+  return app::ReadNumber(settings, kPlayRate, kSlowestRate, kFastestRate);
+}
+
+void KeepPlayRate(app::SettingsStore& settings, int rate) {
+  settings.Write(kPlayRate, std::to_string(std::clamp(rate, kSlowestRate, kFastestRate)));
+}
+
+bool ReadOnionSkin(const app::SettingsStore& settings) {
+  return app::ReadNumber(settings, kOnionSkin, 0, 1) == 1;
+}
+
+void KeepOnionSkin(app::SettingsStore& settings, bool on) {
+  settings.Write(kOnionSkin, on ? "1" : "0");
+}
+
+FrameWindowPlace ReadFrameWindowPlace(const app::SettingsStore& settings) {
+  return {app::ReadNumber(settings, kFrmAnimLeftPos, -kFarthest, kFarthest),
+          app::ReadNumber(settings, kFrmAnimTopPos, -kFarthest, kFarthest)};
+}
+
+void KeepFrameWindowPlace(app::SettingsStore& settings, const FrameWindowPlace& place) {
+  settings.Write(kFrmAnimLeftPos, std::to_string(place.left));
+  settings.Write(kFrmAnimTopPos, std::to_string(place.top));
+}
+
+}  // namespace kelvo::anim

@@ -1,0 +1,47 @@
+// What animation mode keeps in the settings.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "app/settings_store.h"
+
+namespace kelvo::anim {
+
+inline constexpr app::Setting kFolder{"AnimProperties", "Folder", ""};
+inline constexpr app::Setting kAnimPrefix{"AnimProperties", "AnimPrefix", "anim"};
+inline constexpr app::Setting kPlayRate{"AnimProperties", "PlayRate", "10"};
+inline constexpr app::Setting kOnionSkin{"AnimProperties", "OnionSkin", "0"};  // 1: the frame before shines through
+inline constexpr app::Setting kFrmAnimLeftPos{"Settings", "frmAnimLeftPos", "0"};
+inline constexpr app::Setting kFrmAnimTopPos{"Settings", "frmAnimTopPos", "0"};
+
+inline constexpr int kSlowestRate = 1, kFastestRate = 25;  // frames a second
+
+struct AnimProperties {
+  std::string folder;  // the beginning of every frame's path, used as it was typed
+  std::string prefix;  // of every frame's file name
+};
+
+AnimProperties ReadAnimProperties(const app::SettingsStore& settings);
+
+// Stores both texts without the spaces around them. Nothing else is checked here: that is for the mode to do.
+void KeepAnimProperties(app::SettingsStore& settings, const AnimProperties& properties);
+
+// Frames a second, kSlowestRate..kFastestRate.
+int ReadPlayRate(const app::SettingsStore& settings);
+void KeepPlayRate(app::SettingsStore& settings, int rate);
+
+bool ReadOnionSkin(const app::SettingsStore& settings);
+void KeepOnionSkin(app::SettingsStore& settings, bool on);
+
+// Where the frame window stands, in display pixels.
+struct FrameWindowPlace {
+  int left = 0, top = 0;
+
+  friend bool operator==(const FrameWindowPlace&, const FrameWindowPlace&) = default;
+};
+
+FrameWindowPlace ReadFrameWindowPlace(const app::SettingsStore& settings);
+void KeepFrameWindowPlace(app::SettingsStore& settings, const FrameWindowPlace& place);
+
+}  // namespace kelvo::anim

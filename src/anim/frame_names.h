@@ -1,0 +1,42 @@
+// How the files of an animation's frames are called: folder, prefix, number of four digits, ".kvp".
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "anim/anim_settings.h"
+
+namespace kelvo::anim {
+
+inline constexpr int kFirstFrame = 1, kLastFrame = 9999;
+
+// Folder and prefix are joined as plain text, with no separator in between, on purpose: a folder that was typed without
+// its final separator becomes a part of the file names. Frame numbers are kFirstFrame..kLastFrame.
+class FrameNames {
+ public:
+  explicit FrameNames(const AnimProperties& properties);
+
+  std::string Path(int number) const { return path_start_ + Ending(number); }
+  std::string FileName(int number) const { return FileStart() + Ending(number); }
+
+  // The folder that the paths lead to, as the text that stands before the file names: empty, or with its separator.
+  std::string FolderText() const { return path_start_.substr(0, file_start_at_); }
+  std::filesystem::path Folder() const;
+
+  // The frame that a file of that folder is, whatever the case of its name; empty when it is none.
+  std::optional<int> NumberOf(std::string_view file_name) const;
+
+  // The same for a whole path, which may spell the folder in another way.
+  std::optional<int> NumberOfPath(std::string_view path) const;
+
+ private:
+  static std::string Ending(int number);
+  std::string FileStart() const { return path_start_.substr(file_start_at_); }
+
+  std::string path_start_;
+  std::size_t file_start_at_;
+};
+
+}  // namespace kelvo::anim

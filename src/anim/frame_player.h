@@ -1,0 +1,49 @@
+// The preview: which frame is to be seen when.
+#pragma once
+
+#include <chrono>
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "model/picture_image.h"
+
+namespace kelvo::anim {
+
+// Runs through the frames over and over, at a steady pace: a frame's turn follows from the time since the start alone,
+// so a view that comes late once does not fall behind. Holds one picture, however many frames there are; the picture in
+// memory is never touched. A frame that cannot be read any more leaves the one before to be seen.
+class FramePlayer {
+ public:
+  using Milliseconds = std::chrono::milliseconds;
+
+  // The frames in their order, and frames a second, kSlowestRate..kFastestRate.
+  FramePlayer(std::vector<std::string> paths, int rate);
+
+  bool IsEmpty() const { return paths_.empty(); }
+
+  // The picture whose turn has come, `since_start` after the start; null while the one shown last still has its turn.
+  // It stands until the next call.
+  const model::PictureImage* Due(Milliseconds since_start);
+
+  // Reads the frame after the one shown last, so that Due() has it at hand. For the time after painting.
+  void ReadAhead();
+
+  // How long until the next turn.
+  Milliseconds UntilNext(Milliseconds since_start) const;
+
+ private:
+  using Turn = std::chrono::milliseconds::rep;
+
+  Turn TurnAt(Milliseconds since_start) const;
+  void Read(Turn turn);
+
+  std::vector<std::string> paths_;
+  int rate_;
+  Turn shown_turn_ = -1;
+  std::optional<std::size_t> read_index_;
+  std::optional<model::PictureImage> read_;
+};
+
+}  // namespace kelvo::anim

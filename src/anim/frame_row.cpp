@@ -1,0 +1,65 @@
+#include "anim/frame_row.h"
+
+#include <algorithm>
+#include <exception>
+
+#include "app/path_text.h"
+#include "files/load_picture.h"
+
+namespace kelvo::anim {
+namespace {
+
+namespace fs = std::filesystem;
+
+bool HasPictureSize(const std::string& path) {
+  std::error_code error;
+  const std::uintmax_t size = fs::file_size(app::PathFromText(path), error);
+  return !error && files::FormatOf(files::kOwnType).Takes(size);
+}
+
+template <typename Entries>
+std::optional<int> FirstReadable(Entries from, Entries to) {
+  const auto found = std::find_if(from, to, [](const auto& frame) { return HasPictureSize(frame.second); });
+  return found == to ? std::nullopt : std::optional(found->first);
+}
+
+}  // namespace
+
+FrameRow::FrameRow(const FrameNames& names) {
+  std::error_code error;
+  for (fs::directory_iterator entry(names.Folder(), error), end; entry != end; entry.increment(error)) {
+    const std::string name = app::TextFromPath(entry->path().filename());
+    const auto number = names.NumberOf(name);
+    std::error_code ignored;
+    if (!number || !entry->is_regular_file(ignored)) continue;
+    const std::string path = names.FolderText() + name, exact = names.Path(*number);
+    std::string& chosen = paths_[*number];
+    if (chosen != exact && (path == exact || path > chosen)) chosen = path;
+  }
+}
+
+std::optional<int> FrameRow::ReadableAfter(int number) const {
+  return FirstReadable(paths_.upper_bound(number), paths_.end());
+}
+
+std::optional<int> FrameRow::ReadableBefore(int number) const {
+  return FirstReadable(std::make_reverse_iterator(paths_.lower_bound(number)), paths_.rend());
+}
+
+std::vector<std::string> FrameRow::ReadablePaths() const {
+  std::vector<std::string> paths;
+  for (const auto& [number, path] : paths_) {
+    if (HasPictureSize(path)) paths.push_back(path);
+  }
+  return paths;
+}
+
+std::optional<model::PictureImage> ReadFrame(const std::string& path) {
+  try {
+    return files::LoadPicture(path, files::kOwnType, {});
+  } catch (const std::exception&) {
+    return std::nullopt;
+  }
+}
+
+}  // namespace kelvo::anim

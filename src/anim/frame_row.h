@@ -1,0 +1,41 @@
+// The frames of an animation that are on the disk, in order.
+#pragma once
+
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "anim/frame_names.h"
+#include "model/picture_image.h"
+
+namespace kelvo::anim {
+
+// As the folder was when it was read; a folder that is missing or cannot be read has no frames. Where several files
+// differ only in the case of their names, the one that FrameNames would write counts.
+class FrameRow {
+ public:
+  FrameRow() = default;
+  explicit FrameRow(const FrameNames& names);
+
+  int Count() const { return static_cast<int>(paths_.size()); }
+  bool Has(int number) const { return paths_.contains(number); }
+  std::string Path(int number) const { return paths_.at(number); }  // of a frame that it has
+  int Last() const { return paths_.empty() ? 0 : paths_.rbegin()->first; }
+
+  // The nearest frame after or before `number` (0 or more) whose file has the size of a picture.
+  std::optional<int> ReadableAfter(int number) const;
+  std::optional<int> ReadableBefore(int number) const;
+
+  // The paths of all frames whose files have the size of a picture.
+  std::vector<std::string> ReadablePaths() const;
+
+ private:
+  std::map<int, std::string> paths_;
+};
+
+// The picture in a frame's file; empty when it cannot be read.
+std::optional<model::PictureImage> ReadFrame(const std::string& path);
+
+}  // namespace kelvo::anim

@@ -1,0 +1,18 @@
+// The port through which the command language reaches animation mode.
+#pragma once
+
+namespace kelvo::app {
+
+class AnimationSwitch {
+ public:
+  virtual ~AnimationSwitch() = default;
+
+  // What the menu entry Animation mode does, with all its questions: its check mark tells how it ended.
+  virtual void ToggleAnimMode() = 0;
+  virtual bool IsAnimModeChecked() const = 0;
+
+  // Sets the animation-mode flag and what the status bar says of it. The menu entry is left alone, on purpose.
+  virtual void SetAnimFlag(bool on) = 0;
+};
+
+}  // namespace kelvo::app

@@ -1,0 +1,18 @@
+// Names that a person types for a file or a folder, and the entries that they find.
+#pragma once
+
+#include <filesystem>
+#include <string_view>
+
+namespace kelvo::app {
+
+// True for a name that stays inside its folder and that every platform takes: no separator, no drive letter, no "." or
+// "..", no control character, nothing that Windows keeps for its devices (NUL, COM1, with or without an ending), none
+// of its forbidden characters, and no dot or space at the end, which Windows would drop.
+bool IsPlainName(std::string_view name);
+
+// The entry of `folder` that is called `name`, whatever the case of its ASCII letters: the one of exactly that name if
+// there is one, else always the same one of several. `folder` / `name` when there is none or the folder cannot be read.
+std::filesystem::path EntryOf(const std::filesystem::path& folder, std::string_view name);
+
+}  // namespace kelvo::app

@@ -1,0 +1,26 @@
+#include "app/text.h"
+
+#include <algorithm>
+
+namespace kelvo::app {
+
+std::string_view Trimmed(std::string_view text) {
+  const auto first = text.find_first_not_of(' ');
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+std::string ToUpper(std::string_view text) {
+  std::string upper(text);
+  std::transform(upper.begin(), upper.end(), upper.begin(),
+                 [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; });
+  return upper;
+}
+
+std::string Without(std::string_view unwanted, std::string_view text) {
+  std::string rest(text);
+  std::erase_if(rest, [&](char c) { return unwanted.find(c) != std::string_view::npos; });
+  return rest;
+}
+
+}  // namespace kelvo::app

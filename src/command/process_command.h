@@ -1,0 +1,37 @@
+// The command language: one line in, its replies out.
+//
+// A line is cut at its first space into a word and an argument. Words are compared exactly, in the order of one table;
+// the argument counts in upper case. All replies are lines of the prompt's history, and a failure is one of them: the
+// offending text with an error number.
+//
+//   900  RELOAD without a current file       904  ANIM with another argument than ON or OFF
+//   901  a device that is no number          905  a disk-drive command, which this system does not take
+//   902  a picture that cannot be loaded     906  a folder that cannot be made
+//   903  an unknown word                     907  a folder that cannot be removed
+#pragma once
+
+#include <string_view>
+
+#include "app/animation_switch.h"
+#include "app/messages.h"
+#include "app/program_folders.h"
+#include "files/document.h"
+#include "files/picture_files.h"
+
+namespace kelvo::command {
+
+// What commands work with.
+struct CommandSurroundings {
+  const app::ProgramFolders& folders;
+  const files::Document& document;
+  files::PictureFiles& files;
+  app::PromptOutput& prompt;
+  app::AnimationSwitch& animation;
+};
+
+// Carries out `line`, which comes without the prompt character. Nothing is kept between calls. Names in a command are
+// those of files and folders alone: one that could lead elsewhere is a failure like any other (902, 906, 907). Throws
+// what a port throws.
+void ProcessCommand(std::string_view line, const CommandSurroundings& with);
+
+}  // namespace kelvo::command

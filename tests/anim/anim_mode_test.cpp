@@ -1,0 +1,114 @@
+// Switching animation mode on and off, on real folders.
+#include "anim/anim_mode.h"
+
+#include <gtest/gtest.h>
+
+#include "app/path_text.h"
+#include "command/process_command.h"
+#include "support/pictures.h"
+#include "support/program.h"
+
+namespace kelvo::anim {
+namespace {
+
+namespace fs = std::filesystem;
+using support::Lines;
+
+class RecordingAnimDisplay final : public AnimDisplay {
+ public:
+  void ShowCheckMark(bool on) override { check_mark = on; }
+  void ShowStatus(std::string_view text) override { status = text; }
+  void ShowFrameWindow() override { window = true; }
+  void UnloadFrameWindow() override { window = false; }
+  bool check_mark = false, window = false;
+  std::string status = "ANIM=OFF";
+};
+
+class AnimModeTest : public testing::Test, protected support::Program {
+ protected:
+  void SetProperties(const std::string& animation_folder, const std::string& prefix) {
+    KeepAnimProperties(settings, {animation_folder, prefix});
+  }
+  // What a toggle to "on" asks and tells.
+  Lines Toggle() {
+    messages.shown.clear();
+    mode.ToggleAnimMode();
+    EXPECT_EQ(mode.IsAnimModeChecked(), shows.check_mark);
+    EXPECT_EQ(shows.window, shows.check_mark);
+    return messages.shown;
+  }
+  std::string Text(const std::string& name) const { return app::TextFromPath(folder / name); }
+
+  RecordingAnimDisplay shows;
+  AnimMode mode{{settings, messages, document, files}, shows};
+  const std::string question =
+      "Initial animation frame could not be found\r\nDo you want to create anim0001.kvp based on your loaded kvp?";
+};
+
+TEST_F(AnimModeTest, AsksInOrderUntilTheFirstFrameIsThere) {
+  EXPECT_EQ(Toggle(), Lines{"Animation folder must be specified"});
+  EXPECT_FALSE(shows.check_mark);
+  SetProperties(" " + folder.Path().string() + "/ ", " ");
+  EXPECT_EQ(Toggle(), Lines{"Animation prefix must be specified"});
+  SetProperties(Text(""), " anim ");
+  EXPECT_EQ(Toggle(), Lines{question});
+  EXPECT_FALSE(shows.check_mark);
+  EXPECT_FALSE(fs::exists(folder / "anim0001.kvp"));
+
+  messages.yes = true;
+  document.picture = support::RandomPicture(1);
+  EXPECT_EQ(Toggle(), Lines{question});
+  EXPECT_TRUE(shows.check_mark);
+  EXPECT_EQ(document.file.CurrentFilePath, Text("anim0001.kvp"));
+  EXPECT_EQ(fs::file_size(folder / "anim0001.kvp"), 10050U);
+  EXPECT_EQ(Toggle(), Lines{});
+  EXPECT_FALSE(shows.check_mark);
+
+  fs::rename(folder / "anim0001.kvp", folder / "ANIM0001.KVP");
+  EXPECT_EQ(Toggle(), Lines{});
+  EXPECT_TRUE(shows.check_mark);
+}
+
+TEST_F(AnimModeTest, LooksAtTheFolderOnlyAfterTheFirstFrame) {
+  messages.yes = true;
+  SetProperties(Text("gone/"), "anim");
+  const Lines told = Toggle();
+  ASSERT_EQ(told.size(), 3U);  // between the two: that the picture was not saved
+  EXPECT_EQ(told.front(), question);
+  EXPECT_EQ(told.back(), "Animation folder can not be found");
+  EXPECT_FALSE(shows.check_mark);
+
+  SetProperties(Text("gone"), "anim");
+  EXPECT_EQ(Toggle(), (Lines{question, "Animation folder can not be found"}));
+  EXPECT_TRUE(fs::exists(folder / "goneanim0001.kvp"));
+  fs::create_directory(folder / "gone");
+  EXPECT_EQ(Toggle(), Lines{});
+  EXPECT_TRUE(shows.check_mark);
+
+  fs::create_directory(folder / "x0001.kvp");  // in the place of the first frame, which cannot be saved then
+  SetProperties(Text(""), "x");
+  Toggle();
+  EXPECT_EQ(Toggle().size(), 2U);
+  EXPECT_FALSE(shows.check_mark);
+}
+
+TEST_F(AnimModeTest, FlagAndCheckMarkMayDisagreeUntilTheModeIsSwitched) {
+  const command::CommandSurroundings with{folders, document, files, prompt, mode};
+  SetProperties(Text(""), "anim");
+  messages.yes = true;
+  command::ProcessCommand("ANIM ON", with);
+  EXPECT_EQ(shows.status, "ANIM=ON");
+  EXPECT_TRUE(mode.AnimFlag() && !shows.check_mark && !shows.window);
+  command::ProcessCommand("ANIM", with);
+  EXPECT_TRUE(mode.AnimFlag() && shows.check_mark && shows.window);
+
+  mode.FrameWindowUnloaded({-12, 345});
+  EXPECT_TRUE(mode.AnimFlag() && !shows.check_mark);
+  EXPECT_EQ(ReadFrameWindowPlace(settings), (FrameWindowPlace{-12, 345}));
+  EXPECT_EQ(settings.values["Settings/frmAnimTopPos"], "345");
+  command::ProcessCommand("ANIM OFF", with);
+  EXPECT_EQ(shows.status, "ANIM=OFF");
+}
+
+}  // namespace
+}  // namespace kelvo::anim

@@ -1,0 +1,214 @@
+// The frames of an animation: their names, going from one to another, and the preview.
+#include <gtest/gtest.h>
+
+#include <array>
+#include <random>
+#include <tuple>
+
+#include "anim/frame_navigation.h"
+#include "anim/frame_player.h"
+#include "app/path_text.h"
+#include "files/picture_format.h"
+#include "support/pictures.h"
+#include "support/program.h"
+
+namespace kelvo::anim {
+namespace {
+
+namespace fs = std::filesystem;
+using std::chrono::milliseconds;
+
+// Its seed stands in every byte of its bitmap.
+model::PictureImage FramePicture(unsigned seed) {
+  model::PictureImage picture;
+  files::Sign(picture);
+  for (auto& byte : picture.Bitmap) byte = static_cast<std::uint8_t>(seed);
+  return picture;
+}
+
+class FramesTest : public testing::Test, protected support::Program {
+ protected:
+  FramesTest() {
+    fs::create_directory(folder / "a");
+    KeepAnimProperties(settings, {Text("a/"), "anim"});
+  }
+  std::string Text(const std::string& name) const { return app::TextFromPath(folder / name); }
+  fs::path File(int number) const { return app::PathFromText(FrameNames({Text("a/"), "anim"}).Path(number)); }
+  void WriteFrames(std::initializer_list<int> numbers) {
+    for (const int number : numbers) support::WriteFile(File(number), files::Encode(FramePicture(number)));
+  }
+  std::string Press(const std::string& button) {
+    if (button == "First") return frames.First();
+    if (button == "Previous") return frames.Previous();
+    if (button == "Next") return frames.Next();
+    return button == "Back" ? frames.Back() : frames.GoTo(button);
+  }
+  int Seed() const { return document.picture.Bitmap[1]; }
+  static int SeedIn(const fs::path& file) { return support::ReadFile(file).at(2050); }
+
+  FrameNavigation frames{{settings, messages, document, files}};
+};
+
+TEST(FrameNames, RunFolderPrefixAndNumberTogether) {
+  EXPECT_EQ(FrameNames({"/anim/", "anim"}).Path(1), "/anim/anim0001.kvp");
+  const FrameNames names({"/some/ANIM", "anim"});
+  EXPECT_EQ(names.Path(9999), "/some/ANIManim9999.kvp");
+  EXPECT_EQ(names.Folder(), fs::path("/some/"));
+  EXPECT_EQ(FrameNames({"", "anim"}).Folder(), fs::path("."));
+  EXPECT_EQ(names.NumberOf("animANIM0042.KVP"), 42);
+  EXPECT_EQ(names.NumberOfPath("/some/ANIManim0042.kvp"), 42);
+  for (const char* other : {"ANIManim0000.kvp", "ANIManim042.kvp", "ANIManim00042.kvp", "ANIManim-042.kvp",
+                            "ANIManim0042.koa", "anim0042.kvp", "ANIManim0042", ""}) {
+    EXPECT_EQ(names.NumberOf(other), std::nullopt) << other;
+  }
+  EXPECT_EQ(names.NumberOfPath("/other/ANIManim0042.kvp"), std::nullopt);
+}
+
+TEST_F(FramesTest, TheFourButtonsAndTheNumberField) {
+  WriteFrames({1, 2, 3, 5});
+  // Pressed one after another: First, Previous, Next, Back, or a typed number; the frame shown then, and the word.
+  const std::tuple<std::string, int, const char*> presses[] = {
+      {"Back", 0, "NO FRAME WAS SHOWN BEFORE"},
+      {"Previous", 0, "NO FRAME BEFORE THIS ONE"},
+      {"Next", 1, ""},
+      {"Previous", 1, "NO FRAME BEFORE THIS ONE"},
+      {" 0003 ", 3, ""},
+      {"Next", 5, "FRAME 4 SKIPPED"},
+      {"Previous", 3, "FRAME 4 SKIPPED"},
+      {"First", 1, ""},
+      {"Back", 3, ""},
+      {"Back", 1, ""},
+      {"4", 1, "FRAME 4 IS MISSING"},
+      {"0", 1, "TYPE A NUMBER FROM 1 TO 9999"},
+      {"10000", 1, "TYPE A NUMBER FROM 1 TO 9999"},
+      {"1x", 1, "TYPE A NUMBER FROM 1 TO 9999"},
+      {std::string(10000, '9'), 1, "TYPE A NUMBER FROM 1 TO 9999"},
+  };
+  for (const auto& [button, shown, word] : presses) {
+    EXPECT_EQ(Press(button), word) << button;
+    EXPECT_EQ(frames.CurrentFrame().value_or(0), shown) << button;
+    EXPECT_EQ(Seed(), shown) << button;
+  }
+  EXPECT_EQ(frames.Row().Count(), 4);
+  EXPECT_TRUE(messages.shown.empty());
+}
+
+TEST_F(FramesTest, AChangedFrameIsSavedWhenItIsLeftAndOnlyThen) {
+  WriteFrames({1, 2});
+  (void)frames.First();
+  const auto untouched = fs::last_write_time(File(1));
+  (void)frames.Next();
+  EXPECT_EQ(fs::last_write_time(File(1)), untouched);
+  document.picture.Bitmap[1] = 77;
+  (void)frames.Previous();
+  EXPECT_EQ(SeedIn(File(2)), 77);
+  EXPECT_EQ(Seed(), 1);
+
+  fs::create_directory(folder / "elsewhere");
+  files.SaveTo(Text("elsewhere/pic.kvp"));
+  document.picture.Bitmap[1] = 78;  // no frame: kept as a rescue copy, not saved over the file
+  (void)frames.GoTo("2");
+  EXPECT_EQ(Seed(), 77);
+  EXPECT_EQ(SeedIn(folder / "elsewhere/pic.kvp"), 1);
+  EXPECT_TRUE(fs::exists(folders.Backup() / "pic.kvp_2602030907_unsaved.kvp"));
+}
+
+TEST_F(FramesTest, AFrameThatCannotBeSavedIsNotLeft) {
+  WriteFrames({1, 2});
+  (void)frames.First();
+  document.picture.Bitmap[1] = 77;
+  fs::remove(File(1));
+  fs::create_directory(File(1));  // nothing can be saved in its place
+  EXPECT_EQ(frames.Next(), "FRAME 1 IS NOT SAVED");
+  fs::remove(File(2));
+  messages.yes = true;
+  EXPECT_EQ(frames.Next(), "FRAME 1 IS NOT SAVED");
+  EXPECT_EQ(Seed(), 77);
+  EXPECT_TRUE(document.HasUnsavedWork());
+  EXPECT_FALSE(fs::exists(File(2)));
+}
+
+TEST_F(FramesTest, NextBehindTheLastFrameOffersToMakeOne) {
+  WriteFrames({1});
+  (void)frames.First();
+  document.picture.Bitmap[1] = 77;
+  EXPECT_EQ(frames.Next(), "");
+  EXPECT_EQ(messages.shown, support::Lines{"There is no frame after this one\r\nDo you want to create anim0002.kvp "
+                                           "based on the picture in memory?"});
+  EXPECT_TRUE(document.HasUnsavedWork());
+  messages.yes = true;
+  EXPECT_EQ(frames.Next(), "");
+  EXPECT_EQ(frames.CurrentFrame(), 2);
+  EXPECT_EQ(frames.Row().Count(), 2);
+  EXPECT_EQ(SeedIn(File(1)), 77);
+  EXPECT_EQ(SeedIn(File(2)), 77);
+
+  WriteFrames({9999});
+  EXPECT_EQ(frames.GoTo("9999"), "");
+  EXPECT_EQ(frames.Next(), "FRAME 9999 IS THE LAST ONE");
+  fs::remove_all(folder / "a");
+  EXPECT_EQ(frames.First(), "THERE ARE NO FRAMES");
+}
+
+TEST_F(FramesTest, FilesThatAreNoPicturesAreSkipped) {
+  WriteFrames({1, 4});
+  support::WriteFile(File(2), support::CountingBytes(10049));
+  support::WriteFile(File(3), {});
+  fs::create_directory(File(6));
+  support::WriteFile(folder / "a/anim0007.txt", {1});
+  (void)frames.First();
+  EXPECT_EQ(frames.Next(), "FRAMES 2 TO 3 SKIPPED");
+  EXPECT_EQ(Seed(), 4);
+  EXPECT_EQ(frames.Row().Count(), 4);
+  ASSERT_TRUE(frames.PictureBefore());
+  EXPECT_EQ(frames.PictureBefore()->Bitmap[1], 1);
+  EXPECT_EQ(frames.GoTo("2"), "FRAME 2 IS NOT LOADED");
+  EXPECT_EQ(Seed(), 4);
+}
+
+TEST_F(FramesTest, OneFileCountsWhereSeveralDifferInCase) {
+  WriteFrames({1, 3, 5});
+  for (int number = 1; number <= 7; ++number) {
+    const std::string name = "a/ANIM000" + std::to_string(number) + ".KVP";
+    support::WriteFile(folder / name, files::Encode(FramePicture(50)));
+  }
+  WriteFrames({2, 4, 6});
+  for (int number = 1; number <= 6; ++number) {
+    (void)frames.Next();
+    EXPECT_EQ(Seed(), number);
+  }
+  (void)frames.Next();
+  document.picture.Bitmap[1] = 77;  // saved under the own ending, which then counts
+  (void)frames.Previous();
+  (void)frames.Next();
+  EXPECT_EQ(Seed(), 77);
+}
+
+TEST_F(FramesTest, ThePreviewKeepsItsPaceWhateverTheViewDoes) {
+  WriteFrames({1, 2, 3, 4, 5});
+  support::WriteFile(File(4), {});
+  const std::array<int, 4> seeds{1, 2, 3, 5};
+  frames.Refresh();
+  std::mt19937 random(3);
+  for (const int rate : {1, 7, 24, 25}) {
+    FramePlayer player(frames.Row().ReadablePaths(), rate);
+    std::int64_t shown = -1;
+    for (milliseconds now{0}; now < milliseconds{20000}; now += milliseconds(random() % 90)) {
+      const std::int64_t turn = now.count() * rate / 1000;
+      const auto* picture = player.Due(now);
+      ASSERT_EQ(picture ? picture->Bitmap[1] : 0, turn == shown ? 0 : seeds[static_cast<std::size_t>(turn % 4)]);
+      if (random() % 2 == 0) player.ReadAhead();
+      shown = turn;
+      const milliseconds next = now + player.UntilNext(now);
+      ASSERT_EQ(next.count() * rate / 1000, turn + 1);
+      ASSERT_EQ((next.count() - 1) * rate / 1000, turn);
+    }
+  }
+  FramePlayer player(frames.Row().ReadablePaths(), 25);
+  fs::remove_all(folder / "a");
+  EXPECT_EQ(player.Due(milliseconds(0)), nullptr);
+  EXPECT_EQ(FramePlayer({}, 25).Due(milliseconds(0)), nullptr);
+}
+
+}  // namespace
+}  // namespace kelvo::anim

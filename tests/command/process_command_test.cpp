@@ -1,0 +1,182 @@
+// Every word of the command language and every error number, with its exact replies, on real folders.
+#include "command/process_command.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "app/path_text.h"
+#include "command/number_reading.h"
+#include "support/pictures.h"
+#include "support/program.h"
+
+namespace kelvo::command {
+namespace {
+
+namespace fs = std::filesystem;
+using support::Lines;
+
+// A menu entry that follows when it may.
+class RecordingAnimation : public app::AnimationSwitch {
+ public:
+  void ToggleAnimMode() override { checked = may_start && !checked; }
+  bool IsAnimModeChecked() const override { return checked; }
+  void SetAnimFlag(bool on) override { flag = on; }
+  bool checked = false, flag = false, may_start = true;
+};
+
+class ProcessCommandTest : public testing::Test, protected support::Program {
+ protected:
+  Lines Replies(const std::string& line) {
+    prompt.lines.clear();
+    ProcessCommand(line, {folders, document, files, prompt, animation});
+    return prompt.lines;
+  }
+  static void WritePicture(const fs::path& path) {
+    fs::create_directories(path.parent_path());
+    support::WriteFile(path, support::CountingBytes(10003));
+  }
+  RecordingAnimation animation;
+};
+
+TEST_F(ProcessCommandTest, RepliesExactly) {
+  const std::string long_word(10000, 'X'), commas(10000, ',');
+  const std::pair<std::string, Lines> lines_by_reply[] = {
+      {"",
+       {"DIR", "BF 1", "BLOCKFILL", "MC", "MOUSECOPY A,B", "", std::string(10000, ' '), "MD", "MD    ", "RD ", "RD X"}},
+      {"v1.2", {"VER", "VER 2", "VERSION"}},
+      {"AT YOUR SERVICE", {"KELVO"}},
+      {"NEW", {"NEW", "NEW PIC"}},
+      {"RELOAD [err 900]", {"RELOAD", "RELOAD EXTRA"}},
+      {"LOAD PIC [err 902]", {"LOAD PIC", "LOAD PIC,8", "LOAD PIC,1E3", "LOAD PIC," + std::string(10000, '8')}},
+      {"LOAD  [err 902]", {"LOAD ,8"}},
+      {"LOAD " + long_word + " [err 902]", {"LOAD " + long_word}},
+      {"* [err 901]", {"LOAD PIC,X", "LOAD PIC,", "LOAD PIC,8,9", "LOAD ,", "LOAD " + commas}},
+      {"* [err 903]", {"HELLO", "ver", " VER", "LOAD,8", "DEVIC", long_word, commas}},
+      {"* [err 904]", {"ANIM MAYBE", "ANIM  ON"}},
+      {"* [err 905]", {"@8", "@", "DEVICE 8", "DEVICES"}},
+      {"* [err 906]", {"MD gfx", "MD " + long_word}},
+      {"* [err 907]", {"RD " + long_word}},
+  };
+  for (const auto& [reply, lines] : lines_by_reply) {
+    for (const std::string& line : lines) {
+      const std::string expected = reply.starts_with("*") ? line + reply.substr(1) : reply;
+      EXPECT_EQ(Replies(line), expected.empty() ? Lines{} : Lines{expected}) << line.substr(0, 40);
+    }
+  }
+  EXPECT_TRUE(messages.shown.empty());
+}
+
+TEST_F(ProcessCommandTest, MakesFoldersInOnePlaceAndRemovesThemInAnother) {
+  EXPECT_EQ(Replies("MD A B"), Lines{"FOLDER \\AB CREATED"});
+  EXPECT_TRUE(fs::is_directory(folders.Root() / "AB"));
+  EXPECT_EQ(Replies("MD ab"), Lines{"MD ab [err 906]"});
+  EXPECT_EQ(Replies("RD AB"), Lines{});
+  EXPECT_TRUE(fs::exists(folders.Root() / "AB"));
+
+  fs::create_directories(folders.Gfx() / "Old/full");
+  EXPECT_EQ(Replies("RD OLD"), Lines{"RD OLD [err 907]"});
+  fs::remove(folders.Gfx() / "Old/full");
+  EXPECT_EQ(Replies("RD O LD"), Lines{"FOLDER \\OLD REMOVED"});
+  EXPECT_FALSE(fs::exists(folders.Gfx() / "Old"));
+  support::WriteFile(folders.Gfx() / "FILE", {1});
+  EXPECT_EQ(Replies("RD FILE"), Lines{});
+  EXPECT_TRUE(fs::exists(folders.Gfx() / "FILE"));
+
+  fs::remove_all(folders.Root());
+  EXPECT_EQ(Replies("MD X"), Lines{"MD X [err 906]"});
+  EXPECT_EQ(Replies("RD X"), Lines{});
+}
+
+TEST_F(ProcessCommandTest, NamesNeverLeadOutOfTheirFolder) {
+  WritePicture(folder / "X.PRG");
+  fs::create_directories(folders.Root() / "EMPTY");
+  for (const std::string name : {"..", ".", "../X", "..\\X", "/X", "\\X", "C:X", "X/", "NUL", "com1", "LPT9.TXT",
+                                 "AUX.", "X.", "A\tB", "X?", "../EMPTY", "A\x7F"}) {
+    EXPECT_EQ(Replies("MD " + name), Lines{"MD " + name + " [err 906]"});
+    EXPECT_EQ(Replies("RD " + name), Lines{"RD " + name + " [err 907]"});
+    EXPECT_EQ(Replies("LOAD " + name), Lines{"LOAD " + name + " [err 902]"});
+    EXPECT_FALSE(document.file.HasFile());
+  }
+  EXPECT_EQ(Replies("LOAD ../X,8"), Lines{"LOAD ../X [err 902]"});
+  EXPECT_TRUE(fs::is_directory(folders.Root() / "EMPTY"));
+  EXPECT_EQ(std::distance(fs::directory_iterator(folder.Path()), fs::directory_iterator()), 2);
+  EXPECT_EQ(std::distance(fs::directory_iterator(folders.Gfx()), fs::directory_iterator()), 0);
+}
+
+TEST_F(ProcessCommandTest, LoadsFromGfxAndDevicesInAnyCase) {
+  for (const auto& [file, line] : {std::pair{"GFX/PIC.PRG", "LOAD PIC"},
+                                   {"GFX/lower.prg", "LOAD LOWER"},
+                                   {"GFX/ENDING.PRG", "LOAD ENDING.PRG"},
+                                   {"GFX/small.prg.PRG", "LOAD small.prg"},
+                                   {"GFX/TWO WORDS.PRG", "LOAD TWO WORDS"},
+                                   {"DEVICE8/PIC.PRG", "LOAD PIC,8"},
+                                   {"Device9/Pic.prg", "LOAD PIC,9"},
+                                   {"DEVICE 1E3/PIC.PRG", "LOAD PIC, 1E3"}}) {
+    WritePicture(folders.Root() / file);
+    Replies(line);
+    EXPECT_EQ(document.file.CurrentFilePath, app::TextFromPath(folders.Root() / file)) << line;
+  }
+  WritePicture(folders.Gfx() / "pic.prg");
+  EXPECT_EQ(Replies("LOAD PIC"), Lines{"LOAD PIC"});
+  EXPECT_TRUE(dialogs.folders.empty());
+  EXPECT_TRUE(messages.shown.empty());
+}
+
+TEST_F(ProcessCommandTest, AsksForAFileOnlyWhenNoneIsNamed) {
+  EXPECT_EQ(Replies("LOAD"), Lines{});
+  EXPECT_EQ(dialogs.folders.size(), 1U);
+  WritePicture(folders.Gfx() / "PIC.PRG");
+  Replies("LOAD PIC");
+  document.picture.Bitmap[1] ^= 1;
+  EXPECT_EQ(Replies("RELOAD PLEASE"), (Lines{"RELOAD", "LOAD PIC"}));
+  EXPECT_FALSE(document.HasUnsavedWork());
+  Replies("NEW");
+  EXPECT_EQ(Replies("RELOAD"), Lines{"RELOAD [err 900]"});
+  EXPECT_EQ(dialogs.folders.size(), 1U);
+}
+
+TEST_F(ProcessCommandTest, AnimTogglesOrSetsTheFlagAlone) {
+  EXPECT_EQ(Replies("ANIM"), Lines{"ANIM ON"});
+  EXPECT_TRUE(animation.checked && animation.flag);
+  EXPECT_EQ(Replies("ANIM off"), Lines{"ANIM off"});
+  EXPECT_TRUE(animation.checked && !animation.flag);
+  EXPECT_EQ(Replies("ANIM"), Lines{"ANIM OFF"});
+  EXPECT_EQ(Replies("ANIM ON"), Lines{"ANIM ON"});
+  EXPECT_TRUE(!animation.checked && animation.flag);
+  animation.may_start = false;
+  EXPECT_EQ(Replies("ANIM "), Lines{"ANIM OFF"});
+  EXPECT_FALSE(animation.flag);
+}
+
+TEST_F(ProcessCommandTest, PassesOnTheErrorsOfOthers) {
+  struct Broken final : RecordingAnimation {
+    void ToggleAnimMode() override { throw std::logic_error("no mode"); }
+  } broken;
+  EXPECT_THROW(ProcessCommand("ANIM", {folders, document, files, prompt, broken}), std::logic_error);
+  EXPECT_TRUE(prompt.lines.empty());
+}
+
+TEST_F(ProcessCommandTest, AnyLineGivesAtMostTwoRepliesAndStaysInTheProgramFolder) {
+  std::mt19937 random(7);
+  const Lines parts = {"MD",  "RD", "LOAD", "ANIM", " ",      " ", ",", "8",
+                       "1E3", "..", "/",    "GFX",  "DEVICE", "@", "A", ".PRG"};
+  for (int run = 0; run < 2000; ++run) {
+    std::string line;
+    for (auto count = random() % 7; count > 0; --count) line += parts[random() % parts.size()];
+    EXPECT_LE(Replies(line).size(), 2U) << line;
+  }
+  for (const auto& entry : fs::directory_iterator(folder.Path())) EXPECT_EQ(entry.path(), folders.Root());
+}
+
+TEST(NumberReading, TakesPlainNumbersInAnyLanguage) {
+  for (const char* number : {"8", " 8 ", "-8", "+8.5", "8.", ".5", "1E3", "1e-3", "1.5E+10"}) {
+    EXPECT_TRUE(IsNumeric(number)) << number;
+  }
+  for (const char* text : {"", " ", "X", "8,9", "8 9", ".", "-", "E3", "1E", "1E+", "--8", "0X8", "INF", "8X"}) {
+    EXPECT_FALSE(IsNumeric(text)) << text;
+  }
+}
+
+}  // namespace
+}  // namespace kelvo::command
