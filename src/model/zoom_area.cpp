@@ -13,6 +13,14 @@ void ZoomArea::SetMagnification(int magnification) {
   MoveTo(0, 0);
 }
 
+void ZoomArea::SetMagnificationAround(int magnification, int surface_x, int surface_y) {
+  const PixelPoint kept = PixelAt(surface_x, surface_y);
+  SetMagnification(magnification);
+  const int half_cell = 4;
+  MoveTo((kept.x - 1) * 2 - (surface_x - kBorder) / magnification_ + half_cell,
+         kept.y - 1 - (surface_y - kBorder) / magnification_ + half_cell);
+}
+
 void ZoomArea::CentreOn(int col, int row) {
   const int cells_before = Is8X() ? 5 : 10;
   MoveTo((col - cells_before) * 8, (row - cells_before) * 8);

@@ -31,6 +31,9 @@ class ZoomArea {
   // 4 or 8; any other number is taken as 4. The area starts at the top left again.
   void SetMagnification(int magnification);
 
+  // The same, but the picture pixel at a place of the zoom surface stays under that place, as far as the edges allow.
+  void SetMagnificationAround(int magnification, int surface_x, int surface_y);
+
   // What the window shows, in full-view display pixels: 160 x 144 at 4, 80 x 72 at 8.
   int VisibleWidth() const { return kWidth / magnification_; }
   int VisibleHeight() const { return kHeight / magnification_; }

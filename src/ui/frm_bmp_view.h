@@ -1,14 +1,16 @@
 // The full view: the whole picture at 1:1.
 #pragma once
 
+#include <QImage>
 #include <QProgressBar>
 #include <QWidget>
 
 #include "model/full_view.h"
 #include "model/picture_image.h"
 #include "model/surface.h"
+#include "model/zoom_area.h"
 #include "ui/frame_progress.h"
-#include "ui/surface_view.h"
+#include "ui/full_view_picture.h"
 
 namespace kelvo::ui {
 
@@ -23,6 +25,15 @@ class frmBMPView : public QWidget {
   void PutPixel(int x, int y);  // 1..160, 1..200
   void ShowPlainCaption();      // no pointer is over the picture
 
+  // Shows another picture instead, which is not edited; null shows the picture again.
+  void ShowPreview(const model::PictureImage* other);
+
+  // Marks the part that the zoom window shows, in full-view pixels.
+  void ShowZoomArea(const model::ZoomArea& area);
+
+  // What is shown, without the marker: 320 x 200.
+  QImage Picture() const;
+
   app::Progress& Progress() { return progress_; }
 
  signals:
@@ -34,8 +45,9 @@ class frmBMPView : public QWidget {
 
   const model::PictureImage& picture_;
   model::Surface surface_;
+  bool previewing_ = false;
   model::FullViewPointer pointer_;
-  SurfaceView* picStd_;
+  FullViewPicture* picStd_;
   QProgressBar* ProgressBar1_;
   FrameProgress progress_;
 };

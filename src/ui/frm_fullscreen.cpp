@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 #include <QPainter>
+#include <QScreen>
 
 namespace kelvo::ui {
 
@@ -12,6 +13,7 @@ frmFullscreen::frmFullscreen(const QImage& picture, QWidget* parent) : QWidget(p
   setWindowTitle("Kelvo");
   setAccessibleName("Fullscreen picture");
   setCursor(Qt::BlankCursor);
+  setGeometry(parent->screen()->geometry());
 }
 
 void frmFullscreen::paintEvent(QPaintEvent*) {

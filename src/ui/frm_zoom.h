@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QWidget>
+#include <optional>
 
 #include "editing/line.h"
 #include "model/picture_image.h"
@@ -32,12 +33,16 @@ class frmZoom : public QWidget {
   // Shows points over the picture, as if they were drawn in `colour`; an empty list takes them away.
   void ShowPreview(editing::Points points, model::C64Colour colour);
 
+  // Another picture shines through; none: empty.
+  void SetOnionSkin(std::optional<model::PictureImage> other);
+
   void DrawCapturePic();
   void RedrawZoomChar(int cell);    // 1..1000
   void PutZoomPixel(int x, int y);  // 1..160, 1..200
 
  signals:
   void AreaChanged();
+  void MagnificationChanged();
   // Pointer events on the picture box, in pixels of the zoom surface.
   void Pressed(QPoint at, Qt::MouseButton button);
   void Moved(QPoint at, Qt::MouseButtons buttons);
@@ -47,13 +52,20 @@ class frmZoom : public QWidget {
   template <typename Change>
   void ChangeArea(Change&& change);
   void DrawBorder();
+  void ConnectBox();
+  void MagnificationDone();
+  void Scroll(QPoint steps);
+  void Wheel(QPoint at, QPoint steps, Qt::KeyboardModifiers modifiers);
+  void DragArea(QPoint at, Qt::MouseButtons held);
 
   const model::PictureImage& picture_;
   model::ZoomArea area_;
   model::ZoomGrid grid_;
   model::ZoomBorderColour border_;
+  std::optional<model::PictureImage> onion_skin_;
   model::Surface surface_;
   ZoomPicture* picStd_;
+  QPoint grip_;  // where a middle drag holds the picture: the surface pixel of its last whole step
 };
 
 }  // namespace kelvo::ui

@@ -2,21 +2,27 @@
 
 #include <QCloseEvent>
 #include <QCoreApplication>
+#include <QDragEnterEvent>
 #include <QKeyEvent>
 #include <QMdiArea>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QStatusBar>
 
 #include "app/path_text.h"
+#include "command/process_command.h"
 #include "editing/preferences.h"
 #include "model/palette.h"
+#include "ui/frm_about.h"
+#include "ui/frm_fullscreen.h"
 #include "ui/qt_text.h"
+#include "ui/screenshot.h"
 #include "ui/settings_dialog.h"
 
 namespace kelvo::ui {
 namespace {
 
-constexpr int kTimerMilliseconds = 100;
+constexpr int kTimerMilliseconds = 100, kWordMilliseconds = 5000;
 constexpr QSize kFirstSize(1016, 720);
 
 model::C64Colour ColourNumber(int number) {
@@ -42,6 +48,7 @@ MainFrame::MainFrame(const app::ProgramFolders& folders, app::SettingsStore& set
       colors_(new frmColors(this)),
       char_data_(new frmCharData(document_.picture, this)),
       zoom_(new frmZoom(document_.picture, this)),
+      command_(new frmCommand(prompt_, this)),
       pens_(new frmPens(this)),
       Toolbar1_(new PaintToolBar(this)),
       menu_(*this),
@@ -52,33 +59,54 @@ MainFrame::MainFrame(const app::ProgramFolders& folders, app::SettingsStore& set
       views_(*full_view_, *zoom_),
       files_(document_, {folders, settings, clock, log_, messages_, prompt_, pointer_, dialogs_, *this, views_}),
       desk_(document_, {views_, settings, messages_, events_, pointer_, log_},
-            {*full_view_, *zoom_, *colors_, *pens_, *char_data_, *Toolbar1_}) {
+            {*full_view_, *zoom_, *colors_, *pens_, *char_data_, *Toolbar1_}),
+      animation_({settings, messages_, document_, files_}, *this, *full_view_, *zoom_) {
   setObjectName("MDIFormMenu");
   area_->setObjectName("mdiArea");
   setCentralWidget(area_);
   resize(kFirstSize);
+  setAcceptDrops(true);
   addToolBar(Toolbar1_);
-  AddChild(ChildWindowId::kFullView, full_view_, {668, 0});
-  AddChild(ChildWindowId::kColors, colors_, {668, 235});
-  AddChild(ChildWindowId::kPens, pens_, {668, 340});
-  AddChild(ChildWindowId::kCharData, char_data_, {668, 415});
-  AddChild(ChildWindowId::kZoom, zoom_, {0, 0});
-  connect(full_view_, &frmBMPView::ZoomAreaChosen, zoom_, &frmZoom::CentreOn);
+  MakeChildren();
   MakeChoiceMenus();
   MakeRecentMenu();
   ConnectDesk();
+  ConnectAnimation();
   Timer1_->setObjectName("Timer1");
   connect(Timer1_, &QTimer::timeout, this, &MainFrame::Timer1_Timer);
 }
 
-ChildWindow* MainFrame::AddChild(ChildWindowId id, QWidget* form, QPoint place) {
+void MainFrame::MakeChildren() {
+  AddChild(ChildWindowId::kFullView, full_view_, {668, 0});
+  AddChild(ChildWindowId::kColors, colors_, {668, 235});
+  AddChild(ChildWindowId::kPens, pens_, {668, 340});
+  AddChild(ChildWindowId::kCharData, char_data_, {668, 415});
+  AddChild(ChildWindowId::kPrompt, command_, {668, 415}, false);
+  AddChild(ChildWindowId::kZoom, zoom_, {0, 0});
+  connect(full_view_, &frmBMPView::ZoomAreaChosen, zoom_, &frmZoom::CentreOn);
+  connect(zoom_, &frmZoom::AreaChanged, this, [this] { full_view_->ShowZoomArea(zoom_->Area()); });
+  connect(zoom_, &frmZoom::MagnificationChanged, this, &MainFrame::RefreshMenus);
+  connect(command_, &frmCommand::CommandSubmitted, this, &MainFrame::ProcessCommand);
+  connect(command_, &frmCommand::FocusGivenBack, this, &MainFrame::GiveFocusToPicture);
+}
+
+void MainFrame::AddChild(ChildWindowId id, QWidget* form, QPoint place, bool is_shown) {
   auto* child = new ChildWindow(form);
   area_->addSubWindow(child);
   child->setAttribute(Qt::WA_DeleteOnClose, false);
-  child->move(place);
   connect(child, &ChildWindow::ClosedByUser, this, &MainFrame::RefreshMenus);
-  children_[static_cast<std::size_t>(id)] = child;
-  return child;
+  children_[static_cast<std::size_t>(id)] = {child, place, is_shown};
+}
+
+void MainFrame::ArrangeWindows() {
+  ui::ArrangeWindows(children_);
+  RefreshMenus();
+  GiveFocusToPicture();
+}
+
+void MainFrame::GiveFocusToPicture() {
+  area_->setActiveSubWindow(children_[static_cast<std::size_t>(ChildWindowId::kZoom)].window);
+  zoom_->setFocus();
 }
 
 void MainFrame::MakeChoiceMenus() {
@@ -114,6 +142,20 @@ void MainFrame::ConnectDesk() {
           [this](model::C64Colour colour) { SetBackgroundColour(colour.Number()); });
 }
 
+void MainFrame::ConnectAnimation() {
+  connect(&animation_, &AnimationDesk::CheckMarkChanged, this, &MainFrame::RefreshMenus);
+  connect(&animation_, &AnimationDesk::StatusChanged, this,
+          [this](const QString& text) { panels_.Show(StatusPanel::kAnimation, text); });
+  connect(&animation_, &AnimationDesk::Word, this,
+          [this](const QString& word) { statusBar()->showMessage(word, kWordMilliseconds); });
+}
+
+void MainFrame::ProcessCommand(const QString& line) {
+  last_command_ = line;
+  command::ProcessCommand(FromQt(line), {folders_, document_, files_, prompt_, animation_.Mode()});
+  RefreshMenus();
+}
+
 void MainFrame::ShowPaintingState() {
   panels_.Show(StatusPanel::kTool, ToQt(desk_.Painting().Prompt()));
   QAction* undo = menu_.Action("mnuUndo");
@@ -131,6 +173,9 @@ void MainFrame::StartUp() {
   std::error_code ignored;
   std::filesystem::remove(folders_.Snapshot(), ignored);  // so that the first save makes no backup
   views_.PictureChanged();
+  ArrangeWindows();
+  RestorePlaces(settings_, *this, children_);
+  RefreshMenus();
 }
 
 void MainFrame::SetMagnification(int magnification) {
@@ -150,13 +195,29 @@ void MainFrame::SetGridColor(int number) {
 }
 
 void MainFrame::ToggleWindow(ChildWindowId id) {
-  ChildWindow* child = children_[static_cast<std::size_t>(id)];
+  QMdiSubWindow* child = children_[static_cast<std::size_t>(id)].window;
   child->setVisible(!IsWindowShown(id));
   if (IsWindowShown(id)) area_->setActiveSubWindow(child);
 }
 
 bool MainFrame::IsWindowShown(ChildWindowId id) const {
-  return !children_[static_cast<std::size_t>(id)]->isHidden();
+  return !children_[static_cast<std::size_t>(id)].window->isHidden();
+}
+
+void MainFrame::ShowAbout() {
+  frmAbout(this).exec();
+}
+
+void MainFrame::mnuFullscreenView_Click() {
+  (new frmFullscreen(full_view_->Picture(), this))->showFullScreen();
+}
+
+void MainFrame::SaveScreenshot() {
+  const std::string& path = document_.file.CurrentFilePath;
+  const QString proposal = ToQt(path.empty() ? app::TextFromPath(folders_.Gfx() / "unnamed") : path);
+  app::Guarded(
+      log_, "MDIFormMenu_mnuSaveJPG", [&] { mnuSaveJPG(full_view_->Picture(), proposal, this); },
+      [this](const std::exception& error) { messages_.Warn(error.what()); });
 }
 
 void MainFrame::ShowFile(const files::CurrentFile& file) {
@@ -183,6 +244,10 @@ void MainFrame::Timer1_Timer() {
 }
 
 void MainFrame::keyReleaseEvent(QKeyEvent* event) {
+  const QWidget* focus = focusWidget();
+  const bool in_tool_window =
+      colors_->isAncestorOf(focus) || char_data_->isAncestorOf(focus) || pens_->isAncestorOf(focus);
+  if (event->key() == Qt::Key_Escape && in_tool_window) return GiveFocusToPicture();
   if (!desk_.HandleKeyUp(event->key(), event->modifiers())) QMainWindow::keyReleaseEvent(event);
 }
 
@@ -191,10 +256,21 @@ void MainFrame::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
 }
 
+void MainFrame::dragEnterEvent(QDragEnterEvent* event) {
+  const auto urls = event->mimeData()->urls();
+  if (urls.size() == 1 && urls.first().isLocalFile()) event->acceptProposedAction();
+}
+
+void MainFrame::dropEvent(QDropEvent* event) {
+  event->acceptProposedAction();
+  files_.OpenPicture(FromQt(event->mimeData()->urls().first().toLocalFile()));
+}
+
 void MainFrame::closeEvent(QCloseEvent* event) {
   if (!files_.MayClose()) return event->ignore();
   settings_.Write(app::kGridColor, std::to_string(zoom_->GridColor().Number()));
   settings_.Write(app::kMagnification, menu_.Action("mnuZoom_4X")->isChecked() ? "4" : "8");
+  KeepPlaces(settings_, *this, children_);
   event->accept();
 }
 

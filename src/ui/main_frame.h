@@ -10,12 +10,14 @@
 #include "app/program_folders.h"
 #include "app/settings_store.h"
 #include "files/picture_files.h"
+#include "ui/animation_desk.h"
 #include "ui/child_window.h"
 #include "ui/choice_menu.h"
 #include "ui/event_pump.h"
 #include "ui/frm_bmp_view.h"
 #include "ui/frm_char_data.h"
 #include "ui/frm_colors.h"
+#include "ui/frm_command.h"
 #include "ui/frm_pens.h"
 #include "ui/frm_zoom.h"
 #include "ui/main_menu.h"
@@ -27,13 +29,14 @@
 #include "ui/qt_messages.h"
 #include "ui/status_panels.h"
 #include "ui/wait_cursor.h"
+#include "ui/window_places.h"
 
 class QMdiArea;
 
 namespace kelvo::ui {
 
-enum class ChildWindowId { kFullView, kColors, kCharData, kZoom, kPens };
-inline constexpr std::size_t kChildWindows = 5;
+enum class ChildWindowId { kFullView, kColors, kCharData, kPrompt, kZoom, kPens };
+inline constexpr std::size_t kChildWindows = 6;
 
 class MainFrame : public QMainWindow, private files::FileDisplay {
   Q_OBJECT
@@ -57,6 +60,17 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   void SetGridColor(int number);         // 0..15
 
   void ShowPreferences();
+  void ShowAbout();
+  void mnuFullscreenView_Click();
+  void SaveScreenshot();
+  void ArrangeWindows();
+
+  AnimationDesk& Animation() { return animation_; }
+  const AnimationDesk& Animation() const { return animation_; }
+  void ProcessCommand(const QString& line);
+  bool HasLastCommand() const { return !last_command_.isEmpty(); }
+  void RepeatLastCommand() { ProcessCommand(last_command_); }
+
   void ToggleWindow(ChildWindowId id);
   bool IsWindowShown(ChildWindowId id) const;
 
@@ -66,11 +80,16 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   void closeEvent(QCloseEvent* event) override;
   void keyReleaseEvent(QKeyEvent* event) override;
   void changeEvent(QEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
 
  private:
   void ShowFile(const files::CurrentFile& file) override;
   void PictureReplaced() override { desk_.PictureReplaced(); }
-  ChildWindow* AddChild(ChildWindowId id, QWidget* form, QPoint place);
+  void AddChild(ChildWindowId id, QWidget* form, QPoint place, bool is_shown = true);
+  void MakeChildren();
+  void ConnectAnimation();
+  void GiveFocusToPicture();
   void MakeChoiceMenus();
   void MakeRecentMenu();
   void ConnectDesk();
@@ -83,14 +102,18 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   app::ErrorLog log_;
   files::Document document_;
 
+  PromptLines prompt_;
+  QString last_command_;
+
   QMdiArea* area_;
   frmBMPView* full_view_;
   frmColors* colors_;
   frmCharData* char_data_;
   frmZoom* zoom_;
+  frmCommand* command_;
   frmPens* pens_;
   PaintToolBar* Toolbar1_;
-  std::array<ChildWindow*, kChildWindows> children_{};
+  std::array<ChildPlace, kChildWindows> children_{};
   MainMenu menu_;
   ChoiceMenu* background_menu_ = nullptr;
   ChoiceMenu* grid_menu_ = nullptr;
@@ -101,11 +124,11 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   QtMessages messages_;
   QtFileDialogs dialogs_;
   WaitCursor pointer_;
-  PromptLines prompt_;
   EventPump events_;
   PictureWindows views_;
   files::PictureFiles files_;
   PaintingDesk desk_;
+  AnimationDesk animation_;
 };
 
 }  // namespace kelvo::ui

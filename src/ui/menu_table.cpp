@@ -15,6 +15,8 @@ constexpr MenuRow kMenus[] = {
     {"mnuViewMenu", nullptr, "&Show", ""},
     {"mnuGrid", "mnuViewMenu", "Zoom &grid", "Draw the grid of the zoom window in this colour"},
     {"mnuZB", "mnuViewMenu", "Zoom &border", "How the border of the zoom window looks"},
+    {"mnuAnim", nullptr, "&Animation", ""},
+    {"mnuHelp", nullptr, "&Help", ""},
 };
 
 template <ChildWindowId id>
@@ -44,29 +46,36 @@ constexpr MenuEntry Submenu(const char* name, const char* menu) {
 constexpr auto kHasFile = [](const MainFrame& f) { return f.HasFile(); };
 
 constexpr MenuEntry kEntries[] = {
-    {"mnuNew", "mnuFile", "&New", "Ctrl+N", "Begin an empty picture", [](MainFrame& f) { f.Files().New(); }},
-    {"mnuLoad", "mnuFile", "&Load...", "Ctrl+O", "Open a picture", [](MainFrame& f) { f.Files().Open(); }},
+    {"mnuNew", "mnuFile", "&New", "Ctrl+N", "Begin an empty picture", [](MainFrame& f) { f.Files().New(); }, nullptr,
+     nullptr, "new"},
+    {"mnuLoad", "mnuFile", "&Load...", "Ctrl+O", "Open a picture", [](MainFrame& f) { f.Files().Open(); }, nullptr,
+     nullptr, "open"},
     {"mnuReload", "mnuFile", "&Reload", "Ctrl+R", "Open the current picture's file again",
-     [](MainFrame& f) { f.Files().Reload(); }, kHasFile},
+     [](MainFrame& f) { f.Files().Reload(); }, kHasFile, nullptr, "reload"},
     Submenu("mnuRecent", "mnuFile"),
     Separator("mnuFile"),
-    {"mnuSave", "mnuFile", "&Save", "Ctrl+S", "Save the picture under its name",
-     [](MainFrame& f) { f.Files().Save(); }},
+    {"mnuSave", "mnuFile", "&Save", "Ctrl+S", "Save the picture under its name", [](MainFrame& f) { f.Files().Save(); },
+     nullptr, nullptr, "save"},
     {"mnuSaveAs", "mnuFile", "Save &As...", "Ctrl+Shift+S", "Save the picture under another name",
      [](MainFrame& f) { f.Files().SaveAs(); }},
+    {"mnuSaveJPG", "mnuFile", "Save picture as screens&hot...", "", "Save the full view as an image",
+     [](MainFrame& f) { f.SaveScreenshot(); }},
     Separator("mnuFile"),
     {"mnuExit", "mnuFile", "E&xit", "Ctrl+Q", "End the program", [](MainFrame& f) { f.close(); }},
 
     {"mnuUndo", "mnuLimPaint", "&Undo", "Ctrl+Z", "Take back the last action", [](MainFrame& f) { f.Desk().Undo(); },
-     [](const MainFrame& f) { return f.Desk().Painting().UndoData().CanUndo(); }},
+     [](const MainFrame& f) { return f.Desk().Painting().UndoData().CanUndo(); }, nullptr, "undo"},
     Separator("mnuLimPaint"),
     Submenu("mnuBG", "mnuLimPaint"),
+    {"mnuRepeatCommand", "mnuLimPaint", "&Repeat last command", "F3", "Give the last command of the prompt again",
+     [](MainFrame& f) { f.RepeatLastCommand(); }, [](const MainFrame& f) { return f.HasLastCommand(); }},
     {"mnuPreferences", "mnuLimPaint", "&Preferences...", "", "How painting treats full cells",
      [](MainFrame& f) { f.ShowPreferences(); }},
 
     ShowEntry<ChildWindowId::kFullView>("mnuView_0", "&Full view", "Show or hide the whole picture"),
     ShowEntry<ChildWindowId::kColors>("mnuView_1", "&Colors", "Show or hide the sixteen colours"),
     ShowEntry<ChildWindowId::kCharData>("mnuView_2", "Char &data", "Show or hide the cell under the pointer"),
+    ShowEntry<ChildWindowId::kPrompt>("mnuView_3", "Command pro&mpt", "Show or hide the command prompt"),
     ShowEntry<ChildWindowId::kZoom>("mnuView_4", "&Zoom window", "Show or hide the zoom window"),
     ShowEntry<ChildWindowId::kPens>("mnuPens", "&Pens", "Show or hide the two pens"),
     Separator("mnuViewMenu"),
@@ -74,6 +83,19 @@ constexpr MenuEntry kEntries[] = {
     ZoomEntry<8>("mnuZoom_8X", "Zoom &8:1", "Ctrl+8", "Show pixels eight times as large"),
     Submenu("mnuGrid", "mnuViewMenu"),
     Submenu("mnuZB", "mnuViewMenu"),
+    Separator("mnuViewMenu"),
+    {"mnuFullscreenView", "mnuViewMenu", "F&ullscreen view", "F11", "The picture alone, over the whole screen",
+     [](MainFrame& f) { f.mnuFullscreenView_Click(); }, nullptr, nullptr, "fullscreen"},
+    {"mnuArrange", "mnuViewMenu", "&Arrange windows", "", "Put every window back to its place",
+     [](MainFrame& f) { f.ArrangeWindows(); }},
+
+    {"mnuAnimMode", "mnuAnim", "Animation &mode", "", "Numbered pictures of a folder are frames",
+     [](MainFrame& f) { f.Animation().Mode().ToggleAnimMode(); }, nullptr,
+     [](const MainFrame& f) { return f.Animation().Mode().IsAnimModeChecked(); }},
+    {"mnuAnimProperties", "mnuAnim", "Animation &properties...", "", "Where the frames are and how they are named",
+     [](MainFrame& f) { f.Animation().ShowProperties(); }},
+
+    {"mnuAbout", "mnuHelp", "&About Kelvo", "", "What this program is", [](MainFrame& f) { f.ShowAbout(); }},
 };
 
 }  // namespace

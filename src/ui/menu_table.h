@@ -24,6 +24,7 @@ struct MenuEntry {
   void (*run)(MainFrame&);
   bool (*can)(const MainFrame&) = nullptr;         // null: always
   bool (*is_checked)(const MainFrame&) = nullptr;  // null: the entry carries no check mark
+  const char* icon = nullptr;                      // its file's name; null: none
 };
 
 std::span<const MenuRow> Menus();

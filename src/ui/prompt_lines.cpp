@@ -1,13 +1,19 @@
 #include "ui/prompt_lines.h"
 
+#include "command/sample_history.h"
 #include "ui/qt_text.h"
 
 namespace kelvo::ui {
+
+PromptLines::PromptLines() {
+  for (const std::string_view line : command::kSampleHistory) CommandPromptList(line);
+}
 
 void PromptLines::CommandPromptList(std::string_view line) {
   const int row = rowCount();
   insertRow(row);
   setData(index(row), ToQt(line));
+  emit Added(index(row));
 }
 
 }  // namespace kelvo::ui

@@ -7,13 +7,18 @@
 
 namespace kelvo::ui {
 
-// Lines are only ever appended.
+// Lines are only ever appended, and the last one is shown.
 class PromptLines final : public QStringListModel, public app::PromptOutput {
   Q_OBJECT
 
  public:
-  using QStringListModel::QStringListModel;
+  // Begins with the sample lines.
+  PromptLines();
+
   void CommandPromptList(std::string_view line) override;
+
+ signals:
+  void Added(const QModelIndex& last);
 };
 
 }  // namespace kelvo::ui

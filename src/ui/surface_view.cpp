@@ -3,9 +3,15 @@
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QWheelEvent>
 #include <cmath>
 
 namespace kelvo::ui {
+namespace {
+
+constexpr int kWheelStep = 120;  // eighths of a degree
+
+}  // namespace
 
 SurfaceView::SurfaceView(model::Surface& surface, int unit, QWidget* parent)
     : QWidget(parent),
@@ -79,6 +85,14 @@ void SurfaceView::mouseMoveEvent(QMouseEvent* event) {
 
 void SurfaceView::mouseReleaseEvent(QMouseEvent* event) {
   emit Released(SurfacePoint(event->position()), event->button());
+}
+
+void SurfaceView::wheelEvent(QWheelEvent* event) {
+  wheel_ -= event->angleDelta();
+  const QPoint steps(wheel_.x() / kWheelStep, wheel_.y() / kWheelStep);
+  wheel_ -= steps * kWheelStep;
+  if (!steps.isNull()) emit Wheeled(SurfacePoint(event->position()), steps, event->modifiers());
+  event->accept();
 }
 
 void SurfaceView::leaveEvent(QEvent* event) {

@@ -34,6 +34,8 @@ class SurfaceView : public QWidget {
   void Moved(QPoint at, Qt::MouseButtons buttons);
   void Released(QPoint at, Qt::MouseButton button);
   void PointerLeft();
+  // Steps of a wheel: x to the right, y downwards.
+  void Wheeled(QPoint at, QPoint steps, Qt::KeyboardModifiers modifiers);
 
  protected:
   // What is drawn over the surface, in the surface's coordinates.
@@ -45,6 +47,7 @@ class SurfaceView : public QWidget {
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void leaveEvent(QEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
 
  private:
   double Scale() const;  // widget pixels that a surface pixel takes
@@ -53,6 +56,7 @@ class SurfaceView : public QWidget {
   QImage image_;  // the surface's own pixels, not a copy
   int unit_;
   double scale_ = 1.0;
+  QPoint wheel_;   // what was turned and did not make a whole step yet
   QRect waiting_;  // what is to be painted next: one rectangle, so that a fill's many pixels cost Qt one update
 };
 

@@ -93,7 +93,7 @@ TEST_F(MainFrameTest, BackgroundAndGridColoursAreChosenFromTheirMenus) {
   Menu("mnuBG")->actions()[5]->trigger();
   EXPECT_EQ(CheckedOf(Menu("mnuBG")), 5);
   const QColor green = QColor::fromRgb(model::SurfaceColour(C64Colour::FromByte(5)));
-  EXPECT_EQ(PixelOf(Box("frmBMPView"), 0, 0), green);
+  EXPECT_EQ(PixelOf(Box("frmBMPView"), 5, 5), green);
   EXPECT_EQ(PixelOf(Box("frmZoom"), 12, 12), green);
   Menu("mnuGrid")->actions()[1]->trigger();
   EXPECT_EQ(PixelOf(Box("frmZoom"), 8, 12), QColor(Qt::white));

@@ -1,0 +1,128 @@
+#include "ui/animation_desk.h"
+
+#include <QLineEdit>
+
+#include "anim/anim_settings.h"
+#include "ui/qt_text.h"
+#include "ui/settings_dialog.h"
+
+namespace kelvo::ui {
+
+AnimationDesk::AnimationDesk(const anim::AnimSurroundings& with, QMainWindow& frame, frmBMPView& full_view,
+                             frmZoom& zoom)
+    : with_(with), frame_(frame), full_view_(full_view), zoom_(zoom), mode_(with, *this), navigation_(with) {
+  turn_.setSingleShot(true);
+  turn_.setTimerType(Qt::PreciseTimer);
+  connect(&turn_, &QTimer::timeout, this, &AnimationDesk::PlayTurn);
+}
+
+void AnimationDesk::ShowProperties() {
+  SettingsDialog dialog(with_.settings, "frmAnimProperties", "Animation properties", &frame_);
+  dialog.AddText(anim::kFolder, "Animation &folder",
+                 "It is the beginning of every frame's path, so it ends in a separator");
+  dialog.AddText(anim::kAnimPrefix, "Animation &prefix", "Frames are named prefix, four digits, .kvp");
+  dialog.exec();
+  if (frame_window_ != nullptr) ShowFrame();
+}
+
+void AnimationDesk::ShowCheckMark(bool) {
+  emit CheckMarkChanged();
+}
+
+void AnimationDesk::ShowStatus(std::string_view text) {
+  emit StatusChanged(ToQt(text));
+}
+
+void AnimationDesk::ShowFrameWindow() {
+  if (frame_window_ == nullptr) MakeFrameWindow();
+  ShowFrame();
+  frame_window_->show();
+}
+
+void AnimationDesk::MakeFrameWindow() {
+  frame_window_ = new frmAnim(&frame_);
+  const anim::FrameWindowPlace place = anim::ReadFrameWindowPlace(with_.settings);
+  frame_window_->move(place.left, place.top);
+  frame_window_->SetPlayRate(anim::ReadPlayRate(with_.settings));
+  frame_window_->SetOnionSkin(anim::ReadOnionSkin(with_.settings));
+  connect(frame_window_, &frmAnim::Clicked, this, &AnimationDesk::Go);
+  connect(frame_window_, &frmAnim::NumberTyped, this,
+          [this](const QString& number) { MoveDone(navigation_.GoTo(FromQt(number))); });
+  connect(frame_window_, &frmAnim::PlayAsked, this, &AnimationDesk::TogglePlay);
+  connect(frame_window_, &frmAnim::PlayRateChanged, this, [this](int rate) {
+    anim::KeepPlayRate(with_.settings, rate);
+    if (player_) TogglePlay(), TogglePlay();  // on at the new pace
+  });
+  connect(frame_window_, &frmAnim::OnionSkinChanged, this, [this](bool on) {
+    anim::KeepOnionSkin(with_.settings, on);
+    ShowOnionSkin();
+  });
+  connect(frame_window_, &frmAnim::Closed, this, [this](QPoint at) {
+    StopPlay();
+    frame_window_->deleteLater();
+    frame_window_ = nullptr;
+    zoom_.SetOnionSkin(std::nullopt);
+    mode_.FrameWindowUnloaded({at.x(), at.y()});
+  });
+}
+
+void AnimationDesk::UnloadFrameWindow() {
+  if (frame_window_ != nullptr) frame_window_->close();
+}
+
+void AnimationDesk::Go(int button) {
+  StopPlay();
+  switch (button) {
+    case frmAnim::kPrevious:
+      return MoveDone(navigation_.Previous());
+    case frmAnim::kNext:
+      return MoveDone(navigation_.Next());
+    case frmAnim::kBack:
+      return MoveDone(navigation_.Back());
+    default:
+      return MoveDone(navigation_.First());
+  }
+}
+
+void AnimationDesk::MoveDone(const std::string& word) {
+  if (!word.empty()) emit Word(ToQt(word));
+  if (frame_window_ != nullptr) ShowFrame();
+}
+
+void AnimationDesk::ShowFrame() {
+  navigation_.Refresh();
+  const auto current = navigation_.CurrentFrame();
+  frame_window_->ShowFrame(current ? QString::number(*current) : QString(), navigation_.Row().Count());
+  ShowOnionSkin();
+}
+
+void AnimationDesk::ShowOnionSkin() {
+  zoom_.SetOnionSkin(anim::ReadOnionSkin(with_.settings) ? navigation_.PictureBefore() : std::nullopt);
+}
+
+void AnimationDesk::TogglePlay() {
+  if (player_) return StopPlay();
+  navigation_.Refresh();
+  player_.emplace(navigation_.Row().ReadablePaths(), frame_window_->PlayRate());
+  if (player_->IsEmpty()) return player_.reset();
+  frame_window_->ShowPlaying(true);
+  playing_since_.start();
+  PlayTurn();
+}
+
+void AnimationDesk::StopPlay() {
+  if (!player_) return;
+  turn_.stop();
+  player_.reset();
+  frame_window_->ShowPlaying(false);
+  full_view_.ShowPreview(nullptr);
+}
+
+void AnimationDesk::PlayTurn() {
+  const auto now = [this] { return anim::FramePlayer::Milliseconds(playing_since_.elapsed()); };
+  if (const model::PictureImage* picture = player_->Due(now())) full_view_.ShowPreview(picture);
+  player_->ReadAhead();
+  turn_.start(player_->UntilNext(now()));
+}
+
+}  // namespace kelvo::ui

@@ -1,0 +1,63 @@
+// Connects animation with its windows: the frame window, the full view while it plays, the onion skin in the zoom
+// window.
+#pragma once
+
+#include <QElapsedTimer>
+#include <QMainWindow>
+#include <QObject>
+#include <QTimer>
+#include <optional>
+
+#include "anim/anim_mode.h"
+#include "anim/frame_navigation.h"
+#include "anim/frame_player.h"
+#include "ui/frm_anim.h"
+#include "ui/frm_bmp_view.h"
+#include "ui/frm_zoom.h"
+
+namespace kelvo::ui {
+
+class AnimationDesk : public QObject, private anim::AnimDisplay {
+  Q_OBJECT
+
+ public:
+  AnimationDesk(const anim::AnimSurroundings& with, QMainWindow& frame, frmBMPView& full_view, frmZoom& zoom);
+
+  anim::AnimMode& Mode() { return mode_; }
+  const anim::AnimMode& Mode() const { return mode_; }
+  void ShowProperties();
+
+ signals:
+  void CheckMarkChanged();
+  void StatusChanged(const QString& text);  // "ANIM=ON", "ANIM=OFF"
+  void Word(const QString& word);           // for the status bar
+
+ private:
+  void ShowCheckMark(bool on) override;
+  void ShowStatus(std::string_view text) override;
+  void ShowFrameWindow() override;
+  void UnloadFrameWindow() override;
+
+  void MakeFrameWindow();
+  void Go(int button);
+  void MoveDone(const std::string& word);
+  void ShowFrame();
+  void ShowOnionSkin();
+  void TogglePlay();
+  void StopPlay();
+  void PlayTurn();
+
+  anim::AnimSurroundings with_;
+  QMainWindow& frame_;
+  frmBMPView& full_view_;
+  frmZoom& zoom_;
+  anim::AnimMode mode_;
+  anim::FrameNavigation navigation_;
+  frmAnim* frame_window_ = nullptr;
+
+  std::optional<anim::FramePlayer> player_;
+  QElapsedTimer playing_since_;
+  QTimer turn_;
+};
+
+}  // namespace kelvo::ui

@@ -1,0 +1,53 @@
+// The frame window of the animation mode.
+#pragma once
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QWidget>
+#include <array>
+
+namespace kelvo::ui {
+
+class frmAnim : public QWidget {
+  Q_OBJECT
+
+ public:
+  // The buttons in their order.
+  enum Button { kPrevious, kNext, kBack, kFirst };
+
+  explicit frmAnim(QWidget* parent);
+
+  // `current` is empty while the picture in memory is no frame.
+  void ShowFrame(const QString& current, int count);
+  void ShowPlaying(bool playing);
+  void SetPlayRate(int rate) { rate_->setValue(rate); }
+  void SetOnionSkin(bool on) { onion_skin_->setChecked(on); }
+  int PlayRate() const { return rate_->value(); }
+
+ signals:
+  void Clicked(int button);  // a Button
+  void NumberTyped(const QString& number);
+  void PlayAsked();
+  void PlayRateChanged(int rate);
+  void OnionSkinChanged(bool on);
+  void Closed(QPoint place);
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  QWidget* MakeButtons();
+  QWidget* MakeNumber();
+  QWidget* MakePlayer();
+
+  QLineEdit* txtFrame_;
+  QLabel* count_;
+  QPushButton* cmdPlay_;
+  QSpinBox* rate_;
+  QCheckBox* onion_skin_;
+};
+
+}  // namespace kelvo::ui

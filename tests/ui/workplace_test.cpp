@@ -1,0 +1,175 @@
+// The workplace: windows, menus, zoom by wheel, places, screenshots, and names for everything.
+#include <QAccessible>
+#include <QDragEnterEvent>
+#include <QLineEdit>
+#include <QMdiSubWindow>
+#include <QMimeData>
+#include <QPushButton>
+#include <QWheelEvent>
+
+#include "main_frame_fixture.h"
+#include "ui/screenshot.h"
+
+namespace kelvo::ui {
+namespace {
+
+class WorkplaceTest : public MainFrameTest {
+ protected:
+  WorkplaceTest() { Start(); }
+
+  QMdiSubWindow* Child(const char* form) const { return qobject_cast<QMdiSubWindow*>(Find(form)->parentWidget()); }
+  std::pair<int, int> Origin() const {
+    return {frame->Zoom().Area().ZoomOriginX(), frame->Zoom().Area().ZoomOriginY()};
+  }
+  void Wheel(QPoint at, int steps, Qt::KeyboardModifiers modifiers = {}) {
+    QWidget* box = Box("frmZoom");
+    QWheelEvent event(at, box->mapToGlobal(at), {}, {0, steps * -120}, Qt::NoButton, modifiers, Qt::NoScrollPhase,
+                      false);
+    QApplication::sendEvent(box, &event);
+  }
+};
+
+constexpr std::pair<const char*, const char*> kShowEntries[] = {
+    {"mnuView_0", "frmBMPView"}, {"mnuView_1", "frmColors"}, {"mnuView_2", "frmCharData"},
+    {"mnuView_3", "frmCommand"}, {"mnuView_4", "frmZoom"},   {"mnuPens", "frmPens"}};
+
+TEST_F(WorkplaceTest, CheckMarksFollowTheWindows) {
+  for (const auto& [entry, form] : kShowEntries) {
+    SCOPED_TRACE(entry);
+    EXPECT_EQ(Action(entry)->isChecked(), Child(form)->isVisible());
+    Action(entry)->trigger();
+    EXPECT_EQ(Action(entry)->isChecked(), Child(form)->isVisible());
+    if (!Child(form)->isVisible()) Action(entry)->trigger();
+    Child(form)->close();
+    EXPECT_FALSE(Action(entry)->isChecked());
+    Action(entry)->trigger();
+    EXPECT_TRUE(Find(form)->isVisible());
+  }
+}
+
+TEST_F(WorkplaceTest, EscapeInAToolWindowGivesTheFocusBack) {
+  for (const char* name : {"swatch_3", "LeftPen", "txtCommand"}) {
+    SCOPED_TRACE(name);
+    if (!Find(name)->isVisible()) Action("mnuView_3")->trigger();
+    Find(name)->setFocus();
+    QTest::keyClick(Find(name), Qt::Key_Escape);
+    EXPECT_TRUE(Find("frmZoom")->isAncestorOf(frame->focusWidget()) || Find("frmZoom") == frame->focusWidget());
+  }
+}
+
+TEST_F(WorkplaceTest, TheWheelScrollsAndZoomsAroundThePointer) {
+  Wheel({300, 300}, 2);
+  EXPECT_EQ(Origin(), std::pair(0, 16));
+  Wheel({300, 300}, 3, Qt::ShiftModifier);
+  EXPECT_EQ(Origin(), std::pair(24, 16));
+  const QPoint at(500, 400);
+  const model::PixelPoint before = frame->Zoom().Area().PixelAt(at.x(), at.y());
+  Wheel(at, -1, Qt::ControlModifier);
+  EXPECT_TRUE(Action("mnuZoom_8X")->isChecked());
+  const model::PixelPoint after = frame->Zoom().Area().PixelAt(at.x(), at.y());
+  EXPECT_LE(std::abs(after.x - before.x), 4);
+  EXPECT_LE(std::abs(after.y - before.y), 8);
+  Wheel(at, 1, Qt::ControlModifier);
+  EXPECT_TRUE(Action("mnuZoom_4X")->isChecked());
+}
+
+TEST_F(WorkplaceTest, AMiddleDragMovesThePicture) {
+  QWidget* box = Box("frmZoom");
+  QTest::mousePress(box, Qt::MiddleButton, {}, {300, 300});
+  QMouseEvent move(QEvent::MouseMove, {200, 230}, box->mapToGlobal(QPoint(200, 230)), Qt::NoButton, Qt::MiddleButton,
+                   {});
+  QApplication::sendEvent(box, &move);
+  EXPECT_EQ(Origin(), std::pair(24, 16));
+  EXPECT_EQ(frame->Document().picture, model::PictureImage());
+}
+
+TEST_F(WorkplaceTest, FlashStepsWithTheTimer) {
+  Menu("mnuZB")->actions()[0]->trigger();
+  const auto border = [this] { return Box("frmZoom")->grab().toImage().pixelColor(2, 2); };
+  const QColor first = border();
+  QTest::qWait(250);
+  EXPECT_NE(border(), first);
+}
+
+TEST_F(WorkplaceTest, FullscreenClosesOnAKeyPressOrClick) {
+  for (int way = 0; way < 2; ++way) {
+    Action("mnuFullscreenView")->trigger();
+    QPointer<QWidget> view = frame->findChild<QWidget*>("frmFullscreen");
+    ASSERT_TRUE(view);
+    EXPECT_EQ(view->size(), view->screen()->size());
+    QTest::keyRelease(view, Qt::Key_F11);  // the release of the key that opened it
+    EXPECT_TRUE(view->isVisible());
+    if (way == 0) QTest::keyClick(view, Qt::Key_Space);
+    if (way == 1) QTest::mouseClick(view, Qt::LeftButton);
+    EXPECT_TRUE(view.isNull() || !view->isVisible());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+}
+
+TEST_F(WorkplaceTest, PlacesAreRememberedAndNonsenseIsNot) {
+  Child("frmColors")->move(120, 90);
+  Action("mnuView_2")->trigger();
+  frame->close();
+  settings.values["Settings/frmPens_framePlace"] = "90000,5,1";
+  settings.values["Settings/frmZoom_framePlace"] = "1,two";
+  settings.values["Settings/MDIFormMenuPlace"] = "-5000,-5000,300,300,0";
+  Start();
+  EXPECT_EQ(Child("frmColors")->pos(), QPoint(120, 90));
+  EXPECT_FALSE(Action("mnuView_2")->isChecked());
+  EXPECT_LT(Child("frmPens")->x(), 2000);
+  EXPECT_EQ(Child("frmZoom")->pos(), QPoint(0, 0));
+  EXPECT_GE(frame->x(), -100);
+  Action("mnuArrange")->trigger();
+  EXPECT_NE(Child("frmColors")->pos(), QPoint(120, 90));
+  EXPECT_TRUE(Action("mnuView_2")->isChecked());
+}
+
+TEST_F(WorkplaceTest, ScreenshotsHaveTheFormatAndSizeChosen) {
+  QImage picture(320, 200, QImage::Format_RGB32);
+  picture.fill(Qt::red);
+  picture.setPixelColor(1, 0, Qt::blue);
+  for (qsizetype filter = 0; filter < ScreenshotFilters().size(); ++filter) {
+    const QString path = ToQt(app::TextFromPath(folder / ("shot" + std::to_string(filter))));
+    SaveScreenshot(picture, path, filter);
+    const QString ending = filter < 3 ? ".png" : filter < 6 ? ".jpg" : ".bmp";
+    const QImage saved(path + ending);
+    const int size = 1 << filter % 3;
+    EXPECT_EQ(saved.size(), picture.size() * size) << filter;
+    if (ending == ".jpg") continue;  // its colours are near ones
+    EXPECT_EQ(saved.pixelColor(2 * size - 1, size - 1), QColor(Qt::blue));
+  }
+  EXPECT_THROW(SaveScreenshot(picture, "/gone/shot.png", 0), std::runtime_error);
+}
+
+TEST_F(WorkplaceTest, ADroppedFileIsOpened) {
+  QMimeData data;
+  data.setUrls({QUrl::fromLocalFile(ToQt(WriteKoala("dropped.koa")))});
+  QDragEnterEvent enter({9, 9}, Qt::CopyAction, &data, Qt::LeftButton, {});
+  QApplication::sendEvent(frame.get(), &enter);
+  EXPECT_TRUE(enter.isAccepted());
+  QDropEvent drop({9, 9}, Qt::CopyAction, &data, Qt::LeftButton, {});
+  QApplication::sendEvent(frame.get(), &drop);
+  EXPECT_EQ(Panel("pnlFile"), "dropped.koa");
+}
+
+TEST_F(WorkplaceTest, NothingThatCanBeUsedIsNameless) {
+  for (const auto& [entry, form] : kShowEntries) {
+    if (!Action(entry)->isChecked()) Action(entry)->trigger();
+  }
+  for (const QWidget* widget : frame->findChildren<QWidget*>()) {
+    if (!widget->isVisible() || (widget->focusPolicy() & Qt::TabFocus) == 0) continue;
+    QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(const_cast<QWidget*>(widget));
+    ASSERT_NE(accessible, nullptr);
+    EXPECT_FALSE(accessible->text(QAccessible::Name).isEmpty())
+        << widget->metaObject()->className() << " " << FromQt(widget->objectName()) << " in "
+        << FromQt(widget->parentWidget()->objectName());
+  }
+  for (const QAction* action : frame->findChildren<QAction*>()) {
+    if (!action->objectName().startsWith("mnu") || action->menu() != nullptr) continue;
+    EXPECT_FALSE(action->text().isEmpty()) << FromQt(action->objectName());
+    EXPECT_FALSE(action->statusTip().isEmpty()) << FromQt(action->objectName());
+  }
+}
+
+}  // namespace
+}  // namespace kelvo::ui
