@@ -4,11 +4,18 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QMouseEvent>
+#include <QPushButton>
+#include <QSpinBox>
 #include <QTemporaryDir>
 #include <QTest>
+#include <algorithm>
 #include <cstdio>
 
+#include "anim/anim_settings.h"
 #include "app/path_text.h"
+#include "app/whole_file.h"
+#include "files/picture_format.h"
+#include "support/pictures.h"
 #include "ui/application.h"
 #include "ui/main_frame.h"
 #include "ui/qt_settings.h"
@@ -17,6 +24,8 @@
 namespace {
 
 using kelvo::ui::MainFrame;
+
+constexpr double kDisplayFrame = 1000.0 / 60;
 
 // Notes when a widget was last painted.
 class PaintWatch final : public QObject {
@@ -81,6 +90,55 @@ double DragBacklog(MainFrame& frame, QWidget* box) {
   return watch.LastPaint() - begin - 2000;
 }
 
+// Makes `count` frames of different pictures and switches the animation mode on.
+void MakeAnimation(MainFrame& frame, kelvo::app::SettingsStore& settings, const std::filesystem::path& folder,
+                   int count) {
+  kelvo::model::PictureImage picture = kelvo::support::RandomPicture(1);
+  for (int number = 1; number <= count; ++number) {
+    picture.BackgroundColour = kelvo::model::C64Colour::FromByte(static_cast<std::uint8_t>(number));
+    kelvo::files::Sign(picture);
+    const std::string name = "anim" + QString::number(number).rightJustified(4, '0').toStdString() + ".kvp";
+    kelvo::app::WriteWholeFile(folder / name, kelvo::files::Encode(picture));
+  }
+  settings.Write(kelvo::anim::kFolder, kelvo::app::TextFromPath(folder) + "/");
+  frame.Files().OpenPicture(kelvo::app::TextFromPath(folder / "anim0001.kvp"));
+  frame.Animation().Mode().ToggleAnimMode();
+}
+
+// The longest of some changes to the next frame, after each of which both windows are painted. The frame that is left
+// is unchanged, so nothing waits for the disk.
+double FrameChange(MainFrame& frame, QWidget* box) {
+  auto* next = frame.findChild<QPushButton*>("cmdStd_1");
+  PaintWatch watch(box);
+  double longest = 0;
+  for (int change = 0; change < 20; ++change) {
+    const double begin = watch.Now();
+    next->click();
+    while (watch.LastPaint() < begin) QApplication::processEvents();
+    longest = std::max(longest, watch.LastPaint() - begin);
+  }
+  return longest;
+}
+
+// By how much the latest of 100 frames at 25 a second misses its turn.
+double PlayLateness(MainFrame& frame, QWidget* full_view) {
+  frame.findChild<QSpinBox*>("spnRate")->setValue(25);
+  PaintWatch watch(full_view);
+  const double begin = watch.Now();
+  frame.findChild<QPushButton*>("cmdPlay")->click();
+  double latest = 0, seen = watch.LastPaint();
+  int frames = 0;
+  while (frames < 100) {
+    QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    if (watch.LastPaint() == seen) continue;
+    seen = watch.LastPaint();
+    latest = std::max(latest, seen - begin - frames * 40.0);
+    ++frames;
+  }
+  frame.findChild<QPushButton*>("cmdPlay")->click();
+  return latest;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -98,5 +156,10 @@ int main(int argc, char** argv) {
   QWidget* box = frame.findChild<QWidget*>("frmZoom")->findChild<QWidget*>("picStd");
   bool met = Tell("press to filled blank picture on screen", FillTime(frame, box), 40);
   met &= Tell("last of 2000 drag events to its pixel on screen", DragBacklog(frame, box), 50);
+  const QTemporaryDir frames;
+  MakeAnimation(frame, settings, kelvo::app::PathFromText(kelvo::ui::FromQt(frames.path())), 100);
+  met &= Tell("longest of 20 changes to the next frame", FrameChange(frame, box), 2 * kDisplayFrame);
+  QWidget* full_view = frame.findChild<QWidget*>("frmBMPView")->findChild<QWidget*>("picStd");
+  met &= Tell("latest of 100 frames played at 25 a second", PlayLateness(frame, full_view), kDisplayFrame);
   return met ? 0 : 1;
 }

@@ -25,19 +25,20 @@ std::error_code LastError() {
 
 }  // namespace
 
-std::error_code WriteDurably(const fs::path& file, std::span<const std::uint8_t> bytes) {
+std::error_code WriteFile(const fs::path& file, std::span<const std::uint8_t> bytes, Flush flush) {
   HANDLE handle = CreateFileW(file.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
   if (handle == INVALID_HANDLE_VALUE) return LastError();
   DWORD written = 0;
-  const bool good = WriteFile(handle, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr) &&
-                    written == bytes.size() && FlushFileBuffers(handle);
+  const bool good = ::WriteFile(handle, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr) &&
+                    written == bytes.size() && (flush == Flush::kLater || FlushFileBuffers(handle));
   const std::error_code error = good ? std::error_code() : LastError();
   CloseHandle(handle);
   return error;
 }
 
-std::error_code ReplaceDurably(const fs::path& from, const fs::path& to) {
-  const bool good = MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH);
+std::error_code ReplaceFile(const fs::path& from, const fs::path& to, Flush flush) {
+  const DWORD through = flush == Flush::kToDisk ? MOVEFILE_WRITE_THROUGH : 0;
+  const bool good = MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | through);
   return good ? std::error_code() : LastError();
 }
 
@@ -67,19 +68,20 @@ void KeepRights(const fs::path& from, const fs::path& to) {
 
 }  // namespace
 
-std::error_code WriteDurably(const fs::path& file, std::span<const std::uint8_t> bytes) {
+std::error_code WriteFile(const fs::path& file, std::span<const std::uint8_t> bytes, Flush flush) {
   const int descriptor = open(file.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
   if (descriptor < 0) return LastError();
   std::error_code error = WriteAll(descriptor, bytes);
-  if (!error && fsync(descriptor) != 0) error = LastError();
+  if (!error && flush == Flush::kToDisk && fsync(descriptor) != 0) error = LastError();
   if (close(descriptor) != 0 && !error) error = LastError();
   return error;
 }
 
-std::error_code ReplaceDurably(const fs::path& from, const fs::path& to) {
+std::error_code ReplaceFile(const fs::path& from, const fs::path& to, Flush flush) {
   if (access(to.c_str(), F_OK) == 0 && access(to.c_str(), W_OK) != 0) return LastError();
   KeepRights(from, to);
   if (rename(from.c_str(), to.c_str()) != 0) return LastError();
+  if (flush == Flush::kLater) return {};
   const fs::path folder = to.has_parent_path() ? to.parent_path() : fs::path(".");
   const int descriptor = open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
   if (descriptor >= 0) {

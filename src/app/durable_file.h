@@ -6,12 +6,14 @@
 #include <span>
 #include <system_error>
 
+#include "app/whole_file.h"
+
 namespace kelvo::app {
 
-// Makes or overwrites `file` and flushes it to the disk. An empty code means success.
-std::error_code WriteDurably(const std::filesystem::path& file, std::span<const std::uint8_t> bytes);
+// Makes or overwrites `file` and, when asked to, flushes it to the disk. An empty code means success.
+std::error_code WriteFile(const std::filesystem::path& file, std::span<const std::uint8_t> bytes, Flush flush);
 
-// Renames `from` over `to` in one step that also survives a loss of power. An empty code means success.
-std::error_code ReplaceDurably(const std::filesystem::path& from, const std::filesystem::path& to);
+// Renames `from` over `to` in one step that, flushed, also survives a loss of power. An empty code means success.
+std::error_code ReplaceFile(const std::filesystem::path& from, const std::filesystem::path& to, Flush flush);
 
 }  // namespace kelvo::app

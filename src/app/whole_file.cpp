@@ -52,13 +52,13 @@ Bytes ReadWholeFile(const fs::path& file, std::uintmax_t most) {
   return bytes;
 }
 
-void WriteWholeFile(const fs::path& file, std::span<const std::uint8_t> bytes) {
+void WriteWholeFile(const fs::path& file, std::span<const std::uint8_t> bytes, Flush flush) {
   const fs::path target = BehindLinks(file);
   std::error_code error;
   if (fs::is_directory(target, error)) Fail(file, "this is a folder, not a file");
   const fs::path temporary = target.parent_path() / (".kelvo-" + std::to_string(std::random_device()()) + ".tmp");
-  error = WriteDurably(temporary, bytes);
-  if (!error) error = ReplaceDurably(temporary, target);
+  error = WriteFile(temporary, bytes, flush);
+  if (!error) error = ReplaceFile(temporary, target, flush);
   if (error) {
     std::error_code ignored;
     fs::remove(temporary, ignored);
@@ -67,7 +67,7 @@ void WriteWholeFile(const fs::path& file, std::span<const std::uint8_t> bytes) {
 }
 
 void CopyWholeFile(const fs::path& from, const fs::path& to) {
-  WriteWholeFile(to, ReadWholeFile(from, kMostToCopy));
+  WriteWholeFile(to, ReadWholeFile(from, kMostToCopy), Flush::kLater);
 }
 
 }  // namespace kelvo::app

@@ -8,6 +8,7 @@ namespace kelvo::ui {
 
 void EventPump::Process() {
   if (since_paint_.elapsed() < kDisplayFrameMilliseconds) return;
+  pointer_.Appear();
   QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
   since_paint_.restart();
 }

@@ -4,16 +4,18 @@
 #include <QElapsedTimer>
 
 #include "app/process_events.h"
+#include "ui/wait_cursor.h"
 
 namespace kelvo::ui {
 
 // Does so at most once a display frame, however often it is called.
 class EventPump final : public app::ProcessEvents {
  public:
-  EventPump() { since_paint_.start(); }
+  explicit EventPump(WaitCursor& pointer) : pointer_(pointer) { since_paint_.start(); }
   void Process() override;
 
  private:
+  WaitCursor& pointer_;
   QElapsedTimer since_paint_;
 };
 

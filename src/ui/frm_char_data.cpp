@@ -3,6 +3,7 @@
 #include <QFontDatabase>
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QStringList>
 #include <QVBoxLayout>
 
 #include "model/cell_view.h"
@@ -30,6 +31,7 @@ frmCharData::frmCharData(const model::PictureImage& picture, QWidget* parent)
       picture_(picture),
       surface_(model::kCellViewWidth, model::kCellViewHeight),
       picStd_(new SurfaceView(surface_, kSmallestBox, this)),
+      lblBytes_(FixedPitchLabel(this, "00000000 $00")),
       lblCell_(new QLabel(this)) {
   setObjectName("frmCharData");
   setWindowTitle(" Char data");
@@ -42,10 +44,8 @@ frmCharData::frmCharData(const model::PictureImage& picture, QWidget* parent)
   picStd_->setFocusPolicy(Qt::NoFocus);
   grid->addWidget(lblCell_, 0, 0, 1, 3);
   grid->addWidget(picStd_, 1, 0, 8, 1, Qt::AlignTop);
-  for (int line = 0; line < 8; ++line) {
-    lblBytes_[static_cast<std::size_t>(line)] = FixedPitchLabel(this, "00000000 $00");
-    grid->addWidget(lblBytes_[static_cast<std::size_t>(line)], line + 1, 1);
-  }
+  lblBytes_->setObjectName("lblBytes");
+  grid->addWidget(lblBytes_, 1, 1, 8, 1, Qt::AlignTop);
   MakeCellBox();
   Show(model::LookUpPixel(1, 1));
 }
@@ -86,10 +86,12 @@ void frmCharData::Show(const model::PixelPlace& place) {
 }
 
 void frmCharData::ShowBytes() {
-  for (int line = 0; line < 8; ++line) {
-    const std::uint8_t byte = picture_.Bitmap[static_cast<std::size_t>(place_.base + 1 + line)];
-    lblBytes_[static_cast<std::size_t>(line)]->setText(ToQt(model::ByteToBinary(byte) + " $" + model::ToHex(byte)));
+  QStringList lines;
+  for (int line = 1; line <= 8; ++line) {
+    const std::uint8_t byte = picture_.Bitmap[static_cast<std::size_t>(place_.base + line)];
+    lines << ToQt(model::ByteToBinary(byte) + " $" + model::ToHex(byte));
   }
+  lblBytes_->setText(lines.join('\n'));
 }
 
 void frmCharData::ShowSlots() {

@@ -45,7 +45,7 @@ class frmCharData : public QWidget {
   model::Surface surface_;
   SurfaceView* picStd_;
   std::array<QLabel*, 4> lblBits_{};
-  std::array<QLabel*, 8> lblBytes_{};
+  QLabel* lblBytes_;
   QLabel* lblCell_;
   std::array<SlotRow, 4> slots_{};
 };

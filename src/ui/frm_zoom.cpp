@@ -112,9 +112,9 @@ void frmZoom::ShowPreview(editing::Points points, model::C64Colour colour) {
   picStd_->ShowPreview(std::move(points), colour);
 }
 
-void frmZoom::SetOnionSkin(std::optional<model::PictureImage> other) {
+void frmZoom::SetOnionSkin(const std::optional<model::PictureImage>& other) {
   if (!other && !onion_skin_) return;
-  onion_skin_ = std::move(other);
+  onion_skin_ = other;
   DrawCapturePic();
 }
 

@@ -34,7 +34,7 @@ class frmZoom : public QWidget {
   void ShowPreview(editing::Points points, model::C64Colour colour);
 
   // Another picture shines through; none: empty.
-  void SetOnionSkin(std::optional<model::PictureImage> other);
+  void SetOnionSkin(const std::optional<model::PictureImage>& other);
 
   void DrawCapturePic();
   void RedrawZoomChar(int cell);    // 1..1000

@@ -56,6 +56,7 @@ MainFrame::MainFrame(const app::ProgramFolders& folders, app::SettingsStore& set
       Timer1_(new QTimer(this)),
       messages_(this),
       dialogs_(this),
+      events_(pointer_),
       views_(*full_view_, *zoom_),
       files_(document_, {folders, settings, clock, log_, messages_, prompt_, pointer_, dialogs_, *this, views_}),
       desk_(document_, {views_, settings, messages_, events_, pointer_, log_},

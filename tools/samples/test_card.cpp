@@ -43,8 +43,9 @@ void DrawGradient(Canvas& canvas, int top, const std::array<Ink, size>& ramp) {
 // Four cells of bit-pair patterns: a pixel of each slot beside each other slot.
 void DrawPairs(Canvas& canvas, int left, int top, const std::array<Ink, 4>& slots) {
   for (int y = 0; y < 8; ++y) {
-    for (int x = 0; x < 8; ++x)
+    for (int x = 0; x < 8; ++x) {
       canvas.Put(left + x, top + y, slots[static_cast<std::size_t>((x + (x / 4 == 0 ? y : 3 * y)) % 4)]);
+    }
   }
 }
 
@@ -64,8 +65,9 @@ model::PictureImage DrawTestCard() {
   Canvas canvas(kDarkGray);
   DrawGrid(canvas);
   DrawCircle(canvas);
-  for (std::size_t bar = 0; bar < kBars.size(); ++bar)
+  for (std::size_t bar = 0; bar < kBars.size(); ++bar) {
     canvas.Box(48 + static_cast<int>(bar) * 4, 24, 4, 40, kBars[bar]);
+  }
   DrawGradient(canvas, 72, kGrays);
   DrawGradient(canvas, 88, kBlues);
   DrawGradient(canvas, 104, kWarm);
