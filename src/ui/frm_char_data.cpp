@@ -37,7 +37,7 @@ frmCharData::frmCharData(const model::PictureImage& picture, QWidget* parent)
   setWindowTitle(" Char data");
   auto* grid = new QGridLayout(this);
   grid->setContentsMargins(6, 4, 6, 4);
-  grid->setHorizontalSpacing(8);
+  grid->setHorizontalSpacing(5);
   grid->setVerticalSpacing(0);
   picStd_->setObjectName("picStd");
   picStd_->setAccessibleName("Cell picture");
@@ -60,11 +60,12 @@ void frmCharData::MakeCellBox() {
   }
   grid->addLayout(bits, 9, 0);
   auto* rows = new QGridLayout;
+  rows->setHorizontalSpacing(4);
   for (std::size_t i = 0; i < slots_.size(); ++i) {
     slots_[i] = {new SwatchButton(this), new QLabel(this), new QLabel(this)};
     slots_[i].swatch->setObjectName(QString("slot_%1").arg(ToQt(model::ToText(kSlots[i]))));
     slots_[i].swatch->setFocusPolicy(Qt::NoFocus);
-    slots_[i].swatch->setFixedSize(26, 20);
+    slots_[i].swatch->setFixedSize(18, 18);
     slots_[i].name->setMinimumWidth(fontMetrics().horizontalAdvance("%00 Middle gray"));
     const int row = static_cast<int>(i);
     rows->addWidget(slots_[i].swatch, row, 0);

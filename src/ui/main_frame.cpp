@@ -1,7 +1,7 @@
 #include "ui/main_frame.h"
 
+#include <QApplication>
 #include <QCloseEvent>
-#include <QCoreApplication>
 #include <QDragEnterEvent>
 #include <QKeyEvent>
 #include <QMdiArea>
@@ -67,6 +67,7 @@ MainFrame::MainFrame(const app::ProgramFolders& folders, app::SettingsStore& set
   setCentralWidget(area_);
   resize(kFirstSize);
   setAcceptDrops(true);
+  qApp->installEventFilter(this);
   addToolBar(Toolbar1_);
   MakeChildren();
   MakeChoiceMenus();
@@ -244,12 +245,23 @@ void MainFrame::Timer1_Timer() {
   zoom_->TickBorder();
 }
 
+// Notes every press, also one that a menu shortcut takes.
+bool MainFrame::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress) {
+    const auto* press = static_cast<QKeyEvent*>(event);
+    pressed_with_.insert(press->key(), press->modifiers());
+  }
+  return QMainWindow::eventFilter(watched, event);
+}
+
 void MainFrame::keyReleaseEvent(QKeyEvent* event) {
   const QWidget* focus = focusWidget();
   const bool in_tool_window =
       colors_->isAncestorOf(focus) || char_data_->isAncestorOf(focus) || pens_->isAncestorOf(focus);
   if (event->key() == Qt::Key_Escape && in_tool_window) return GiveFocusToPicture();
-  if (!desk_.HandleKeyUp(event->key(), event->modifiers())) QMainWindow::keyReleaseEvent(event);
+  // Ctrl+R with Ctrl let go first is still Ctrl+R, not the pen of R.
+  const Qt::KeyboardModifiers modifiers = event->modifiers() | pressed_with_.take(event->key());
+  if (!desk_.HandleKeyUp(event->key(), modifiers)) QMainWindow::keyReleaseEvent(event);
 }
 
 void MainFrame::changeEvent(QEvent* event) {

@@ -1,6 +1,7 @@
 // The main window: it holds the child windows and the menus, and turns what the user does into calls.
 #pragma once
 
+#include <QHash>
 #include <QMainWindow>
 #include <QTimer>
 #include <array>
@@ -80,6 +81,7 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   void closeEvent(QCloseEvent* event) override;
   void keyReleaseEvent(QKeyEvent* event) override;
   void changeEvent(QEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dropEvent(QDropEvent* event) override;
 
@@ -104,6 +106,7 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
 
   PromptLines prompt_;
   QString last_command_;
+  QHash<int, Qt::KeyboardModifiers> pressed_with_;  // by key: what was held when it was pressed
 
   QMdiArea* area_;
   frmBMPView* full_view_;

@@ -166,6 +166,14 @@ TEST_F(PaintingWindowTest, KeysMoveTheZoomArea) {
   }
 }
 
+TEST_F(PaintingWindowTest, AShortcutsKeyIsNoPenAndNoToolWhenItsCtrlIsLetGoFirst) {
+  QTest::keyPress(Box("frmZoom"), Qt::Key_8, Qt::ControlModifier);
+  QTest::keyRelease(Box("frmZoom"), Qt::Key_8, Qt::NoModifier);
+  EXPECT_TRUE(Swatch(1)->accessibleName().startsWith("left pen"));
+  Key(Qt::Key_8);
+  EXPECT_TRUE(Swatch(7)->accessibleName().startsWith("left pen"));
+}
+
 TEST_F(PaintingWindowTest, ThePointerShowsInStatusAndCellWindows) {
   MoveTo(6, 10, Qt::NoButton);
   QTest::qWait(50);
