@@ -15,6 +15,7 @@ constexpr MenuRow kMenus[] = {
     {"mnuViewMenu", nullptr, "&Show", ""},
     {"mnuGrid", "mnuViewMenu", "Zoom &grid", "Draw the grid of the zoom window in this colour"},
     {"mnuZB", "mnuViewMenu", "Zoom &border", "How the border of the zoom window looks"},
+    {"mnuFunctions", nullptr, "F&unctions", ""},
     {"mnuAnim", nullptr, "&Animation", ""},
     {"mnuHelp", nullptr, "&Help", ""},
 };
@@ -88,6 +89,12 @@ constexpr MenuEntry kEntries[] = {
      [](MainFrame& f) { f.mnuFullscreenView_Click(); }, nullptr, nullptr, "fullscreen"},
     {"mnuArrange", "mnuViewMenu", "&Arrange windows", "", "Put every window back to its place",
      [](MainFrame& f) { f.ArrangeWindows(); }},
+
+    {"mnuOptimizeBackgroundColor", "mnuFunctions", "Optimize &background color", "",
+     "Draw every pixel that shows the background colour with the background",
+     [](MainFrame& f) { f.Desk().OptimizeBackgroundColor(); }},
+    {"mnuOptimizeForEORVector", "mnuFunctions", "Optimize for &EOR vectors", "", "Tells its rule and visits every cell",
+     [](MainFrame& f) { f.Desk().OptimizeForEORVector(); }},
 
     {"mnuAnimMode", "mnuAnim", "Animation &mode", "", "Numbered pictures of a folder are frames",
      [](MainFrame& f) { f.Animation().Mode().ToggleAnimMode(); }, nullptr,

@@ -6,6 +6,8 @@
 
 #include "editing/pen_keys.h"
 #include "model/pixel_place.h"
+#include "optimise/background_colour.h"
+#include "optimise/eor_vectors.h"
 #include "ui/display_frame.h"
 
 namespace kelvo::ui {
@@ -34,12 +36,18 @@ char LetterOf(int key) {
 
 PaintingDesk::PaintingDesk(files::Document& document, const editing::PaintingPorts& ports,
                            const PaintingWindows& windows)
-    : document_(document), windows_(windows), painting_(document.picture, ports) {
+    : document_(document),
+      windows_(windows),
+      painting_(document.picture, ports),
+      messages_(ports.messages),
+      views_(ports.views) {
   ConnectZoom();
   ConnectPens();
   pointer_pause_.setSingleShot(true);
   pointer_pause_.setInterval(kDisplayFrameMilliseconds);
-  connect(&pointer_pause_, &QTimer::timeout, this, &PaintingDesk::ShowPointer);
+  connect(&pointer_pause_, &QTimer::timeout, this, [this] {
+    if (pointer_ != shown_pointer_) ShowPointer();
+  });
   connect(&windows_.toolbar, &PaintToolBar::ToolChosen, this, &PaintingDesk::ChooseTool);
   ShowColours();
 }
@@ -92,6 +100,7 @@ void PaintingDesk::PointAt(model::PixelPoint at) {
 }
 
 void PaintingDesk::ShowPointer() {
+  shown_pointer_ = pointer_;
   const model::PixelPlace place = model::LookUpPixel(pointer_.x, pointer_.y);
   windows_.char_data.Show(place);
   windows_.colors.ShowCell(model::ColoursOfCell(document_.picture, place.cell));
@@ -161,6 +170,23 @@ void PaintingDesk::SetLeftPen(model::C64Colour colour) {
 void PaintingDesk::SetRightPen(model::C64Colour colour) {
   painting_.PenColours().right = colour;
   ShowColours();
+}
+
+// A pass comes to a thousand cells within a display frame: the window is moved along only where one can see it.
+void PaintingDesk::ShowCell(int cell) {
+  const bool is_last = cell == model::PictureImage::kCells;
+  if (pointer_pause_.isActive() && !is_last) return;
+  windows_.colors.ShowCell(model::ColoursOfCell(document_.picture, cell));
+  pointer_pause_.start();
+}
+
+void PaintingDesk::OptimizeBackgroundColor() {
+  optimise::OptimizeBackgroundColor(document_.picture, windows_.full_view.Progress(), *this);
+  views_.PictureChanged();
+}
+
+void PaintingDesk::OptimizeForEORVector() {
+  optimise::OptimizeForEORVector(messages_, windows_.full_view.Progress(), *this);
 }
 
 void PaintingDesk::PictureReplaced() {

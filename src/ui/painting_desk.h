@@ -7,6 +7,7 @@
 
 #include "editing/painting.h"
 #include "files/document.h"
+#include "optimise/cell_sweep.h"
 #include "ui/frm_bmp_view.h"
 #include "ui/frm_char_data.h"
 #include "ui/frm_colors.h"
@@ -25,7 +26,7 @@ struct PaintingWindows {
   PaintToolBar& toolbar;
 };
 
-class PaintingDesk : public QObject {
+class PaintingDesk : public QObject, private optimise::CellDisplay {
   Q_OBJECT
 
  public:
@@ -41,6 +42,10 @@ class PaintingDesk : public QObject {
 
   // The window went to the background: a stroke under way ends.
   void LoseFocus() { painting_.Release(); }
+
+  // The whole-picture passes, with the progress bar of the full view.
+  void OptimizeBackgroundColor();
+  void OptimizeForEORVector();
 
   // Another picture is in memory.
   void PictureReplaced();
@@ -64,12 +69,16 @@ class PaintingDesk : public QObject {
   void SetRightPen(model::C64Colour colour);
   bool MoveZoomArea(int key, Qt::KeyboardModifiers modifiers);
   void ActionDone();
+  void ShowCell(int cell) override;
 
   files::Document& document_;
   PaintingWindows windows_;
   editing::Painting painting_;
   model::PixelPoint pointer_;  // where the pointer was last over the picture
-  QTimer pointer_pause_;       // runs for a display frame after the pointer was shown
+  model::PixelPoint shown_pointer_;
+  app::Messages& messages_;
+  model::PictureViews& views_;
+  QTimer pointer_pause_;  // runs for a display frame after the pointer was shown
 };
 
 }  // namespace kelvo::ui

@@ -35,6 +35,10 @@ void QtMessages::Warn(std::string_view text) {
   Show(parent_, QMessageBox::Warning, text, QMessageBox::Ok);
 }
 
+void QtMessages::Tell(std::string_view text) {
+  Show(parent_, QMessageBox::NoIcon, text, QMessageBox::Ok);
+}
+
 bool QtMessages::Ask(std::string_view text) {
   return Show(parent_, QMessageBox::Information, text, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
 }

@@ -14,6 +14,7 @@ class QtMessages final : public app::Messages {
 
   void Inform(std::string_view text) override;
   void Warn(std::string_view text) override;
+  void Tell(std::string_view text) override;
   bool Ask(std::string_view text) override;
   app::UnsavedAnswer AskUnsaved(std::string_view text) override;
 

@@ -29,6 +29,7 @@ class NestedMessages final : public app::Messages {
     if (while_open) while_open();
   }
   void Warn(std::string_view) override {}
+  void Tell(std::string_view) override {}
   bool Ask(std::string_view) override { return false; }
   app::UnsavedAnswer AskUnsaved(std::string_view) override { return app::UnsavedAnswer::kCancel; }
   support::Lines texts;

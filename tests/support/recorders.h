@@ -50,6 +50,7 @@ class RecordingMessages final : public app::Messages {
  public:
   void Inform(std::string_view text) override { shown.emplace_back(text); }
   void Warn(std::string_view text) override { shown.emplace_back(text); }
+  void Tell(std::string_view text) override { shown.emplace_back(text); }
   bool Ask(std::string_view text) override {
     shown.emplace_back(text);
     return yes;

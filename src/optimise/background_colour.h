@@ -1,0 +1,17 @@
+// "Optimize background color": pixels that show the background colour are drawn with the background's bit pair.
+#pragma once
+
+#include "app/progress.h"
+#include "model/picture_image.h"
+#include "optimise/cell_sweep.h"
+
+namespace kelvo::optimise {
+
+// Turns every pixel of one cell whose slot shows the background colour into %00. The cell's bytes are Bitmap[index + 1]
+// .. Bitmap[index + 8]; a negative index does nothing. Its colours stay, also those that no pixel uses any more.
+void OptimizeChar(model::PictureImage& picture, int index);
+
+// The whole picture. It looks the same before and after.
+void OptimizeBackgroundColor(model::PictureImage& picture, app::Progress& progress, CellDisplay& display);
+
+}  // namespace kelvo::optimise

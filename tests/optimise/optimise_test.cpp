@@ -1,0 +1,77 @@
+// The whole-picture passes: what changes, and what must not.
+#include <gtest/gtest.h>
+
+#include "optimise/background_colour.h"
+#include "optimise/eor_vectors.h"
+#include "support/painted.h"
+#include "support/pictures.h"
+#include "support/recorders.h"
+
+namespace kelvo::optimise {
+namespace {
+
+using model::PictureImage;
+
+class RecordingCells final : public CellDisplay {
+ public:
+  void ShowCell(int cell) override { cells.push_back(cell); }
+  std::vector<int> cells;
+};
+
+std::vector<int> Look(const PictureImage& picture) {
+  std::vector<int> colours;
+  for (int y = 1; y <= 200; ++y) {
+    for (int x = 1; x <= 160; ++x) colours.push_back(support::ColourAt(picture, x, y));
+  }
+  return colours;
+}
+
+TEST(OptimizeBackground, KeepsTheLookAndLeavesNoOtherPairForTheBackground) {
+  for (unsigned seed = 0; seed < 20; ++seed) {
+    PictureImage picture = support::RandomPicture(seed);
+    const PictureImage before = picture;
+    app::NoProgress none;
+    RecordingCells display;
+    OptimizeBackgroundColor(picture, none, display);
+    EXPECT_EQ(Look(picture), Look(before));
+    EXPECT_EQ(picture.ScreenMemory, before.ScreenMemory);
+    EXPECT_EQ(picture.ColourMemory, before.ColourMemory);
+    for (int y = 1; y <= 200; ++y) {
+      for (int x = 1; x <= 160; ++x) {
+        const model::PixelData pixel = model::GetPixelData(picture, x, y);
+        const bool on_background = pixel.colour == picture.BackgroundColour;
+        ASSERT_EQ(pixel.pair == model::BitPair::k00, on_background);
+      }
+    }
+    const PictureImage once = picture;
+    OptimizeBackgroundColor(picture, none, display);
+    EXPECT_EQ(picture, once);
+    EXPECT_EQ(display.cells.size(), 2000U);
+    EXPECT_EQ(display.cells.back(), 1000);
+  }
+}
+
+TEST(OptimizeChar, TouchesItsOwnCellAlone) {
+  PictureImage picture = support::PictureWithCell(2, support::kAllSlots, 6, 6, 3, 6);
+  support::SetCell(picture, 1, support::kAllSlots, 6, 6, 3);
+  support::SetCell(picture, 3, support::kAllSlots, 6, 6, 3);
+  PictureImage expected = picture;
+  support::SetCell(expected, 2, {0x10, 0x10, 0x10, 0x10, 0x10, 0x10, 0x10, 0x10}, 6, 6, 3);
+  OptimizeChar(picture, 8);
+  EXPECT_EQ(picture, expected);
+  OptimizeChar(picture, -1);
+  EXPECT_EQ(picture, expected);
+}
+
+TEST(OptimizeForEorVectors, TellsItsRuleAndChangesNothing) {
+  support::RecordingMessages messages;
+  app::NoProgress none;
+  RecordingCells display;
+  OptimizeForEORVector(messages, none, display);
+  ASSERT_EQ(messages.shown.size(), 1U);
+  EXPECT_EQ(std::count(messages.shown[0].begin(), messages.shown[0].end(), '\r'), 3);
+  EXPECT_EQ(display.cells.size(), 1000U);
+}
+
+}  // namespace
+}  // namespace kelvo::optimise
