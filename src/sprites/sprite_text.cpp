@@ -1,0 +1,63 @@
+#include "sprites/sprite_text.h"
+
+#include "model/bit_pair.h"
+#include "model/number_text.h"
+
+namespace kelvo::sprites {
+namespace {
+
+using model::BitPair;
+
+constexpr std::array kPairOfList{BitPair::k01, BitPair::k11, BitPair::k10};
+constexpr std::size_t kBytes = kSpritePixels / 4;
+
+struct Layout {
+  std::size_t bytes_per_line;
+  bool padding_has_own_line;
+};
+
+// Three bytes a line in binary, as a sprite's rows have them; eight in hexadecimal, where the padding byte fills the
+// last.
+constexpr Layout LayoutOf(Notation notation) {
+  return notation == Notation::kBinary ? Layout{3, true} : Layout{8, false};
+}
+
+BitPair PairOf(model::C64Colour colour, const ChosenColours& chosen) {
+  for (std::size_t list = 0; list < chosen.size(); ++list) {
+    if (chosen[list] == colour) return kPairOfList[list];
+  }
+  return BitPair::k00;
+}
+
+std::string ByteText(int byte, Notation notation) {
+  return notation == Notation::kBinary ? "%" + model::ByteToBinary(byte) : "$" + model::ToHex(byte);
+}
+
+int ByteAt(const Sprite& sprite, std::size_t byte, const ChosenColours& chosen) {
+  int value = 0;
+  for (std::size_t pixel = byte * 4; pixel < byte * 4 + 4; ++pixel) {
+    value = value << 2 | static_cast<int>(PairOf(sprite[pixel], chosen));
+  }
+  return value;
+}
+
+std::string OneSprite(const Sprite& sprite, const ChosenColours& chosen, Notation notation) {
+  const Layout layout = LayoutOf(notation);
+  std::string text;
+  for (std::size_t byte = 0; byte < kBytes; ++byte) {
+    text += byte % layout.bytes_per_line == 0 ? ".byte " : ",";
+    text += ByteText(ByteAt(sprite, byte, chosen), notation);
+    if (byte % layout.bytes_per_line == layout.bytes_per_line - 1) text += "\r\n";
+  }
+  return text + (layout.padding_has_own_line ? ".byte " : ",") + ByteText(0, notation) + "\r\n";
+}
+
+}  // namespace
+
+std::string SpriteText(const std::vector<Sprite>& sprites, const ChosenColours& colours, Notation notation) {
+  std::string text;
+  for (const Sprite& sprite : sprites) text += OneSprite(sprite, colours, notation);
+  return text;
+}
+
+}  // namespace kelvo::sprites
