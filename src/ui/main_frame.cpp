@@ -214,6 +214,12 @@ void MainFrame::mnuFullscreenView_Click() {
   (new frmFullscreen(full_view_->Picture(), this))->showFullScreen();
 }
 
+void MainFrame::ShowSpriteConverter() {
+  if (sprite_converter_ == nullptr) sprite_converter_ = new frmBMP2SpriteMain(document_.picture, this);
+  sprite_converter_->show();
+  sprite_converter_->raise();
+}
+
 void MainFrame::SaveScreenshot() {
   const std::string& path = document_.file.CurrentFilePath;
   const QString proposal = ToQt(path.empty() ? app::TextFromPath(folders_.Gfx() / "unnamed") : path);

@@ -15,6 +15,7 @@
 #include "ui/child_window.h"
 #include "ui/choice_menu.h"
 #include "ui/event_pump.h"
+#include "ui/frm_bmp2sprite_main.h"
 #include "ui/frm_bmp_view.h"
 #include "ui/frm_char_data.h"
 #include "ui/frm_colors.h"
@@ -64,6 +65,7 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   void ShowAbout();
   void mnuFullscreenView_Click();
   void SaveScreenshot();
+  void ShowSpriteConverter();
   void ArrangeWindows();
 
   AnimationDesk& Animation() { return animation_; }
@@ -132,6 +134,7 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   files::PictureFiles files_;
   PaintingDesk desk_;
   AnimationDesk animation_;
+  frmBMP2SpriteMain* sprite_converter_ = nullptr;  // made when it is first asked for
 };
 
 }  // namespace kelvo::ui

@@ -95,6 +95,9 @@ constexpr MenuEntry kEntries[] = {
      [](MainFrame& f) { f.Desk().OptimizeBackgroundColor(); }},
     {"mnuOptimizeForEORVector", "mnuFunctions", "Optimize for &EOR vectors", "", "Tells its rule and visits every cell",
      [](MainFrame& f) { f.Desk().OptimizeForEORVector(); }},
+    Separator("mnuFunctions"),
+    {"mnuBMP2Sprite", "mnuFunctions", "Bitmap to &sprite converter", "", "Make sprite data of parts of a picture",
+     [](MainFrame& f) { f.ShowSpriteConverter(); }},
 
     {"mnuAnimMode", "mnuAnim", "Animation &mode", "", "Numbered pictures of a folder are frames",
      [](MainFrame& f) { f.Animation().Mode().ToggleAnimMode(); }, nullptr,
