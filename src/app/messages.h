@@ -13,7 +13,7 @@ class Messages {
   virtual ~Messages() = default;
   virtual void Inform(std::string_view text) = 0;               // information icon, OK
   virtual void Warn(std::string_view text) = 0;                 // exclamation icon, OK
-  virtual void Tell(std::string_view text) = 0;    // no icon, OK
+  virtual void Tell(std::string_view text) = 0;                 // no icon, OK
   virtual bool Ask(std::string_view text) = 0;                  // Yes and No; anything but Yes is no
   virtual UnsavedAnswer AskUnsaved(std::string_view text) = 0;  // Save, Discard and Cancel
 };
