@@ -147,7 +147,8 @@ TEST(FloodFill, EqualsTheLiteralRulesInContentAndOrder) {
   CompareWithLiteral(PictureImage{}, 80, 100, 5, false);
   CompareWithLiteral(PictureImage{}, 1, 200, 0, true);
   CompareWithLiteral(support::Maze(), 1, 1, 5, false);
-  CompareWithLiteral(support::Tree(), 80, 100, 5, false);
+  CompareWithLiteral(support::Tree(), 80, 100, 5, false);    // fills the queue
+  CompareWithLiteral(support::Tree(84), 80, 100, 5, false);  // a window of 999 or 1001 entries takes other ways
 }
 
 TEST(FloodFill, PassesThroughAFullCellAndLeavesItAlone) {

@@ -30,22 +30,25 @@ inline model::PictureImage Maze() {
   return picture;
 }
 
-// A corridor that forks again and again until it ends in 256 chambers, which a fill from x 80, y 100 reaches all at
-// once: more pixels at one time than the window of its queue holds.
-inline void CarveTree(model::PictureImage& picture, int x, int y, int arm = 32, bool across = true) {
+// Carves a fork of the tree at x, y; `chambers` counts down those that are left to carve.
+inline void CarveFork(model::PictureImage& picture, int x, int y, int& chambers, int arm = 32, bool across = true) {
   if (arm < 4) {
+    if (--chambers < 0) return;
     for (int place = 0; place < 25; ++place) Carve(picture, x - 2 + place % 5, y - 2 + place / 5);
     return;
   }
   for (int step = -arm; step <= arm; ++step) Carve(picture, x + (across ? step : 0), y + (across ? 0 : step));
   for (const int end : {-arm, arm}) {
-    CarveTree(picture, x + (across ? end : 0), y + (across ? 0 : end), across ? arm : arm / 2, !across);
+    CarveFork(picture, x + (across ? end : 0), y + (across ? 0 : end), chambers, across ? arm : arm / 2, !across);
   }
 }
 
-inline model::PictureImage Tree() {
+// A corridor that forks again and again until it has 256 ends, the first `chambers` of them in a chamber. A fill from
+// x 80, y 100 reaches all chambers at once: from about 80 on they have more pixels at one time than the window of its
+// queue holds.
+inline model::PictureImage Tree(int chambers = 256) {
   model::PictureImage picture = SolidWall();
-  CarveTree(picture, 80, 100);
+  CarveFork(picture, 80, 100, chambers);
   return picture;
 }
 
