@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include <deque>
+#include <algorithm>
 #include <set>
 
 #include "editing/cell_slots.h"
@@ -81,11 +81,9 @@ class LiteralFill {
 
   void Store(int x, int y, char letter) {
     if (!IsTarget(x, y)) return;
-    const std::size_t count = queue_.size() - 1;
-    const std::size_t first = count > 1000 ? count - 1000 : 0;
-    for (std::size_t i = first; i <= count; ++i) {
-      if (queue_[i].x == x && queue_[i].y == y) return;
-    }
+    const std::size_t count = queue_.size() - 1, first = count > 1000 ? count - 1000 : 0;
+    const Entry* begin = queue_.data();
+    if (std::any_of(begin + first, begin + count + 1, [=](const Entry& e) { return e.x == x && e.y == y; })) return;
     if (count == 128000) throw FillQueueFull("");
     queue_.push_back({x, y, letter});
   }
@@ -94,7 +92,7 @@ class LiteralFill {
   const PictureImage before_;
   bool replace_;
   model::C64Colour colour_, target_;
-  std::deque<Entry> queue_;
+  std::vector<Entry> queue_;
   std::set<std::pair<int, int>> known_;
   std::size_t head_ = 0;
 };

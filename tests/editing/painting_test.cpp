@@ -155,6 +155,9 @@ TEST_F(PaintingTest, AStillPointerIsToldOnce) {
   for (int i = 0; i < 3; ++i) painting.Move({1, 1}, true);
   painting.Move({2, 1}, true);
   EXPECT_EQ(messages.texts.size(), 2U);
+  Press({1, 1});  // its release was lost, and the new press is refused: no stroke is left
+  painting.Move({9, 1}, true);
+  EXPECT_EQ(CountOf(5), 1);
 }
 
 TEST_F(PaintingTest, ARefusalIsToldOncePerEventAndNothingPlotsMeanwhile) {
