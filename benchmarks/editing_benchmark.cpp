@@ -16,10 +16,8 @@ namespace kelvo::editing {
 namespace {
 
 const bench::GoalRegistration kGoals{
-    {"BlankFill", "ScanlineFill", 40, 0},
-    {"BlankFill", "", 0, 2000},
-    {"MazeFill", "BlankFill", 3, 0},
-    {"PlotWithRedraws", "", 0, 10},
+    {"BlankFill", "ScanlineFill", 40, 0}, {"BlankFill", "", 0, 2000},     {"MazeFill", "BlankFill", 3, 0},
+    {"TreeFill", "BlankFill", 3, 0},      {"PlotWithRedraws", "", 0, 10},
 };
 
 class NobodyWatches final : public model::PictureViews, public app::ProcessEvents {
@@ -74,13 +72,17 @@ void ScanlineFill(benchmark::State& state) {
 }
 BENCHMARK(ScanlineFill);
 
-void Fill(benchmark::State& state, const model::PictureImage& before) {
+void Fill(benchmark::State& state, const model::PictureImage& before, int x = 1, int y = 1) {
   model::PictureImage picture = before;
   NobodyWatches nobody;
   FloodFill fill(picture, nobody, nobody);
   for (auto _ : state) {
     picture = before;
-    fill.Fill(1, 1, support::Colour(5), FullCellInFill::kKeep);
+    try {
+      fill.Fill(x, y, support::Colour(5), FullCellInFill::kKeep);
+    } catch (const FillQueueFull&) {
+      state.SetLabel("full queue");
+    }
     benchmark::ClobberMemory();
   }
 }
@@ -94,6 +96,12 @@ void MazeFill(benchmark::State& state) {
   Fill(state, support::Maze());
 }
 BENCHMARK(MazeFill);
+
+// The worst there is: the fill runs to and fro until its queue is full.
+void TreeFill(benchmark::State& state) {
+  Fill(state, support::Tree(), 80, 100);
+}
+BENCHMARK(TreeFill);
 
 void PlotWithRedraws(benchmark::State& state) {
   model::PictureImage picture = support::RandomPicture(1);

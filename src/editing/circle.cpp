@@ -3,16 +3,10 @@
 #include <cmath>
 #include <cstdlib>
 
+#include "editing/rounding.h"
 #include "model/picture_image.h"
 
 namespace kelvo::editing {
-namespace {
-
-int Round(double value) {
-  return static_cast<int>(std::nearbyint(value));
-}
-
-}  // namespace
 
 int CircleRadius(model::PixelPoint centre, model::PixelPoint point) {
   const int across = std::abs(point.x - centre.x);

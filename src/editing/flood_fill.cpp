@@ -1,7 +1,6 @@
 #include "editing/flood_fill.h"
 
 #include <algorithm>
-#include <stdexcept>
 
 #include "editing/cell_slots.h"
 #include "editing/set_data.h"
@@ -42,16 +41,17 @@ void FloodFill::Fill(int x, int y, model::C64Colour colour, FullCellInFill full_
 
 void FloodFill::MarkTarget(model::C64Colour target) {
   for (int cell = 1; cell <= PictureImage::kCells; ++cell) {
-    std::array<bool, 4> shows_target{};
+    std::array<Pixel, 4> shows{};
     for (std::size_t pair = 0; pair < 4; ++pair) {
-      shows_target[pair] = model::ColourInCell(before_, cell, static_cast<BitPair>(pair)) == target;
+      const bool is_target = model::ColourInCell(before_, cell, static_cast<BitPair>(pair)) == target;
+      shows[pair] = is_target ? Pixel::kTarget : Pixel::kOther;
     }
     const int left = (cell - 1) % PictureImage::kCellsWide * 4 + 1, top = (cell - 1) / PictureImage::kCellsWide * 8 + 1;
     for (int line = 0; line < 8; ++line) {
       const std::uint8_t byte = before_.Bitmap[static_cast<std::size_t>(model::BaseOfCell(cell) + 1 + line)];
-      bool* row = &is_target_[static_cast<std::size_t>(At(left, top + line))];
+      Pixel* row = &pixels_[static_cast<std::size_t>(At(left, top + line))];
       for (int position = 1; position <= 4; ++position) {
-        row[position - 1] = shows_target[static_cast<std::size_t>(model::PairAt(byte, position))];
+        row[position - 1] = shows[static_cast<std::size_t>(model::PairAt(byte, position))];
       }
     }
   }
@@ -69,6 +69,7 @@ std::optional<BitPair> FloodFill::SlotIn(int cell) {
 }
 
 void FloodFill::Write(int x, int y) {
+  pixels_[static_cast<std::size_t>(At(x, y))] = Pixel::kVisited;
   const model::PixelPlace place = model::LookUpPixel(x, y);
   const auto slot = SlotIn(place.cell);
   if (!slot) return;
@@ -77,9 +78,9 @@ void FloodFill::Write(int x, int y) {
 }
 
 void FloodFill::KeepFilling(int x, int y, Letter letter) {
-  const int place = At(x, y);
-  if (!is_target_[static_cast<std::size_t>(place)]) return;
-  Write(x, y);
+  const Pixel pixel = pixels_[static_cast<std::size_t>(At(x, y))];
+  if (pixel == Pixel::kOther) return;
+  if (pixel == Pixel::kTarget) Write(x, y);  // another visit would write the same again
   if (letter != kV) Store(x + 1, y, kH);
   if (letter != kH) Store(x - 1, y, kV);
   if (letter != kN) Store(x, y - 1, kU);
@@ -88,8 +89,8 @@ void FloodFill::KeepFilling(int x, int y, Letter letter) {
 
 void FloodFill::Store(int x, int y, Letter letter) {
   const int place = At(x, y);
-  if (!is_target_[static_cast<std::size_t>(place)] || FinnsFill(place)) return;
-  if (count_ == kMostEntries) throw std::length_error("the fill has more than 128000 pixels to visit");
+  if (pixels_[static_cast<std::size_t>(place)] == Pixel::kOther || FinnsFill(place)) return;
+  if (count_ == kMostEntries) throw FillQueueFull("the fill has more than 128000 pixels to visit");
   (*queue_)[static_cast<std::size_t>(++count_)] = {static_cast<std::uint8_t>(x), static_cast<std::uint8_t>(y), letter};
   last_index_[static_cast<std::size_t>(place)] = count_;
 }

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <stdexcept>
 
 #include "app/process_events.h"
 #include "model/bit_pair.h"
@@ -13,18 +14,25 @@
 
 namespace kelvo::editing {
 
+// The queue of a fill has no room for another pixel.
+class FillQueueFull : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
 enum class FullCellInFill { kKeep, kReplaceLeastUsed };
 
 // Works on 4-connected pixels, breadth first: right, left, up, down of each. Every pixel is judged by the picture as it
 // was before the fill, so a filled pixel still reads as the target colour; only a window of the last 1000 queue entries
-// keeps pixels from being visited again, and later visits write the same value again.
+// keeps pixels from being visited again. Where a fill spreads over many branches at once, the window is too short: the
+// fill then runs to and fro until its queue is full.
 class FloodFill {
  public:
   FloodFill(model::PictureImage& picture, model::PictureViews& views, app::ProcessEvents& events);
 
   // Fills from x (1..160), y (1..200) with `colour`. Cells without room keep their pixels and the fill passes through
-  // them; with kReplaceLeastUsed a background region takes over their least used slot. Throws std::length_error when
-  // the queue (128000 entries) is full: what was filled so far stays.
+  // them; with kReplaceLeastUsed a background region takes over their least used slot. The views hear of each written
+  // pixel once. Throws FillQueueFull when the queue (128000 entries) is full: what was filled so far stays.
   void Fill(int x, int y, model::C64Colour colour, FullCellInFill full_cell);
 
  private:
@@ -35,6 +43,8 @@ class FloodFill {
     std::uint8_t x, y;
     Letter letter;
   };
+
+  enum class Pixel : std::uint8_t { kOther, kTarget, kVisited };  // kTarget: of the target colour, not visited yet
 
   static constexpr int kMostEntries = 128000, kWindow = 1000, kEntriesBetweenEvents = 8;
   static constexpr int kStride = model::PictureImage::kWidth + 2;  // a rim of one pixel around the picture
@@ -56,8 +66,8 @@ class FloodFill {
   model::C64Colour colour_;
   bool replaces_ = false;
 
-  // A pixel of the target colour, by At(); nothing on the rim.
-  std::array<bool, static_cast<std::size_t>(kStride*(model::PictureImage::kHeight + 2))> is_target_{};
+  // By At(); kOther on the rim.
+  std::array<Pixel, static_cast<std::size_t>(kStride*(model::PictureImage::kHeight + 2))> pixels_{};
   // The last queue index of a pixel, by At(); 0 for none. It answers FinnsFill without a search.
   std::array<int, static_cast<std::size_t>(kStride*(model::PictureImage::kHeight + 2))> last_index_{};
   // The slot that the colour takes in each cell, found once: all pixels of a fill ask the same question of a cell.

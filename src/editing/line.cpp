@@ -1,17 +1,14 @@
 #include "editing/line.h"
 
 #include <algorithm>
-#include <cmath>
 #include <cstdlib>
+
+#include "editing/rounding.h"
 
 namespace kelvo::editing {
 namespace {
 
 constexpr double kBias = 0.01;
-
-int Round(double value) {
-  return static_cast<int>(std::nearbyint(value));
-}
 
 }  // namespace
 

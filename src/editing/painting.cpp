@@ -61,7 +61,8 @@ void Painting::ChooseTool(int index) {
 }
 
 void Painting::Press(const PointerEvent& event) {
-  if (busy_ || stroke_) return;
+  if (busy_ || (stroke_ && stroke_->button != event.button)) return;
+  stroke_.reset();  // a button that goes down again had been released where nobody saw it
   const BusyScope busy(busy_);
   if (Active().Press(event) == PressResult::kStroke) stroke_ = event;
 }

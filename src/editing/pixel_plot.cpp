@@ -12,11 +12,15 @@ namespace {
 using model::BitPair;
 using model::PictureImage;
 
-std::optional<BitPair> SlotFor(const PictureImage& picture, const model::PixelPlace& place, model::C64Colour pen) {
+std::optional<BitPair> SlotShowing(const PictureImage& picture, int cell, model::C64Colour pen) {
   if (pen == picture.BackgroundColour) return BitPair::k00;
   for (const BitPair slot : model::kOwnSlots) {
-    if (model::ColourInCell(picture, place.cell, slot) == pen) return slot;
+    if (model::ColourInCell(picture, cell, slot) == pen) return slot;
   }
+  return std::nullopt;
+}
+
+std::optional<BitPair> FreeSlot(const PictureImage& picture, const model::PixelPlace& place) {
   for (const BitPair slot : model::kOwnSlots) {
     if (!IsColorUsed(picture, place.base, slot) ||
         model::ColourInCell(picture, place.cell, slot) == picture.BackgroundColour) {
@@ -31,7 +35,12 @@ std::optional<BitPair> SlotFor(const PictureImage& picture, const model::PixelPl
 PlotResult PlotPixel(PictureImage& picture, int x, int y, model::C64Colour pen, FullCell full_cell) {
   if (!model::IsInPicture(x, y)) return PlotResult::kOutside;
   const model::PixelPlace place = model::LookUpPixel(x, y);
-  if (const auto slot = SlotFor(picture, place, pen)) {
+  if (const auto slot = SlotShowing(picture, place.cell, pen)) {
+    // The pixel alone is written: what a file keeps in the high nibble of the cell's colour byte stays.
+    SetBits(picture, place.byte, place.position, *slot);
+    return PlotResult::kPlotted;
+  }
+  if (const auto slot = FreeSlot(picture, place)) {
     SetData(picture, place.byte, place.position, *slot, place.cell, pen);
     return PlotResult::kPlotted;
   }

@@ -22,9 +22,13 @@ void SetSlotColour(model::PictureImage& picture, int cell, BitPair pair, model::
   }
 }
 
-void SetData(model::PictureImage& picture, int byte, int position, BitPair pair, int cell, model::C64Colour colour) {
+void SetBits(model::PictureImage& picture, int byte, int position, BitPair pair) {
   std::uint8_t& bits = picture.Bitmap.at(static_cast<std::size_t>(byte));
   bits = model::WithPairAt(bits, position, pair);
+}
+
+void SetData(model::PictureImage& picture, int byte, int position, BitPair pair, int cell, model::C64Colour colour) {
+  SetBits(picture, byte, position, pair);
   SetSlotColour(picture, cell, pair, colour);
 }
 

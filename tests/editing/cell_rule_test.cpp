@@ -133,6 +133,14 @@ TEST(PlotPixel, RecoloursTheClickedSlotOfAFullCell) {
   EXPECT_EQ(after, before);
 }
 
+TEST(PlotPixel, KeepsWhatAFileHasInTheHighNibbleOfAColourByte) {
+  PictureImage picture = PictureWithCell(kCell, kAllSlots, 0xF5, 2, 3, 0);
+  PictureImage expected = picture;
+  EXPECT_EQ(PlotPixel(picture, kX, kY, Colour(5), FullCell::kRefuse), PlotResult::kPlotted);
+  expected.Bitmap[static_cast<std::size_t>(model::BaseOfCell(kCell)) + 1] = 0xDB;
+  EXPECT_EQ(picture, expected);
+}
+
 TEST(PlotPixel, TakesFreeSlotsInOrder) {
   PictureImage picture = PictureWithCell(kCell, {}, 0, 0, 0, 0);
   for (const auto& [x, colour, pair] :

@@ -3,7 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include <deque>
+#include <algorithm>
+#include <set>
 
 #include "editing/cell_slots.h"
 #include "editing/set_data.h"
@@ -46,7 +47,8 @@ class LiteralFill {
     }
   }
 
-  std::vector<std::pair<int, int>> written;
+  std::vector<std::pair<int, int>> written;  // each pixel when it was written first
+  std::size_t Taken() const { return head_; }
 
  private:
   struct Entry {
@@ -65,7 +67,7 @@ class LiteralFill {
     if (!pair && on_background && replace_) pair = GetLeastUsedCol(before_, place.base);
     if (!pair) return;
     SetData(picture_, place.byte, place.position, *pair, place.cell, colour_);
-    written.push_back({x, y});
+    if (known_.insert({x, y}).second) written.push_back({x, y});
   }
 
   void Visit(int x, int y, char letter) {
@@ -80,9 +82,9 @@ class LiteralFill {
   void Store(int x, int y, char letter) {
     if (!IsTarget(x, y)) return;
     const std::size_t count = queue_.size() - 1, first = count > 1000 ? count - 1000 : 0;
-    for (std::size_t i = first; i <= count; ++i) {
-      if (queue_[i].x == x && queue_[i].y == y) return;
-    }
+    const Entry* begin = queue_.data();
+    if (std::any_of(begin + first, begin + count + 1, [=](const Entry& e) { return e.x == x && e.y == y; })) return;
+    if (count == 128000) throw FillQueueFull("");
     queue_.push_back({x, y, letter});
   }
 
@@ -90,7 +92,8 @@ class LiteralFill {
   const PictureImage before_;
   bool replace_;
   model::C64Colour colour_, target_;
-  std::deque<Entry> queue_;
+  std::vector<Entry> queue_;
+  std::set<std::pair<int, int>> known_;
   std::size_t head_ = 0;
 };
 
@@ -112,10 +115,20 @@ void CompareWithLiteral(const PictureImage& before, int x, int y, int colour, bo
   RecordingViews views;
   CountingEvents events;
   FloodFill fill(fast, views, events);
-  fill.Fill(x, y, Colour(colour), replace ? FullCellInFill::kReplaceLeastUsed : FullCellInFill::kKeep);
+  const auto ends = [&](auto&& work) {
+    try {
+      work();
+      return true;
+    } catch (const FillQueueFull&) {
+      return false;
+    }
+  };
+  const auto full_cell = replace ? FullCellInFill::kReplaceLeastUsed : FullCellInFill::kKeep;
   LiteralFill literal(slow, replace);
-  literal.Fill(x, y, Colour(colour));
+  EXPECT_EQ(ends([&] { fill.Fill(x, y, Colour(colour), full_cell); }),
+            ends([&] { literal.Fill(x, y, Colour(colour)); }));
   EXPECT_EQ(fast, slow);
+  EXPECT_EQ(events.count, static_cast<int>(literal.Taken()) / 8);
   EXPECT_EQ(views.pixels, literal.written);  // the same pixels in the same order
 }
 
@@ -132,6 +145,8 @@ TEST(FloodFill, EqualsTheLiteralRulesInContentAndOrder) {
   CompareWithLiteral(PictureImage{}, 80, 100, 5, false);
   CompareWithLiteral(PictureImage{}, 1, 200, 0, true);
   CompareWithLiteral(support::Maze(), 1, 1, 5, false);
+  CompareWithLiteral(support::Tree(), 80, 100, 5, false);    // fills the queue
+  CompareWithLiteral(support::Tree(84), 80, 100, 5, false);  // a window of 999 or 1001 entries takes other ways
 }
 
 TEST(FloodFill, PassesThroughAFullCellAndLeavesItAlone) {
@@ -154,6 +169,10 @@ TEST(FloodFill, PassesThroughAFullCellAndLeavesItAlone) {
   EXPECT_EQ(ColourAt(after, 77, 3), 9);
   EXPECT_EQ(ColourAt(after, 80, 1), 9);  // its least used slot, %11 of equals, took the colour with all its pixels
   EXPECT_EQ(ColourAt(after, 79, 1), 2);
+
+  const PictureImage recoloured = after;
+  fill.Fill(78, 1, Colour(8), FullCellInFill::kReplaceLeastUsed);  // not a background region: the full cell is kept
+  EXPECT_EQ(after, recoloured);
 }
 
 TEST(FloodFill, ASinglePixelStoresNothing) {

@@ -7,9 +7,10 @@
 
 #include "editing/pen_keys.h"
 #include "editing/preferences.h"
-#include "support/painted.h"
+#include "support/mazes.h"
 #include "support/pictures.h"
 #include "support/recorders.h"
+#include "support/temp_folder.h"
 
 namespace kelvo::editing {
 namespace {
@@ -34,6 +35,13 @@ class NestedMessages final : public app::Messages {
   app::UnsavedAnswer AskUnsaved(std::string_view) override { return app::UnsavedAnswer::kCancel; }
   support::Lines texts;
   std::function<void()> while_open;
+};
+
+class CountingPointer final : public app::WaitPointer {
+ public:
+  void Show() override { ++shown; }
+  void Hide() override { ++hidden; }
+  int shown = 0, hidden = 0;
 };
 
 class NestedEvents final : public app::ProcessEvents {
@@ -71,9 +79,10 @@ class PaintingTest : public testing::Test {
   support::MapSettings settings;
   NestedMessages messages;
   NestedEvents events;
-  support::NoWaitPointer pointer;
+  CountingPointer pointer;
+  support::TempFolder folder;
   support::FixedClock clock;
-  app::ErrorLog log{"", clock};
+  app::ErrorLog log{folder / "log.txt", clock};
   Painting painting{picture, {views, settings, messages, events, pointer, log}};
 };
 
@@ -107,6 +116,48 @@ TEST_F(PaintingTest, AStrokeEndsWithItsButton) {
   painting.Move({158, 8}, true);
   EXPECT_EQ(ColourAt(picture, 160, 5), 5);
   EXPECT_EQ(ColourAt(picture, 159, 8), 5);
+  Press({20, 100});  // the same button again: its release was lost
+  EXPECT_EQ(CountOf(5), 10);
+  painting.ChooseTool(kBlockFill);
+  painting.Move({30, 100}, true);
+  EXPECT_EQ(CountOf(5), 10);
+}
+
+TEST_F(PaintingTest, PreferencesDecideWhatAFullCellDoes) {
+  struct Case {
+    const app::Setting& preference;
+    int tool;
+    const char* stored;
+    int at_press, beside;  // the colours after it
+  };
+  for (const Case& c : {Case{k4thColReplaces, kDraw, "", 5, 1},
+                        {k4thColReplaces, kDraw, "1", 5, 1},
+                        {k4thColReplaces, kDraw, "0", 2, 1},
+                        {kReplaceLeastUsedColWhenFilling, kFill, "", 0, 1},
+                        {kReplaceLeastUsedColWhenFilling, kFill, "0", 0, 1},
+                        {kReplaceLeastUsedColWhenFilling, kFill, "1", 5, 5}}) {
+    SCOPED_TRACE(testing::Message() << c.tool << " with " << c.stored);
+    settings.values.clear();
+    if (*c.stored != 0) settings.Write(c.preference, c.stored);
+    support::SetCell(picture, 1, support::kAllSlots, 1, 2, 3);
+    const int x = c.tool == kDraw ? 3 : 1;
+    painting.ChooseTool(c.tool);
+    Click({x, 8});
+    EXPECT_EQ(ColourAt(picture, x, 8), c.at_press);
+    EXPECT_EQ(ColourAt(picture, 4, 8), c.beside);
+  }
+}
+
+TEST_F(PaintingTest, AStillPointerIsToldOnce) {
+  settings.Write(k4thColReplaces, "0");
+  support::SetCell(picture, 1, support::kAllSlots, 1, 2, 3);
+  Press({5, 1});
+  for (int i = 0; i < 3; ++i) painting.Move({1, 1}, true);
+  painting.Move({2, 1}, true);
+  EXPECT_EQ(messages.texts.size(), 2U);
+  Press({1, 1});  // its release was lost, and the new press is refused: no stroke is left
+  painting.Move({9, 1}, true);
+  EXPECT_EQ(CountOf(5), 1);
 }
 
 TEST_F(PaintingTest, ARefusalIsToldOncePerEventAndNothingPlotsMeanwhile) {
@@ -140,6 +191,7 @@ TEST_F(PaintingTest, LinesAreDrawnAtTheNextTickAndChainInOneStep) {
   EXPECT_EQ(painting.Preview({13, 10}), DrawLine({10, 10}, {13, 10}));
   painting.Move({90, 90}, true);
   Click({13, 10});
+  Click({90, 10});  // before the tick: both points are set
   EXPECT_EQ(CountOf(5), 0);
   painting.Tick();
   EXPECT_EQ(CountOf(5), 3);  // with the left pen, whatever the button
@@ -165,6 +217,7 @@ TEST_F(PaintingTest, CirclesAskForCentreThenRadius) {
   EXPECT_EQ(painting.Prompt(), "SET RADIUS POINT");
   const Points preview = painting.Preview({80, 110});
   Click({80, 110});
+  Click({1, 1});
   painting.Tick();
   EXPECT_EQ(painting.Prompt(), "SET CENTER POINT");
   EXPECT_EQ(painting.UndoData().Caption(), "Undo circle");
@@ -225,6 +278,36 @@ TEST_F(PaintingTest, BlockFillTakesTheLeftPenWithEitherButton) {
   for (const int cell : {1, 41}) support::SetCell(expected, cell, {255, 255, 255, 255, 255, 255, 255, 255}, 5, 0, 0);
   EXPECT_EQ(picture, expected);
   EXPECT_EQ(painting.UndoData().Caption(), "Undo block fill");
+  painting.PenColours() = {};
+  Drag({1, 9}, {-9, 9});  // the same cell in another stroke, and out of the picture
+  expected.ColourMemory[41] = 1;
+  EXPECT_EQ(picture, expected);
+}
+
+TEST_F(PaintingTest, FillsTakeThePenOfTheButtonAndShowTheirEnd) {
+  painting.ChooseTool(kFill);
+  for (int colour = 15; colour > 8; --colour) {
+    painting.PenColours() = {Colour(3), Colour(colour)};
+    Click({80, 100}, Button::kRight);
+    EXPECT_EQ(CountOf(colour), 32000);
+  }
+  EXPECT_EQ(pointer.shown, 7);
+  EXPECT_EQ(pointer.hidden, 7);
+  EXPECT_EQ(views.pictures, 7);
+  EXPECT_FALSE(std::filesystem::exists(folder / "log.txt"));
+}
+
+TEST_F(PaintingTest, AFillThatOutgrowsItsQueueIsLoggedAndCanBeUndone) {
+  picture = support::Tree();
+  const PictureImage before = picture;
+  painting.ChooseTool(kFill);
+  Click({80, 100});
+  EXPECT_GT(CountOf(5), 8000);
+  EXPECT_EQ(views.pictures, 1);
+  const app::Bytes log_bytes = support::ReadFile(folder / "log.txt");
+  EXPECT_NE(std::string(log_bytes.begin(), log_bytes.end()).find("MDIFormMenu_FloodFill"), std::string::npos);
+  painting.Undo();
+  EXPECT_EQ(picture, before);
 }
 
 TEST_F(PaintingTest, NothingElseStartsInsideAFill) {
@@ -253,20 +336,51 @@ TEST_F(PaintingTest, UndoRestoresEveryByteButTheBackground) {
     return PixelPoint{static_cast<int>(random() % 160) + 1, static_cast<int>(random() % 200) + 1};
   };
   picture = support::RandomPicture(8);
-  for (int round = 0; round < 60; ++round) {
-    painting.ChooseTool(static_cast<int>(random() % 7) + 1);
+  int changes = 0;
+  for (int round = 0; round < 140; ++round) {
+    const int tool = round % 7 + 1;
+    painting.ChooseTool(tool);
     painting.PenColours().left = Colour(static_cast<int>(random() % 16));
+    if (tool == kMouseCopy) Click(at(), Button::kRight);
     const PictureImage before = picture;
     Drag(at(), at());
-    Click(at());
-    if (painting.ToolIndex() <= kFill) continue;  // two actions
+    if (tool == kLine || tool == kContinuousLine || tool == kCircle) Click(at());
     painting.Tick();
+    changes += picture != before;
     PictureImage expected = before;
-    if (painting.ToolIndex() >= kMouseCopy) continue;
     picture.BackgroundColour = expected.BackgroundColour = Colour(round % 16);
+    views.pictures = 0;
     painting.Undo();
-    EXPECT_EQ(picture, expected) << "tool " << painting.ToolIndex();
+    EXPECT_EQ(picture, expected) << "tool " << tool;
+    EXPECT_EQ(views.pictures, 1);
   }
+  EXPECT_GT(changes, 100);
+}
+
+TEST_F(PaintingTest, UndoTakesAnUnfinishedShapeWithItAndAnotherPictureTakesAll) {
+  for (const bool another : {false, true}) {
+    painting.ChooseTool(kContinuousLine);
+    Click({10, 10});
+    another ? painting.Forget() : painting.Undo();
+    EXPECT_FALSE(painting.UndoData().CanUndo());
+    Click({20, 10});
+    painting.Tick();
+    EXPECT_EQ(CountOf(5), 0);
+  }
+  painting.ChooseTool(kDraw);
+  Press({1, 1});
+  painting.Undo();  // in mid-stroke: passed over
+  EXPECT_EQ(CountOf(5), 1);
+  painting.Forget();
+  painting.Move({9, 1}, true);
+  EXPECT_EQ(CountOf(5), 1);
+}
+
+TEST(Pens, BeginWhiteOnBlackAndSwap) {
+  Pens pens;
+  pens.Swap();
+  EXPECT_EQ(pens.Of(Button::kLeft), Colour(0));
+  EXPECT_EQ(pens.Of(Button::kRight), Colour(1));
 }
 
 TEST(PenKeys, CoverAllColours) {

@@ -1,7 +1,7 @@
 // The points of lines and circles.
 #include <gtest/gtest.h>
 
-#include <cmath>
+#include <algorithm>
 
 #include "editing/circle.h"
 #include "editing/line.h"
@@ -14,7 +14,8 @@ TEST(Line, LeavesItsEndToTheNextSegment) {
   EXPECT_EQ(DrawLine({5, 5}, {5, 5}), Points());
   EXPECT_EQ(DrawLine({1, 1}, {4, 2}), (Points{{1, 1}, {2, 1}, {3, 2}}));
   EXPECT_EQ(DrawLine({4, 2}, {1, 1}), (Points{{4, 2}, {3, 2}, {2, 1}}));
-  EXPECT_EQ(DrawLine({1, 1}, {2, 5}), (Points{{1, 1}, {1, 2}, {2, 3}, {2, 4}}));  // the half rounds upwards
+  EXPECT_EQ(DrawLine({1, 1}, {2, 5}), (Points{{1, 1}, {1, 2}, {2, 3}, {2, 4}}));
+  EXPECT_EQ(DrawLine({2, 1}, {3, 3}), (Points{{2, 1}, {3, 2}}));  // the half rounds upwards, not to the even neighbour
 }
 
 TEST(Path, HasNoHolesAndEndsWhereThePointerIs) {
@@ -47,9 +48,12 @@ TEST(Circle, RadiusIsMeasuredInColumns) {
 TEST(Circle, SamplesColumnsInsideThePicture) {
   EXPECT_EQ(DrawCircle({80, 100}, 0), (Points{{80, 100}, {80, 100}}));
   EXPECT_EQ(DrawCircle({80, 100}, 1), (Points{{79, 100}, {79, 100}, {80, 102}, {80, 98}, {81, 100}, {81, 100}}));
-  for (const model::PixelPoint& point : DrawCircle({2, 3}, 20)) {
-    EXPECT_GE(point.x, 1);
-    EXPECT_LE(point.y, 200);
+  const Points six = DrawCircle({80, 100}, 6);
+  EXPECT_NE(std::find(six.begin(), six.end(), model::PixelPoint{84, 110}), six.end());  // 4.47 counts as a half
+  for (const model::PixelPoint& centre : {model::PixelPoint{2, 3}, {155, 195}}) {
+    for (const model::PixelPoint& point : DrawCircle(centre, 20)) {
+      EXPECT_TRUE(point.x >= 1 && point.x <= 160 && point.y <= 200) << point.x << ", " << point.y;
+    }
   }
 }
 
