@@ -40,8 +40,11 @@ class PaintingDesk : public QObject, private optimise::CellDisplay {
   // A key was released in the main window or a child window of it. True when it meant something.
   bool HandleKeyUp(int key, Qt::KeyboardModifiers modifiers);
 
-  // The window went to the background: a stroke under way ends.
-  void LoseFocus() { painting_.Release(); }
+  // The window went to the background: a stroke under way ends. A message box that the stroke itself called up is no
+  // such case: the button may still be held when it closes.
+  void LoseFocus() {
+    if (!painting_.IsBusy()) painting_.Release();
+  }
 
   // The whole-picture passes, with the progress bar of the full view.
   void OptimizeBackgroundColor();

@@ -107,9 +107,12 @@ TEST_F(PaintingWindowTest, AFullCellIsRefusedOnlyWhenThePreferenceSaysSo) {
   }
   Key(Qt::Key_5);
   AnswerNext(QMessageBox::Ok);
-  Click(4, 1);
+  Press(4, 1);
   EXPECT_EQ(box_text, "Not possible - all colors used");
   EXPECT_EQ(Colour(4, 1), 0);
+  MoveTo(6, 1, Qt::LeftButton);  // the stroke outlives the box
+  Release(6, 1);
+  EXPECT_EQ(Colour(6, 1), 4);
 
   QTimer::singleShot(0, [this] {
     QWidget* dialog = QApplication::activeModalWidget();
