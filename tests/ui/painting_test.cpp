@@ -107,12 +107,13 @@ TEST_F(PaintingWindowTest, AFullCellIsRefusedOnlyWhenThePreferenceSaysSo) {
   }
   Key(Qt::Key_5);
   AnswerNext(QMessageBox::Ok);
-  Press(4, 1);
+  Press(5, 1);
+  MoveTo(4, 1, Qt::LeftButton);
   EXPECT_EQ(box_text, "Not possible - all colors used");
   EXPECT_EQ(Colour(4, 1), 0);
-  MoveTo(6, 1, Qt::LeftButton);  // the stroke outlives the box
-  Release(6, 1);
-  EXPECT_EQ(Colour(6, 1), 4);
+  MoveTo(7, 1, Qt::LeftButton);  // the stroke outlives the box
+  Release(7, 1);
+  EXPECT_EQ(Colour(7, 1), 4);
 
   QTimer::singleShot(0, [this] {
     QWidget* dialog = QApplication::activeModalWidget();
