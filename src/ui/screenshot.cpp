@@ -2,6 +2,7 @@
 
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QPainter>
 #include <QSaveFile>
 #include <QStringList>
 #include <array>
@@ -44,7 +45,8 @@ void SaveScreenshot(const QImage& picture, const QString& path, qsizetype filter
   const ImageFormat& format = kFormats.at(static_cast<std::size_t>(filter) / kSizes.size());
   const int size = kSizes.at(static_cast<std::size_t>(filter) % kSizes.size());
   QSaveFile file(QFileInfo(path).suffix().isEmpty() ? path + format.ending : path);
-  const QImage scaled = picture.scaled(picture.size() * size, Qt::KeepAspectRatio, Qt::FastTransformation);
+  QImage scaled(picture.size() * size, QImage::Format_RGB32);
+  QPainter(&scaled).drawImage(scaled.rect(), picture);
   if (!file.open(QIODevice::WriteOnly) || !scaled.save(&file, format.qt_name, kBestQuality) || !file.commit()) {
     throw std::runtime_error(FromQt(file.fileName() + ": it cannot be written: " + file.errorString()));
   }
