@@ -16,6 +16,13 @@ bool CanWriteIn(const fs::path& folder) {
   return written;
 }
 
+void CopyFiles(const fs::path& from, const fs::path& to, fs::copy_options if_there) {
+  std::error_code ignored;
+  for (const fs::directory_entry& entry : fs::directory_iterator(from, ignored)) {
+    fs::copy(entry.path(), to / entry.path().filename(), if_there, ignored);
+  }
+}
+
 }  // namespace
 
 void ProgramFolders::Create() const {
@@ -24,13 +31,8 @@ void ProgramFolders::Create() const {
 }
 
 void ProgramFolders::Seed(const fs::path& shipped) const {
-  std::error_code error;
-  for (const char* folder : {"SYSTEM", "GFX"}) {
-    for (const fs::directory_entry& entry : fs::directory_iterator(shipped / folder, error)) {
-      std::error_code ignored;
-      fs::copy(entry.path(), root_ / folder / entry.path().filename(), fs::copy_options::skip_existing, ignored);
-    }
-  }
+  CopyFiles(shipped / "SYSTEM", System(), fs::copy_options::update_existing);
+  CopyFiles(shipped / "GFX", Gfx(), fs::copy_options::skip_existing);
 }
 
 std::filesystem::path ChooseProgramFolder(const fs::path& executable_folder, const fs::path& user_folder) {

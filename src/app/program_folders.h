@@ -21,7 +21,8 @@ class ProgramFolders {
   // Makes SYSTEM, BACKUP and GFX. Folders that are there already, or cannot be made, are no error.
   void Create() const;
 
-  // Copies what is shipped under `shipped`/SYSTEM and `shipped`/GFX to here, leaving alone what is here already.
+  // Copies what is shipped under `shipped`/SYSTEM and `shipped`/GFX to here. Pictures that are here already are left
+  // alone; tools and templates, which belong together, are replaced by newer ones.
   void Seed(const std::filesystem::path& shipped) const;
 
  private:

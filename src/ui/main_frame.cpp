@@ -61,7 +61,8 @@ MainFrame::MainFrame(const app::ProgramFolders& folders, app::SettingsStore& set
       files_(document_, {folders, settings, clock, log_, messages_, prompt_, pointer_, dialogs_, *this, views_}),
       desk_(document_, {views_, settings, messages_, events_, pointer_, log_},
             {*full_view_, *zoom_, *colors_, *pens_, *char_data_, *Toolbar1_}),
-      animation_({settings, messages_, document_, files_}, *this, *full_view_, *zoom_) {
+      animation_({settings, messages_, document_, files_}, *this, *full_view_, *zoom_),
+      builds_({folders, settings, clock, log_, messages_, prompt_, document_, files_}, this) {
   setObjectName("MDIFormMenu");
   area_->setObjectName("mdiArea");
   setCentralWidget(area_);
@@ -74,6 +75,7 @@ MainFrame::MainFrame(const app::ProgramFolders& folders, app::SettingsStore& set
   MakeRecentMenu();
   ConnectDesk();
   ConnectAnimation();
+  ConnectBuilds();
   Timer1_->setObjectName("Timer1");
   connect(Timer1_, &QTimer::timeout, this, &MainFrame::Timer1_Timer);
 }
@@ -152,6 +154,20 @@ void MainFrame::ConnectAnimation() {
           [this](const QString& word) { statusBar()->showMessage(word, kWordMilliseconds); });
 }
 
+void MainFrame::ConnectBuilds() {
+  connect(&builds_, &BuildDesk::StateChanged, this, &MainFrame::RefreshMenus);
+  connect(&builds_, &BuildDesk::Ended, this, &MainFrame::BuildEnded);
+  connect(&prompt_, &PromptLines::Added, this, [this](const QModelIndex& line) {
+    if (builds_.IsBuilding()) statusBar()->showMessage(line.data().toString() + "   (Escape stops the build)");
+  });
+}
+
+// The prompt is the build log: it comes forward when there is something to read in it.
+void MainFrame::BuildEnded(bool well) {
+  statusBar()->showMessage(well ? "Build complete" : "Build failed", kWordMilliseconds);
+  if (!well && !IsWindowShown(ChildWindowId::kPrompt)) ToggleWindow(ChildWindowId::kPrompt);
+}
+
 void MainFrame::ProcessCommand(const QString& line) {
   last_command_ = line;
   command::ProcessCommand(FromQt(line), {folders_, document_, files_, prompt_, animation_.Mode()});
@@ -171,6 +187,7 @@ void MainFrame::StartUp() {
   SetGridColor(app::ReadNumber(settings_, app::kGridColor, 0, model::C64Colour::kCount - 1));
   Timer1_->start(kTimerMilliseconds);
   ShowFile(document_.file);
+  builds_.LookForVice();
   folders_.Create();
   std::error_code ignored;
   std::filesystem::remove(folders_.Snapshot(), ignored);  // so that the first save makes no backup
@@ -261,6 +278,7 @@ bool MainFrame::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void MainFrame::keyReleaseEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Escape && builds_.IsBuilding()) return builds_.Stop();
   const QWidget* focus = focusWidget();
   const bool in_tool_window =
       colors_->isAncestorOf(focus) || char_data_->isAncestorOf(focus) || pens_->isAncestorOf(focus);
@@ -290,6 +308,7 @@ void MainFrame::closeEvent(QCloseEvent* event) {
   settings_.Write(app::kGridColor, std::to_string(zoom_->GridColor().Number()));
   settings_.Write(app::kMagnification, menu_.Action("mnuZoom_4X")->isChecked() ? "4" : "8");
   KeepPlaces(settings_, *this, children_);
+  builds_.LeaveAll();
   event->accept();
 }
 

@@ -12,6 +12,7 @@
 #include "app/settings_store.h"
 #include "files/picture_files.h"
 #include "ui/animation_desk.h"
+#include "ui/build_desk.h"
 #include "ui/child_window.h"
 #include "ui/choice_menu.h"
 #include "ui/event_pump.h"
@@ -68,6 +69,8 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   void ShowSpriteConverter();
   void ArrangeWindows();
 
+  BuildDesk& Builds() { return builds_; }
+  const BuildDesk& Builds() const { return builds_; }
   AnimationDesk& Animation() { return animation_; }
   const AnimationDesk& Animation() const { return animation_; }
   void ProcessCommand(const QString& line);
@@ -93,6 +96,8 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   void AddChild(ChildWindowId id, QWidget* form, QPoint place, bool is_shown = true);
   void MakeChildren();
   void ConnectAnimation();
+  void ConnectBuilds();
+  void BuildEnded(bool well);
   void GiveFocusToPicture();
   void MakeChoiceMenus();
   void MakeRecentMenu();
@@ -134,6 +139,7 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   files::PictureFiles files_;
   PaintingDesk desk_;
   AnimationDesk animation_;
+  BuildDesk builds_;
   frmBMP2SpriteMain* sprite_converter_ = nullptr;  // made when it is first asked for
 };
 

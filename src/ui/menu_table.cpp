@@ -2,6 +2,7 @@
 
 #include <iterator>
 
+#include "c64out/compo_pic_entries.h"
 #include "ui/main_frame.h"
 
 namespace kelvo::ui {
@@ -17,6 +18,8 @@ constexpr MenuRow kMenus[] = {
     {"mnuZB", "mnuViewMenu", "Zoom &border", "How the border of the zoom window looks"},
     {"mnuFunctions", nullptr, "F&unctions", ""},
     {"mnuAnim", nullptr, "&Animation", ""},
+    {"mnuVICE", nullptr, "&VICE", ""},
+    {"mnuCodenet", nullptr, "&Codenet", ""},
     {"mnuHelp", nullptr, "&Help", ""},
 };
 
@@ -34,6 +37,22 @@ constexpr MenuEntry ZoomEntry(const char* name, const char* text, const char* ke
           text,    key,
           tip,     [](MainFrame& f) { f.SetMagnification(magnification); },
           nullptr, [](const MainFrame& f) { return f.Zoom().Area().Magnification() == magnification; }};
+}
+
+// Builds for the network need no emulator.
+template <std::size_t index>
+constexpr MenuEntry BuildEntry(const char* key = "") {
+  constexpr const c64out::CompoPicEntry& entry = c64out::kCompoPicEntries[index];
+  return {entry.name,
+          entry.choice.ViaCodenet ? "mnuCodenet" : "mnuVICE",
+          entry.text,
+          key,
+          entry.tip,
+          [](MainFrame& f) { f.Builds().BuildCompoPic(c64out::kCompoPicEntries[index].choice); },
+          [](const MainFrame& f) {
+            return !f.Builds().IsBuilding() &&
+                   (f.Builds().IsViceReady() || c64out::kCompoPicEntries[index].choice.ViaCodenet);
+          }};
 }
 
 constexpr MenuEntry Separator(const char* menu) {
@@ -104,6 +123,21 @@ constexpr MenuEntry kEntries[] = {
      [](const MainFrame& f) { return f.Animation().Mode().IsAnimModeChecked(); }},
     {"mnuAnimProperties", "mnuAnim", "Animation &properties...", "", "Where the frames are and how they are named",
      [](MainFrame& f) { f.Animation().ShowProperties(); }},
+
+    BuildEntry<0>("F6"),
+    BuildEntry<1>(),
+    BuildEntry<2>("F5"),
+    Separator("mnuVICE"),
+    {"mnuViceSettings", "mnuVICE", "VICE &settings...", "", "Where VICE is, and the program's name on a disk",
+     [](MainFrame& f) { f.Builds().ShowViceSettings(); }},
+    {"mnuStopBuild", "mnuVICE", "S&top build", "", "End the build that is at work (Escape)",
+     [](MainFrame& f) { f.Builds().Stop(); }, [](const MainFrame& f) { return f.Builds().IsBuilding(); }},
+
+    BuildEntry<3>(),
+    BuildEntry<4>(),
+    Separator("mnuCodenet"),
+    {"mnuCodenetSettings", "mnuCodenet", "&Codenet settings...", "",
+     "Where the C64 is, and the program's name on its disk", [](MainFrame& f) { f.Builds().ShowCodenetSettings(); }},
 
     {"mnuAbout", "mnuHelp", "&About Kelvo", "", "What this program is", [](MainFrame& f) { f.ShowAbout(); }},
 };

@@ -3,6 +3,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QPainter>
+#include <QPainter>
 #include <QSaveFile>
 #include <QStringList>
 #include <array>

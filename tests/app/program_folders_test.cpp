@@ -27,6 +27,24 @@ TEST(ProgramFolders, AreSeededWithoutTouchingTheUsersFiles) {
   EXPECT_TRUE(std::filesystem::is_directory(folders.Backup()));
 }
 
+TEST(ProgramFolders, TakeNewerToolsAndTemplates) {
+  const support::TempFolder folder;
+  std::filesystem::create_directories(folder / "shipped/SYSTEM");
+  const ProgramFolders folders(folder / "program");
+  folders.Create();
+  const auto now = std::filesystem::file_time_type::clock::now();
+  for (const char* name : {"newer", "older"}) {
+    support::WriteText(folder / "shipped/SYSTEM" / name, "shipped");
+    support::WriteText(folders.System() / name, "own");
+    last_write_time(folders.System() / name, now);
+  }
+  last_write_time(folder / "shipped/SYSTEM/newer", now + std::chrono::hours(1));
+  last_write_time(folder / "shipped/SYSTEM/older", now - std::chrono::hours(1));
+  folders.Seed(folder / "shipped");
+  EXPECT_EQ(support::ReadText(folders.System() / "newer"), "shipped");
+  EXPECT_EQ(support::ReadText(folders.System() / "older"), "own");
+}
+
 TEST(ProgramFolders, LieBesideTheProgramOnlyWhereThatCanBeWritten) {
   const support::TempFolder folder;
   EXPECT_EQ(ChooseProgramFolder(folder.Path(), "user"), folder.Path());

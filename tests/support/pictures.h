@@ -5,6 +5,8 @@
 #include <filesystem>
 #include <fstream>
 #include <random>
+#include <string>
+#include <string_view>
 #include <vector>
 
 #include "app/whole_file.h"
@@ -39,6 +41,15 @@ inline void WriteFile(const std::filesystem::path& path, const app::Bytes& bytes
 inline app::Bytes ReadFile(const std::filesystem::path& path) {
   std::ifstream stream(path, std::ios::binary);
   return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
+}
+
+inline void WriteText(const std::filesystem::path& path, std::string_view text) {
+  WriteFile(path, app::Bytes(text.begin(), text.end()));
+}
+
+inline std::string ReadText(const std::filesystem::path& path) {
+  const app::Bytes bytes = ReadFile(path);
+  return {bytes.begin(), bytes.end()};
 }
 
 }  // namespace kelvo::support

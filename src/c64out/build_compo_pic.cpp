@@ -1,0 +1,143 @@
+#include "c64out/build_compo_pic.h"
+
+#include "app/path_text.h"
+#include "app/whole_file.h"
+#include "c64out/codenet_ending.h"
+#include "c64out/disk_ending.h"
+#include "c64out/fill_template.h"
+#include "c64out/output_settings.h"
+#include "c64out/short_path.h"
+#include "c64out/vice_folder.h"
+#include "files/save_bitmap.h"
+
+namespace kelvo::c64out {
+namespace {
+
+// The build ends here without having failed: the user has been told by a message box.
+struct BuildGivenUp {};
+
+// `path` ends with `from`, which becomes `to`: the name of a tool's output beside its input.
+std::string WithEnding(const std::string& path, std::string_view from, std::string_view to) {
+  return path.ends_with(from) ? path.substr(0, path.size() - from.size()).append(to) : path;
+}
+
+void RequireEmulator(const BuildJob& job) {
+  const std::string folder = job.Setting(kVicePath);
+  if (folder.empty()) job.With().messages.Warn("VICE path must be specified");
+  if (FindEmulator(folder)) return;
+  job.With().messages.Warn("Invalid VICE path");
+  throw BuildGivenUp();
+}
+
+void Begin(const BuildJob& job) {
+  if (job.Choice().ViaCodenet) return job.Print("CODENET");
+  RequireEmulator(job);
+  job.Print(job.Choice().MakePrg ? "CREATING PRG" : "CREATING D64");
+}
+
+// Through the ordinary save, with its signature, backup and snapshot, but of a copy: the picture in memory keeps its
+// file and its unsaved work, and the dialogs their folder.
+void SavePicture(const BuildJob& job) {
+  const BuildSurroundings& with = job.With();
+  files::Document copy = job.Picture();
+  copy.file.CurrentFilePath = app::TextFromPath(job.Files().picture);
+  const std::string dialogs_folder = with.settings.Read(files::kFilePath);
+  const std::string trouble = files::SaveBitmap(copy, "", {with.folders, with.settings, with.clock});
+  with.settings.Write(files::kFilePath, dialogs_folder);
+  if (!trouble.empty()) with.log.Write("modVICEandCodenet_BuildCompoPic: " + trouble);
+}
+
+std::string ScreenColour(model::C64Colour background) {
+  constexpr std::string_view kDigits = "0123456789ABCDEF";
+  return {'0', kDigits[static_cast<std::size_t>(background.Number())]};
+}
+
+void FillViewer(const BuildJob& job) {
+  const WorkFiles& files = job.Files();
+  FillTemplate(job.System("bmpshow.src"), files.viewer_half_filled, "[bitmap]", ShortPath(files.picture),
+               job.Choice().ViaCodenet);
+  FillTemplate(files.viewer_half_filled, files.viewer_source, "[screencolor]",
+               ScreenColour(job.Picture().picture.BackgroundColour), job.Choice().ViaCodenet);
+  Remove(files.viewer_half_filled);
+}
+
+// The saved picture stays behind on purpose: only here.
+void RequireInterpreter(const BuildJob& job) {
+  if (job.With().runner.CanRun()) return;
+  job.With().messages.Warn("Can't find CMD.EXE");
+  Remove(job.Files().viewer_source);
+  job.Print("--> [err 908]");
+  throw BuildGivenUp();
+}
+
+void AssembleViewer(const BuildJob& job) {
+  const WorkFiles& files = job.Files();
+  const std::string source = ShortPath(files.viewer_source);
+  job.Make(files.viewer_object, job.System(ToolName("tass")), {source, WithEnding(source, ".tmp", ".obj")});
+  Remove(files.viewer_source);
+}
+
+void Crush(const BuildJob& job) {
+  const WorkFiles& files = job.Files();
+  const std::string object = ShortPath(files.viewer_object);
+  job.Make(files.viewer_packed, job.System(ToolName("crush")), {"6", object, WithEnding(object, ".obj", ".pak")});
+  Remove(files.viewer_object);
+  Remove(files.picture);
+}
+
+void AddDepacker(const BuildJob& job) {
+  const WorkFiles& files = job.Files();
+  FillTemplate(job.System("decrush.tas"), files.depacker_source, "[packedfile]", ShortPath(files.viewer_packed),
+               job.Choice().ViaCodenet);
+  const std::string source = ShortPath(files.depacker_source);
+  job.Make(files.program, job.System(ToolName("tass")), {source, WithEnding(source, "decrush.tmp", "bmpshow.prg")});
+  Remove(files.viewer_packed);
+  Remove(files.depacker_source);
+}
+
+void KeepProgram(const BuildJob& job) {
+  app::CopyWholeFile(job.Files().program, job.BesidePicture(".prg"));
+  job.Print("--> PRG complete.");
+}
+
+void End(const BuildJob& job) {
+  if (!job.Choice().MakePrg) return EndWithDisk(job);
+  if (!job.Choice().ViaCodenet) return KeepProgram(job);
+  // An older program beside the picture goes and is not replaced, on purpose: it no longer is what the C64 shows.
+  Remove(job.BesidePicture(".prg"));
+  EndWithCodenet(job);
+}
+
+void Build(const BuildJob& job) {
+  Begin(job);
+  job.Print("--> Compiling source");
+  SavePicture(job);
+  FillViewer(job);
+  RequireInterpreter(job);
+  AssembleViewer(job);
+  job.Print("--> Crushing source");
+  Crush(job);
+  job.Print("--> Adding depacker");
+  AddDepacker(job);
+  End(job);
+  Remove(job.Files().program);
+}
+
+}  // namespace
+
+bool BuildCompoPic(const files::Document& document, const CompoPicChoice& choice, const BuildSurroundings& with) {
+  const BuildJob job(document, choice, with);
+  try {
+    return app::Guarded(
+        with.log, "modVICEandCodenet_BuildCompoPic", [&] { Build(job); },
+        [&](const std::exception& error) {
+          job.Files().RemoveAll();
+          job.Print("--> " + std::string(error.what()));
+          if (dynamic_cast<const BuildStopped*>(&error) == nullptr) job.Print("--> [err 908]");
+        });
+  } catch (const BuildGivenUp&) {
+    return false;
+  }
+}
+
+}  // namespace kelvo::c64out

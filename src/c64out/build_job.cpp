@@ -1,0 +1,94 @@
+#include "c64out/build_job.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "app/path_text.h"
+#include "app/text.h"
+#include "c64out/short_path.h"
+
+namespace kelvo::c64out {
+namespace {
+
+namespace fs = std::filesystem;
+
+bool HoldsBytes(const fs::path& file) {
+  std::error_code error;
+  const auto size = fs::file_size(file, error);
+  return !error && size > 0;
+}
+
+}  // namespace
+
+WorkFiles::WorkFiles(const fs::path& system)
+    : picture(system / "temp.kvp"),
+      viewer_half_filled(system / "bmpshow.tmp1"),
+      viewer_source(system / "bmpshow.tmp"),
+      viewer_object(system / "bmpshow.obj"),
+      viewer_packed(system / "bmpshow.pak"),
+      depacker_source(system / "decrush.tmp"),
+      program(system / "bmpshow.prg"),
+      saver_source(system / "15x1save.tmp"),
+      saver(system / "15x1save.prg") {}
+
+void WorkFiles::RemoveAll() const {
+  for (const fs::path& file : {picture, viewer_half_filled, viewer_source, viewer_object, viewer_packed,
+                               depacker_source, program, saver_source, saver}) {
+    Remove(file);
+  }
+}
+
+BuildJob::BuildJob(const files::Document& document, const CompoPicChoice& choice, const BuildSurroundings& with)
+    : document_(document), choice_(choice), with_(with), files_(with.folders.System()) {}
+
+std::string BuildJob::Setting(const app::Setting& setting) const {
+  return std::string(app::Trimmed(with_.settings.Read(setting)));
+}
+
+std::string BuildJob::BaseName() const {
+  const std::string& name = document_.file.CurrentFileName;
+  const auto dot = name.rfind('.');
+  return dot == std::string::npos ? std::string() : name.substr(0, dot);
+}
+
+fs::path BuildJob::BesidePicture(std::string_view extension) const {
+  return app::PathFromText(app::FolderPart(document_.file.CurrentFilePath) + "/" + BaseName() + std::string(extension));
+}
+
+std::string BuildJob::DiskFileName(const app::Setting& name_setting) const {
+  std::string name = Setting(name_setting);
+  if (name.empty()) return BaseName();
+  std::replace(name.begin(), name.end(), ' ', '.');
+  return name;
+}
+
+void BuildJob::Run(RunMethod method, const fs::path& tool, std::vector<std::string> arguments) const {
+  const std::string name = app::TextFromPath(tool.filename());
+  const std::string path = ShortPath(tool);
+  if (path.empty()) throw std::runtime_error(name + ": there is no " + app::TextFromPath(tool));
+  const ToolResult result = (with_.runner.*method)({path, std::move(arguments)});
+  if (result.stopped) throw BuildStopped();
+  if (!result.failure.empty()) throw std::runtime_error(name + ": " + result.failure);
+}
+
+void BuildJob::Run(const fs::path& tool, std::vector<std::string> arguments) const {
+  Run(&ToolRunner::RunAndWait, tool, std::move(arguments));
+}
+
+void BuildJob::Make(const fs::path& output, const fs::path& tool, std::vector<std::string> arguments) const {
+  Remove(output);
+  Run(tool, std::move(arguments));
+  if (HoldsBytes(output)) return;
+  throw std::runtime_error(app::TextFromPath(tool.filename()) + ": left no " + app::TextFromPath(output.filename()));
+}
+
+void BuildJob::Show(const fs::path& program, std::vector<std::string> arguments) const {
+  Run(&ToolRunner::ShowAndWait, program, std::move(arguments));
+}
+
+void Remove(const fs::path& file) {
+  std::error_code ignored;
+  fs::remove(file, ignored);
+}
+
+}  // namespace kelvo::c64out

@@ -1,0 +1,93 @@
+// One build while it runs: what it works with, and how its tools are run and checked.
+#pragma once
+
+#include <filesystem>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "app/clock.h"
+#include "app/error_log.h"
+#include "app/messages.h"
+#include "app/program_folders.h"
+#include "app/settings_store.h"
+#include "c64out/compo_pic_entries.h"
+#include "c64out/tool_runner.h"
+#include "files/document.h"
+
+namespace kelvo::c64out {
+
+// What builds work with; all of it outlives them.
+struct BuildSurroundings {
+  const app::ProgramFolders& folders;
+  app::SettingsStore& settings;
+  const app::Clock& clock;
+  const app::ErrorLog& log;
+  app::Messages& messages;
+  app::PromptOutput& prompt;
+  ToolRunner& runner;
+};
+
+// The user stopped the build.
+class BuildStopped : public std::runtime_error {
+ public:
+  BuildStopped() : std::runtime_error("Build stopped.") {}
+};
+
+// The work files of a build, all in SYSTEM.
+struct WorkFiles {
+  explicit WorkFiles(const std::filesystem::path& system);
+  // Removes all that are there.
+  void RemoveAll() const;
+
+  std::filesystem::path picture, viewer_half_filled, viewer_source, viewer_object, viewer_packed, depacker_source,
+      program, saver_source, saver;
+};
+
+class BuildJob {
+ public:
+  // `document` is the picture as it is when the build begins, with its file.
+  BuildJob(const files::Document& document, const CompoPicChoice& choice, const BuildSurroundings& with);
+
+  const files::Document& Picture() const { return document_; }
+  const CompoPicChoice& Choice() const { return choice_; }
+  const BuildSurroundings& With() const { return with_; }
+  const WorkFiles& Files() const { return files_; }
+
+  std::filesystem::path System(const std::filesystem::path& name) const { return with_.folders.System() / name; }
+  void Print(std::string_view line) const { with_.prompt.CommandPromptList(line); }
+
+  // A setting, trimmed of surrounding blanks.
+  std::string Setting(const app::Setting& setting) const;
+
+  // The picture's name without its extension: everything from the last "." on goes. A name without a "." gives an empty
+  // text, on purpose.
+  std::string BaseName() const;
+  // The file beside the picture that has its base name and `extension`.
+  std::filesystem::path BesidePicture(std::string_view extension) const;
+  // The name on the C64's disk: `name_setting` with every blank replaced by ".", or the base name where none is set.
+  std::string DiskFileName(const app::Setting& name_setting) const;
+
+  // Runs a tool and checks it. Throws BuildStopped, or std::runtime_error naming the tool and what it said when it is
+  // missing, cannot be started or fails.
+  void Run(const std::filesystem::path& tool, std::vector<std::string> arguments) const;
+  // The same for a tool that makes a file: also throws when that is not there afterwards.
+  void Make(const std::filesystem::path& output, const std::filesystem::path& tool,
+            std::vector<std::string> arguments) const;
+  // The same for a program that the user looks at.
+  void Show(const std::filesystem::path& program, std::vector<std::string> arguments) const;
+
+ private:
+  using RunMethod = ToolResult (ToolRunner::*)(const ToolCommand&);
+  void Run(RunMethod method, const std::filesystem::path& tool, std::vector<std::string> arguments) const;
+
+  const files::Document& document_;
+  CompoPicChoice choice_;
+  BuildSurroundings with_;
+  WorkFiles files_;
+};
+
+// Removes a file; one that is not there, or cannot be removed, is left alone.
+void Remove(const std::filesystem::path& file);
+
+}  // namespace kelvo::c64out

@@ -1,0 +1,51 @@
+#include "c64out/disk_ending.h"
+
+#include "app/path_text.h"
+#include "app/whole_file.h"
+#include "c64out/output_settings.h"
+#include "c64out/set_aside.h"
+#include "c64out/short_path.h"
+#include "c64out/vice_folder.h"
+
+namespace kelvo::c64out {
+namespace {
+
+constexpr int kNameCharacters = 16;
+
+// The first characters of a UTF-8 text.
+std::string_view First(std::string_view text, int characters) {
+  std::size_t end = 0;
+  for (; characters > 0 && end < text.size(); --characters) {
+    do ++end;
+    while (end < text.size() && (static_cast<unsigned char>(text[end]) & 0xC0) == 0x80);
+  }
+  return text.substr(0, end);
+}
+
+void RequireNoOption(const std::string& name) {
+  if (!name.starts_with('-')) return;
+  throw std::runtime_error("c1541: takes a name that begins with - for a command; set a PRG name in the VICE settings");
+}
+
+}  // namespace
+
+std::string NameOnDisk(std::string_view name) {
+  return std::string(First(app::ToLower(name), kNameCharacters)) + ".prg";
+}
+
+void EndWithDisk(const BuildJob& job) {
+  const std::filesystem::path image = job.BesidePicture(".d64");
+  const std::string folder = job.Setting(kVicePath), name = NameOnDisk(job.DiskFileName(kVicePrgName));
+  RequireNoOption(name);
+  SetAside older(image);
+  app::CopyWholeFile(job.System("empty.d64"), image);
+  const std::string image_path = ShortPath(image);
+  job.Run(DiskTool(folder), {image_path, "-write", ShortPath(job.Files().program), name});
+  older.Drop();
+  job.Print("--> D64 complete.");
+  if (!job.Choice().LaunchVice) return;
+  job.Print("--> Launching VICE.");
+  job.Show(FindEmulator(folder).value_or(app::PathFromText(folder)), {"-autostart", image_path + ":" + name});
+}
+
+}  // namespace kelvo::c64out

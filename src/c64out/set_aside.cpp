@@ -1,0 +1,36 @@
+#include "c64out/set_aside.h"
+
+namespace kelvo::c64out {
+namespace {
+
+namespace fs = std::filesystem;
+
+fs::path FreeNameBeside(const fs::path& file) {
+  fs::path name = file;
+  do name += ".old";
+  while (fs::exists(fs::symlink_status(name)));
+  return name;
+}
+
+}  // namespace
+
+SetAside::SetAside(const fs::path& file) : file_(file) {
+  if (!fs::exists(file)) return;
+  aside_ = FreeNameBeside(file);
+  fs::rename(file, aside_);
+}
+
+SetAside::~SetAside() {
+  if (!is_pending_) return;
+  std::error_code ignored;
+  fs::remove(file_, ignored);
+  if (!aside_.empty()) fs::rename(aside_, file_, ignored);
+}
+
+void SetAside::Drop() {
+  is_pending_ = false;
+  std::error_code ignored;
+  if (!aside_.empty()) fs::remove(aside_, ignored);
+}
+
+}  // namespace kelvo::c64out

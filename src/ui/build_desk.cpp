@@ -1,0 +1,70 @@
+#include "ui/build_desk.h"
+
+#include <utility>
+
+#include "app/text.h"
+#include "c64out/output_settings.h"
+#include "c64out/vice_folder.h"
+#include "ui/frm_vice_settings.h"
+#include "ui/settings_dialog.h"
+
+namespace kelvo::ui {
+
+void BuildDesk::BuildCompoPic(const c64out::CompoPicChoice& choice) {
+  if (runner_.IsShowing()) {
+    next_ = choice;
+    return runner_.Stop();
+  }
+  if (is_running_ || (!with_.document.file.HasFile() && !with_.files.SaveAs())) return;
+  Run(choice);
+  if (!next_) return;
+  const c64out::CompoPicChoice next = *std::exchange(next_, std::nullopt);
+  QMetaObject::invokeMethod(
+      this, [this, next] { BuildCompoPic(next); }, Qt::QueuedConnection);
+}
+
+// The picture may change while tools are at work: the build has its own copy.
+void BuildDesk::Run(const c64out::CompoPicChoice& choice) {
+  is_running_ = true;
+  emit StateChanged();
+  const files::Document picture = with_.document;
+  const bool well = c64out::BuildCompoPic(
+      picture, choice, {with_.folders, with_.settings, with_.clock, with_.log, with_.messages, with_.prompt, runner_});
+  is_running_ = false;
+  emit Ended(well);
+  emit StateChanged();
+}
+
+void BuildDesk::Stop() {
+  if (IsBuilding()) runner_.Stop();
+}
+
+void BuildDesk::LeaveAll() {
+  next_.reset();
+  runner_.Stop();
+}
+
+void BuildDesk::LookForVice() {
+  const std::string stored = with_.settings.Read(c64out::kVicePath);
+  const std::string_view folder = app::Trimmed(stored);
+  is_vice_ready_ = !folder.empty() && c64out::FindEmulator(folder);
+  if (!folder.empty() && !is_vice_ready_) with_.messages.Warn("Incorrect VICE path");
+  emit StateChanged();
+}
+
+void BuildDesk::ShowViceSettings() {
+  frmViceSettings dialog(with_.settings, with_.messages, window_);
+  connect(&dialog, &frmViceSettings::ViceEntriesEnabled, this, [this](bool enabled) { is_vice_ready_ = enabled; });
+  dialog.exec();
+  emit StateChanged();
+}
+
+void BuildDesk::ShowCodenetSettings() {
+  SettingsDialog dialog(with_.settings, "frmCodenetSettings", "Codenet settings", window_);
+  dialog.AddText(c64out::kC64Ip, "&IP to C64 server");
+  dialog.AddText(c64out::kCodenetPrgName, "&PRG name");
+  dialog.AddHint("A PRG name that is set overrides the picture's file name.");
+  dialog.exec();
+}
+
+}  // namespace kelvo::ui

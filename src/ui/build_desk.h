@@ -1,0 +1,64 @@
+// Starts builds, one at a time, and tells how they go.
+#pragma once
+
+#include <QObject>
+#include <optional>
+
+#include "c64out/build_compo_pic.h"
+#include "files/picture_files.h"
+#include "ui/qt_tool_runner.h"
+
+namespace kelvo::ui {
+
+// What builds take from the main window.
+struct BuildDeskSurroundings {
+  const app::ProgramFolders& folders;
+  app::SettingsStore& settings;
+  const app::Clock& clock;
+  const app::ErrorLog& log;
+  app::Messages& messages;
+  app::PromptOutput& prompt;
+  const files::Document& document;
+  files::PictureFiles& files;
+};
+
+class BuildDesk : public QObject {
+  Q_OBJECT
+
+ public:
+  BuildDesk(const BuildDeskSurroundings& with, QWidget* window) : with_(with), window_(window) {}
+
+  // Passed over while another build is at work. A picture that has no file is saved under a name first. While the
+  // emulator is waited for another build may begin: it is left running then.
+  void BuildCompoPic(const c64out::CompoPicChoice& choice);
+
+  // Ends a build at work. The emulator is not a part of it.
+  void Stop();
+  // The program ends: nothing is waited for any more.
+  void LeaveAll();
+  bool IsBuilding() const { return is_running_ && !runner_.IsShowing(); }
+
+  // At start: looks where the settings say that VICE is, and tells when it is not there.
+  void LookForVice();
+  bool IsViceReady() const { return is_vice_ready_; }
+
+  void ShowViceSettings();
+  void ShowCodenetSettings();
+
+ signals:
+  // What can be chosen may have changed.
+  void StateChanged();
+  // A build ended; where it failed, its lines in the prompt say why.
+  void Ended(bool well);
+
+ private:
+  void Run(const c64out::CompoPicChoice& choice);
+
+  BuildDeskSurroundings with_;
+  QWidget* window_;
+  QtToolRunner runner_;
+  bool is_running_ = false, is_vice_ready_ = false;
+  std::optional<c64out::CompoPicChoice> next_;  // chosen while the emulator was waited for
+};
+
+}  // namespace kelvo::ui

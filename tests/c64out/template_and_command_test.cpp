@@ -1,0 +1,69 @@
+#include <gtest/gtest.h>
+
+#include "app/whole_file.h"
+#include "c64out/disk_ending.h"
+#include "c64out/fill_template.h"
+#include "c64out/short_path.h"
+#include "c64out/tool_command.h"
+#include "support/pictures.h"
+#include "support/temp_folder.h"
+
+namespace kelvo::c64out {
+namespace {
+
+struct TemplateCase {
+  std::string_view text, local, network;
+};
+
+class FillTemplateTest : public testing::Test {
+ protected:
+  std::string Fill(std::string_view text, bool via_codenet) {
+    support::WriteText(folder / "in", text);
+    FillTemplate(folder / "in", folder / "out", "[bitmap]", "/pic.kvp", via_codenet);
+    return support::ReadText(folder / "out");
+  }
+  support::TempFolder folder;
+};
+
+TEST_F(FillTemplateTest, ReplacesPlaceholdersAndKeepsNetworkLinesForNetworkBuilds) {
+  constexpr TemplateCase kCases[] = {
+      {"a\nb [bitmap]\n", "a\r\nb /pic.kvp\r\n", "a\r\nb /pic.kvp\r\n"},
+      {"[bitmap] [bitmap]\r\n\r\nend", "/pic.kvp /pic.kvp\r\n\r\nend\r\n", "/pic.kvp /pic.kvp\r\n\r\nend\r\n"},
+      {"[Bitmap] [bitmap]", "[Bitmap] /pic.kvp\r\n", "[Bitmap] /pic.kvp\r\n"},
+      {"[bitmap]\n<CC> sei\nx<CC>y<CC>\n", "/pic.kvp\r\n", "/pic.kvp\r\n sei\r\nxy\r\n"},
+      {"[bitmap]1\n<CC>[bitmap]2", "/pic.kvp1\r\n", "/pic.kvp1\r\n/pic.kvp2\r\n"},
+  };
+  for (const TemplateCase& row : kCases) {
+    EXPECT_EQ(Fill(row.text, false), row.local) << row.text;
+    EXPECT_EQ(Fill(row.text, true), row.network) << row.text;
+  }
+}
+
+TEST_F(FillTemplateTest, SaysWhatIsWrongWithATemplateAndLeavesNoOldResult) {
+  Fill("[bitmap]", false);
+  EXPECT_THROW(Fill("no placeholder", false), std::runtime_error);
+  EXPECT_FALSE(exists(folder / "out"));
+  EXPECT_THROW(Fill("<CC> [bitmap]", false), std::runtime_error);
+  EXPECT_THROW(FillTemplate(folder / "gone", folder / "out", "[bitmap]", "", false), app::FileError);
+}
+
+TEST(ToolCommand, RendersForTheWindowsInterpreter) {
+  const ToolCommand command{"C:\\KELVO\\SYSTEM\\TASS.EXE", {"C:\\KELVO\\SYSTEM\\bmpshow.tmp", "", "$cf00"}};
+  EXPECT_EQ(command.WindowsCommandLine("c:\\windows\\system32\\CMD.exe"),
+            "c:\\windows\\system32\\CMD.exe /C C:\\KELVO\\SYSTEM\\TASS.EXE C:\\KELVO\\SYSTEM\\bmpshow.tmp  $cf00");
+  for (const char* meddling : {"a&calc", "a|b", "a>b", "%PATH%", "a\"b", "a\nb"}) {
+    EXPECT_THROW((ToolCommand{"c1541.exe", {meddling}}.InterpreterArguments()), std::runtime_error) << meddling;
+  }
+}
+
+TEST(NameOnDisk, IsCutBeforeItsEnding) {
+  EXPECT_EQ(NameOnDisk("My.Pic"), "my.pic.prg");
+  EXPECT_EQ(NameOnDisk("ABCDEFGHIJKLMNOPQRST"), "abcdefghijklmnop.prg");
+  EXPECT_EQ(
+      NameOnDisk("\u00e4\u00e4\u00e4\u00e4\u00e4\u00e4\u00e4\u00e4\u00e4\u00e4\u00e4\u00e4\u00e4\u00e4\u00e4\u00e4X"),
+      "\u00e4\u00e4\u00e4\u00e4\u00e4\u00e4\u00e4\u00e4\u00e4\u00e4\u00e4\u00e4\u00e4\u00e4\u00e4\u00e4.prg");
+  EXPECT_EQ(NameOnDisk(""), ".prg");
+}
+
+}  // namespace
+}  // namespace kelvo::c64out
