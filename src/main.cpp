@@ -12,6 +12,7 @@
 #include "ui/qt_messages.h"
 #include "ui/qt_settings.h"
 #include "ui/qt_text.h"
+#include "ui/sudden_end.h"
 
 namespace {
 
@@ -75,9 +76,10 @@ int main(int argc, char** argv) {
     frame.Log().Write(std::string("MDIFormMenu_Event: ") + error.what());
     messages.Warn(std::string("Something went wrong; the picture is untouched.\n") + error.what());
   };
+  const kelvo::ui::SuddenEnd sudden_end([&frame] { frame.EndSuddenly(); });
   frame.StartUp();
   frame.show();
-  if (!parser.positionalArguments().isEmpty()) {
+  if (!frame.OfferRecovery() && !parser.positionalArguments().isEmpty()) {
     const QFileInfo picture(parser.positionalArguments().first());
     frame.Files().OpenPicture(FromQt(picture.absoluteFilePath()));
   }

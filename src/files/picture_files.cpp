@@ -121,6 +121,13 @@ void PictureFiles::New() {
   with_.prompt.CommandPromptList("NEW");
 }
 
+bool PictureFiles::Recover(const Document& rescued) {
+  if (!MayThrowAwayPicture()) return false;
+  TakeOver(rescued.picture, rescued.file);
+  document_.kept = {};
+  return true;
+}
+
 bool PictureFiles::MayClose() {
   if (!document_.HasUnsavedWork()) return true;
   const app::UnsavedAnswer answer =

@@ -59,6 +59,9 @@ class PictureFiles {
   // An empty picture without a file; the background colour stays.
   void New();
 
+  // Takes over unsaved work that outlived a crash, as unsaved work again. False when the picture in memory stays.
+  bool Recover(const Document& rescued);
+
   // True when the program may end: nothing is unsaved, or the user saved it or gave it up.
   bool MayClose();
 

@@ -62,7 +62,8 @@ MainFrame::MainFrame(const app::ProgramFolders& folders, app::SettingsStore& set
       desk_(document_, {views_, settings, messages_, events_, pointer_, log_},
             {*full_view_, *zoom_, *colors_, *pens_, *char_data_, *Toolbar1_}),
       animation_({settings, messages_, document_, files_}, *this, *full_view_, *zoom_),
-      builds_({folders, settings, clock, log_, messages_, prompt_, document_, files_}, this) {
+      builds_({folders, settings, clock, log_, messages_, prompt_, document_, files_}, this),
+      recovery_({folders, clock, log_, messages_, document_, files_}) {
   setObjectName("MDIFormMenu");
   area_->setObjectName("mdiArea");
   setCentralWidget(area_);
@@ -266,6 +267,7 @@ void MainFrame::RefreshMenus() {
 void MainFrame::Timer1_Timer() {
   desk_.Tick();
   zoom_->TickBorder();
+  recovery_.Tick();
 }
 
 // Notes every press, also one that a menu shortcut takes.
@@ -309,7 +311,13 @@ void MainFrame::closeEvent(QCloseEvent* event) {
   settings_.Write(app::kMagnification, menu_.Action("mnuZoom_4X")->isChecked() ? "4" : "8");
   KeepPlaces(settings_, *this, children_);
   builds_.LeaveAll();
+  recovery_.Remove();
   event->accept();
+}
+
+void MainFrame::EndSuddenly() {
+  recovery_.KeepNow();
+  builds_.LeaveAll();
 }
 
 }  // namespace kelvo::ui

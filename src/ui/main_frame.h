@@ -30,6 +30,7 @@
 #include "ui/prompt_lines.h"
 #include "ui/qt_file_dialogs.h"
 #include "ui/qt_messages.h"
+#include "ui/recovery_desk.h"
 #include "ui/status_panels.h"
 #include "ui/wait_cursor.h"
 #include "ui/window_places.h"
@@ -50,6 +51,11 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
 
   // What happens once, before the window is first shown: settings, folders, timer, texts.
   void StartUp();
+
+  // Offers unsaved work that an earlier run left behind; true when the user took it up.
+  bool OfferRecovery() { return recovery_.Offer(); }
+  // The program has to end without asking: unsaved work and tools are seen to.
+  void EndSuddenly();
 
   files::PictureFiles& Files() { return files_; }
   const files::Document& Document() const { return document_; }
@@ -140,6 +146,7 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   PaintingDesk desk_;
   AnimationDesk animation_;
   BuildDesk builds_;
+  RecoveryDesk recovery_;
   frmBMP2SpriteMain* sprite_converter_ = nullptr;  // made when it is first asked for
 };
 

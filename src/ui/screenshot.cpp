@@ -3,7 +3,6 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QPainter>
-#include <QPainter>
 #include <QSaveFile>
 #include <QStringList>
 #include <array>

@@ -33,12 +33,18 @@ Process::Process(const std::vector<std::string>& command) : pid_(fork()) {
 }
 
 Process::~Process() {
-  kill(pid_, SIGTERM);
+  if (!IsRunning()) return;
+  Kill(SIGTERM);
   waitpid(pid_, nullptr, 0);
 }
 
-bool Process::IsRunning() const {
-  return waitpid(pid_, nullptr, WNOHANG) == 0;
+void Process::Kill(int signal) const {
+  if (pid_ != 0) kill(pid_, signal);
+}
+
+bool Process::IsRunning() {
+  if (pid_ != 0 && waitpid(pid_, nullptr, WNOHANG) != 0) pid_ = 0;
+  return pid_ != 0;
 }
 
 bool RunCommand(const std::string& command) {

@@ -16,10 +16,11 @@ class Process {
   Process(const Process&) = delete;
   Process& operator=(const Process&) = delete;
 
-  bool IsRunning() const;
+  void Kill(int signal) const;
+  bool IsRunning();
 
  private:
-  pid_t pid_;
+  pid_t pid_;  // 0: it has ended
 };
 
 // Runs a shell command to its end; true when it succeeded.

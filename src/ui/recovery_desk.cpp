@@ -1,0 +1,49 @@
+#include "ui/recovery_desk.h"
+
+#include "files/rescue_copy.h"
+
+namespace kelvo::ui {
+
+RecoveryDesk::RecoveryDesk(const Surroundings& with)
+    : with_(with), slot_(with.folders), copy_(with.document, files::RecoveryFiles(with.folders, slot_.Number())) {}
+
+template <typename Work>
+void RecoveryDesk::Guard(Work&& work) {
+  app::Guarded(with_.log, "MDIFormMenu_KeepRecoveryCopy", std::forward<Work>(work));
+}
+
+void RecoveryDesk::Tick() {
+  Guard([this] { copy_.Keep(std::chrono::steady_clock::now()); });
+}
+
+void RecoveryDesk::KeepNow() {
+  Guard([this] { copy_.KeepNow(); });
+}
+
+bool RecoveryDesk::Offer() {
+  bool is_taken_up = false;
+  for (int number = 1; number <= kMostPrograms; ++number) {
+    Guard([&] { is_taken_up = OfferCopyOf(number) || is_taken_up; });
+  }
+  return is_taken_up;
+}
+
+bool RecoveryDesk::OfferCopyOf(int number) {
+  const files::RecoveryFiles left(with_.folders, number);
+  const auto document = left.Read();
+  if (!document || !slot_.IsFree(number)) return false;
+  const std::string name = document->file.HasFile() ? document->file.CurrentFileName : "unnamed";
+  const bool is_wanted =
+      with_.messages.Ask("Kelvo ended without saving the picture " + name +
+                         " the last time.\nOpen it as it was? Otherwise it is kept in the BACKUP folder.");
+  if (is_wanted && !with_.files.Recover(*document)) return false;
+  if (is_wanted) {
+    copy_.KeepNow();
+  } else {
+    files::KeepRescueCopy(*document, with_.folders, with_.clock);
+  }
+  if (!is_wanted || number != slot_.Number()) left.Remove();
+  return is_wanted;
+}
+
+}  // namespace kelvo::ui

@@ -1,0 +1,46 @@
+// Keeps unsaved work safe from crashes, and offers it at the next start.
+#pragma once
+
+#include "app/clock.h"
+#include "app/error_log.h"
+#include "app/messages.h"
+#include "files/picture_files.h"
+#include "files/recovery_copy.h"
+#include "ui/program_slot.h"
+
+namespace kelvo::ui {
+
+class RecoveryDesk {
+ public:
+  struct Surroundings {
+    const app::ProgramFolders& folders;
+    const app::Clock& clock;
+    const app::ErrorLog& log;
+    app::Messages& messages;
+    const files::Document& document;
+    files::PictureFiles& files;
+  };
+  explicit RecoveryDesk(const Surroundings& with);
+
+  // Brings the copy up to date; cheap enough for every tick of a timer.
+  void Tick();
+  // The program has to end now.
+  void KeepNow();
+  // The user saved the work or gave it up.
+  void Remove() { copy_.Remove(); }
+
+  // Offers what programs left that ended without saving; true when the user took some of it up. What is not wanted now
+  // stays in BACKUP as a rescue copy.
+  bool Offer();
+
+ private:
+  bool OfferCopyOf(int number);
+  template <typename Work>
+  void Guard(Work&& work);
+
+  Surroundings with_;
+  ProgramSlot slot_;
+  files::RecoveryCopy copy_;
+};
+
+}  // namespace kelvo::ui
