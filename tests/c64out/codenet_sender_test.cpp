@@ -102,7 +102,7 @@ TEST_F(CodenetSenderTest, TakesNoLateAnswerForALaterPacketOfTheSameNumber) {
     return number == 3 + 256 ? kLost : Fate();
   };
   Write(0, support::CountingBytes(0x10000));
-  EXPECT_EQ(line_.machine.memory, support::CountingBytes(0x10000));
+  EXPECT_TRUE(line_.machine.memory == support::CountingBytes(0x10000));
 }
 
 TEST_F(CodenetSenderTest, LeavesNoLateCopyThatOverwritesTheNextTransfer) {
@@ -139,7 +139,7 @@ TEST_F(CodenetSenderTest, ClaimsNothingWrongOverAnyNetwork) {
     for (std::uint8_t& byte : bytes) byte = static_cast<std::uint8_t>(random());
     if (ErrorOf([&] { Write(0x0801, bytes); }) != "") continue;
     ++claims;
-    ASSERT_EQ(MemoryAt(0x0801, bytes.size()), bytes);
+    ASSERT_TRUE(MemoryAt(0x0801, bytes.size()) == bytes);
   }
   EXPECT_GE(claims, 20);
 }
@@ -183,23 +183,55 @@ TEST(CodenetStart, NeverStartsAProgramTwice) {
   }
 }
 
-// A C64 that refuses everything.
-class RefusingSocket final : public DatagramSocket {
+using Answers = std::vector<app::Bytes>;
+
+// Answers to each packet at once with what a test says.
+class ScriptedSocket final : public DatagramSocket, public TransferWatch {
  public:
-  void Send(std::span<const std::uint8_t> datagram) override { refusal_ = {0xCA, 0x1F, datagram[2], 0}; }
-  app::Bytes Receive(microseconds) override { return std::exchange(refusal_, {}); }
+  void Send(std::span<const std::uint8_t> datagram) override {
+    const Answers answers = answers_to(datagram[2]);
+    waiting_.insert(waiting_.end(), answers.begin(), answers.end());
+  }
+  app::Bytes Receive(microseconds wait) override {
+    if (waiting_.empty()) {
+      now_ += wait;
+      return {};
+    }
+    const app::Bytes next = waiting_.front();
+    waiting_.erase(waiting_.begin());
+    return next;
+  }
+  Time Now() const override { return now_; }
+  bool StopWanted() const override { return false; }
+
+  std::function<Answers(std::uint8_t sequence)> answers_to;
 
  private:
-  app::Bytes refusal_;
+  Answers waiting_;
+  Time now_ = Time(std::chrono::hours(1));
 };
 
-TEST(CodenetRefusal, EndsTheTransferAtOnce) {
-  RefusingSocket socket;
-  const SimulatedLine watch;
+app::Bytes Answer(int sequence, std::uint8_t service) {
+  return {0xCA, 0x1F, static_cast<std::uint8_t>(sequence), service};
+}
+
+TEST(CodenetAnswers, ARefusalEndsTheTransferAtOnce) {
+  ScriptedSocket socket;
+  socket.answers_to = [](std::uint8_t sequence) { return Answers{Answer(sequence, 0)}; };
   app::NoProgress progress;
-  CodenetSender sender(socket, watch, 0);
+  CodenetSender sender(socket, socket, 0);
   EXPECT_THROW(sender.WriteMemory(0x2000, app::Bytes(10), progress), TransferError);
   EXPECT_THROW(sender.Run(), TransferError);
+}
+
+TEST(CodenetAnswers, NoneCountsThatWasThereBeforeItsPacket) {
+  ScriptedSocket socket;
+  socket.answers_to = [](std::uint8_t sequence) {
+    return sequence == 0 ? Answers{Answer(0, 1), Answer(1, 1)} : Answers();
+  };
+  app::NoProgress progress;
+  CodenetSender sender(socket, socket, 0);
+  EXPECT_THROW(sender.WriteMemory(0x2000, app::Bytes(200), progress), TransferError);
 }
 
 }  // namespace
