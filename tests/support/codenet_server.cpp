@@ -124,6 +124,7 @@ void CodenetServer::Deliver(Way way, const app::Bytes& packet) {
            reinterpret_cast<const sockaddr*>(&client_), sizeof(client_));
     return;
   }
+  if (network_.answers_after.count() > 0) std::this_thread::sleep_for(network_.answers_after);
   app::Bytes answer;
   {
     const std::lock_guard lock(mutex_);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <atomic>
+#include <chrono>
 #include <cstdint>
 #include <limits>
 #include <mutex>
@@ -20,6 +21,7 @@ namespace kelvo::support {
 struct Network {
   double disturbed = 0;
   unsigned seed = 1;
+  std::chrono::microseconds answers_after{0};            // what the machine takes for a packet
   int vanishes_after = std::numeric_limits<int>::max();  // packets, of which the server then hears no more
 };
 
