@@ -52,8 +52,8 @@ class BareSocket {
 
   void RoundTrip(const app::Bytes& packet) {
     std::array<char, 64> answer;
-    send(socket_, reinterpret_cast<const char*>(packet.data()), packet.size(), 0);
-    recv(socket_, answer.data(), answer.size(), 0);
+    send(socket_, reinterpret_cast<const char*>(packet.data()), static_cast<codenet::SocketLength>(packet.size()), 0);
+    recv(socket_, answer.data(), static_cast<codenet::SocketLength>(answer.size()), 0);
   }
 
  private:

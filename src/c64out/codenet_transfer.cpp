@@ -21,6 +21,11 @@ std::uint16_t TakeLoadAddress(const CodenetArguments& arguments, app::Bytes& pro
   return address;
 }
 
+void Start(const CodenetTransfer& transfer, CodenetSender& sender) {
+  if (transfer.run) sender.Run();
+  if (transfer.jump) sender.Jump(*transfer.jump);
+}
+
 }  // namespace
 
 CodenetTransfer PrepareTransfer(const CodenetArguments& arguments) {
@@ -43,9 +48,13 @@ CodenetTransfer PrepareTransfer(const CodenetArguments& arguments) {
 }
 
 void SendTransfer(const CodenetTransfer& transfer, CodenetSender& sender, app::Progress& progress) {
+  if (transfer.bytes.empty()) return Start(transfer, sender);
   sender.WriteMemory(transfer.address, transfer.bytes, progress);
-  if (transfer.run) sender.Run();
-  if (transfer.jump) sender.Jump(*transfer.jump);
+  try {
+    Start(transfer, sender);
+  } catch (const TransferError& error) {
+    throw TransferError(std::string("the C64's memory is written; ") + error.what());
+  }
 }
 
 }  // namespace kelvo::c64out

@@ -81,5 +81,22 @@ TEST(CodenetTransfer, AC64ThatVanishesInTheMiddleGivesAnError) {
   EXPECT_EQ(server.Machine().packets, 40);
 }
 
+// The last packet, the order to run, may have arrived: the message has to leave that open.
+TEST(CodenetTransfer, AStartThatNobodyConfirmsIsNoSuccess) {
+  const support::CodenetServer server({.vanishes_after = 2});
+  codenet::UdpSocket socket("127.0.0.1", server.Port());
+  const NeverStopped watch;
+  app::NoProgress progress;
+  CodenetSender sender(socket, watch, 7, kShort);
+  try {
+    SendTransfer({kAddress, app::Bytes(200), true, std::nullopt}, sender, progress);
+    ADD_FAILURE() << "a success is claimed";
+  } catch (const TransferError& error) {
+    EXPECT_EQ(std::string(error.what()),
+              "the C64's memory is written; the order to start was sent, but the C64 does not answer any more: the "
+              "program may be running");
+  }
+}
+
 }  // namespace
 }  // namespace kelvo::c64out

@@ -50,6 +50,7 @@ TEST(SaverTemplate, FillsOneKindOfPlaceholderInEachLine) {
   EXPECT_THROW(FilledSaver("", "a", 0x10000 - 2049), std::runtime_error);
 }
 
+#ifndef _WIN32
 class SaverOnTheC64 : public testing::Test {
  protected:
   void SetUp() override {
@@ -138,6 +139,7 @@ TEST_F(SaverOnTheC64, ShowsRedWithoutAName) {
   Run(Assemble(""));
   EXPECT_EQ(Border(), kRed);
 }
+#endif
 
 }  // namespace
 }  // namespace kelvo::c64out

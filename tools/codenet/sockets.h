@@ -2,6 +2,9 @@
 #pragma once
 
 #ifdef _WIN32
+#ifndef NOMINMAX
+#define NOMINMAX
+#endif
 #include <winsock2.h>
 #include <ws2tcpip.h>
 #else
@@ -52,6 +55,9 @@ inline std::error_code SocketError() {
 inline bool MeansNobodyListens(const std::error_code& error) {
   return error.value() == WSAECONNREFUSED || error.value() == WSAECONNRESET;
 }
+inline bool MeansNotNow(const std::error_code& error) {
+  return error.value() == WSAEWOULDBLOCK || error.value() == WSAENOBUFS || error.value() == WSAEINTR;
+}
 inline std::string LookUpText(int error) {
   return std::system_category().message(error);
 }
@@ -75,6 +81,9 @@ inline std::error_code SocketError() {
 }
 inline bool MeansNobodyListens(const std::error_code& error) {
   return error == std::errc::connection_refused;
+}
+inline bool MeansNotNow(const std::error_code& error) {
+  return error.value() == EAGAIN || error.value() == EWOULDBLOCK || error.value() == ENOBUFS || error.value() == EINTR;
 }
 inline std::string LookUpText(int error) {
   return gai_strerror(error);

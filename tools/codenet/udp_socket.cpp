@@ -7,7 +7,7 @@
 namespace kelvo::codenet {
 namespace {
 
-constexpr std::size_t kLongestDatagram = 2048;
+constexpr std::size_t kLongestDatagram = 0x10000;
 
 using HostAddresses = std::unique_ptr<addrinfo, decltype(&freeaddrinfo)>;
 
@@ -51,7 +51,7 @@ void UdpSocket::Send(std::span<const std::uint8_t> datagram) {
       send(socket_, reinterpret_cast<const char*>(datagram.data()), static_cast<SocketLength>(datagram.size()), 0);
   if (sent >= 0) return;
   const std::error_code error = SocketError();
-  if (error != std::errc::resource_unavailable_try_again && error != std::errc::no_buffer_space) Fail(error);
+  if (!MeansNotNow(error)) Fail(error);
 }
 
 app::Bytes UdpSocket::Receive(std::chrono::microseconds wait) {
@@ -60,7 +60,7 @@ app::Bytes UdpSocket::Receive(std::chrono::microseconds wait) {
   const auto size = recv(socket_, buffer.data(), static_cast<SocketLength>(buffer.size()), 0);
   if (size >= 0) return {buffer.data(), buffer.data() + size};
   const std::error_code error = SocketError();
-  if (error != std::errc::operation_would_block && error != std::errc::interrupted) Fail(error);
+  if (!MeansNotNow(error)) Fail(error);
   return {};
 }
 
