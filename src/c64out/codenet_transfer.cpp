@@ -1,0 +1,60 @@
+#include "c64out/codenet_transfer.h"
+
+#include "app/path_text.h"
+#include "model/number_text.h"
+
+namespace kelvo::c64out {
+namespace {
+
+constexpr std::size_t kLoadAddressSize = 2;
+
+[[noreturn]] void Fail(const CodenetArguments& arguments, const std::string& what) {
+  throw app::FileError(arguments.file + ": " + what);
+}
+
+std::uint16_t TakeLoadAddress(const CodenetArguments& arguments, app::Bytes& program) {
+  if (program.size() <= kLoadAddressSize) {
+    Fail(arguments, "this is no PRG: it has " + std::to_string(program.size()) + " bytes, one has at least 3");
+  }
+  const auto address = static_cast<std::uint16_t>(program[0] | program[1] << 8);
+  program.erase(program.begin(), program.begin() + kLoadAddressSize);
+  return address;
+}
+
+void Start(const CodenetTransfer& transfer, CodenetSender& sender) {
+  if (transfer.run) sender.Run();
+  if (transfer.jump) sender.Jump(*transfer.jump);
+}
+
+}  // namespace
+
+CodenetTransfer PrepareTransfer(const CodenetArguments& arguments) {
+  CodenetTransfer transfer;
+  transfer.run = arguments.mode == FileMode::kRunProgram;
+  transfer.jump = arguments.execute;
+  if (arguments.mode == FileMode::kNone) return transfer;
+  transfer.bytes = app::ReadWholeFile(app::PathFromText(arguments.file), kMemorySize + kLoadAddressSize);
+  if (transfer.bytes.empty()) Fail(arguments, "the file is empty");
+  transfer.address = arguments.address;
+  if (arguments.mode != FileMode::kBytesAt) {
+    const std::uint16_t load_address = TakeLoadAddress(arguments, transfer.bytes);
+    if (arguments.mode != FileMode::kProgramAt) transfer.address = load_address;
+  }
+  if (transfer.address + transfer.bytes.size() > kMemorySize) {
+    Fail(arguments, std::to_string(transfer.bytes.size()) + " bytes at $" + model::ToHex(transfer.address, 4) +
+                        " would run past $FFFF");
+  }
+  return transfer;
+}
+
+void SendTransfer(const CodenetTransfer& transfer, CodenetSender& sender, app::Progress& progress) {
+  if (transfer.bytes.empty()) return Start(transfer, sender);
+  sender.WriteMemory(transfer.address, transfer.bytes, progress);
+  try {
+    Start(transfer, sender);
+  } catch (const TransferError& error) {
+    throw TransferError(std::string("the C64's memory is written; ") + error.what());
+  }
+}
+
+}  // namespace kelvo::c64out

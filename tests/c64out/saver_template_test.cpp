@@ -1,0 +1,145 @@
+// The program that saves the picture on the C64: its source filled in, and what it does when a C64 runs it.
+#include "c64out/saver_template.h"
+
+#include <gtest/gtest.h>
+
+#include "support/kernal_disk.h"
+#include "support/pictures.h"
+#include "support/run_tool.h"
+#include "support/temp_folder.h"
+
+namespace kelvo::c64out {
+namespace {
+
+using namespace std::string_literals;
+
+TEST(SaverTemplate, ConvertsNames) {
+  for (const auto& [name, converted] : {
+           std::pair{"pic1.x"s, "PIC1.X"s},
+           {"a/b.9", "A/B.9"},
+           {"A", "!"},
+           {"BG-* z", "\"'\r\n\0Z"s},
+           {"\xC3\xA9", "\xC9"},  // é becomes É, as one byte of Latin-1
+           {"\xE2\x82\xAC", "\x1F"},
+       }) {
+    EXPECT_EQ(ToC64FileName(name), converted) << name;
+  }
+  for (const auto& name : {"a\tb"s, "a\0b"s}) EXPECT_THROW(ToC64FileName(name), std::runtime_error);
+}
+
+TEST(SaverTemplate, FillsOneKindOfPlaceholderInEachLine) {
+  const std::string source =
+      "lda #$[filenamelen]\n"
+      "[filename] [filename]\r\n"
+      "[end_low] [filename] [end_high]\n"
+      "[end_high] [end_low]\n"
+      "[FILENAME] [file\n"
+      "\n"
+      "[end_high]";
+  EXPECT_EQ(FilledSaver(source, "abcdefghijklmnopqrst", 7000),
+            "lda #$10\r\n"
+            "ABCDEFGHIJKLMNOPQRST ABCDEFGHIJKLMNOPQRST\r\n"
+            "[end_low] ABCDEFGHIJKLMNOPQRST [end_high]\r\n"
+            "[end_high] 59\r\n"
+            "[FILENAME] [file\r\n"
+            "\r\n"
+            "23\r\n");
+  EXPECT_EQ(FilledSaver("[end_high]\n[end_low]\n[filenamelen]", "", 100), "08\r\n65\r\n00\r\n");
+  EXPECT_EQ(FilledSaver("[filenamelen]", "\xC3\xA9t\xC3\xA9", 100), "03\r\n");
+  EXPECT_EQ(FilledSaver("[end_high]", "a", 0xFFFF - 2049), "FF\r\n");
+  EXPECT_THROW(FilledSaver("", "a", 0x10000 - 2049), std::runtime_error);
+}
+
+#ifndef _WIN32
+class SaverOnTheC64 : public testing::Test {
+ protected:
+  void SetUp() override {
+    if (support::RunTool("64tass", {"--version"}).exit_code != 0) GTEST_SKIP() << "64tass is not installed";
+  }
+
+  app::Bytes Assemble(const std::string& name, std::uintmax_t program_size = 7000) const {
+    const auto source = folder_ / "15x1save.tmp", program = folder_ / "15x1save.prg";
+    FillSaverTemplate(KELVO_ASSETS "/system/15x1save.src", source, name, program_size);
+    const support::ToolRun run = support::RunTool(
+        "64tass", {"-q", "-C", "-B", "--cbm-prg", "-Wno-portable", "-o", program.string(), source.string()});
+    EXPECT_EQ(run.errors, "");
+    EXPECT_EQ(run.exit_code, 0);
+    return support::ReadFile(program);
+  }
+
+  // Calls it by SYS from BASIC. Anything that it leaves changed behind it shows as a fault.
+  void Run(const app::Bytes& saver) {
+    ASSERT_GT(saver.size(), 2U);
+    EXPECT_EQ(saver[0] | saver[1] << 8, 0xCF00);
+    EXPECT_LE(saver.size() - 2, 0x100U);
+    const std::string line = "\x01\x08\x0C\x08\x0A\0\x9E"s + "52992\0\0\0"s;
+    machine_.Load(app::Bytes(line.begin(), line.end()));
+    machine_.Load(saver);
+    machine_.Poke(0xFB, 0x12);
+    machine_.Poke(0xFC, 0x34);
+    EXPECT_EQ(machine_.Run(), support::C64Machine::Ending::kReturns);
+    EXPECT_EQ(machine_.Cpu().stack, machine_.StackAtStart() + 2);
+    EXPECT_EQ(machine_.Ram(0x01), 0x37);
+    EXPECT_EQ(machine_.Ram(0xFB) | machine_.Ram(0xFC) << 8, 0x3412);
+  }
+
+  int Border() const { return machine_.Show().border; }
+
+  static constexpr int kGreen = 5, kRed = 2;
+
+  support::TempFolder folder_;
+  support::C64Machine machine_;
+  support::KernalDisk disk_{machine_};
+};
+
+TEST_F(SaverOnTheC64, SavesUpToTheEndAddressOnTheLastDrive) {
+  machine_.Poke(0xBA, 9);
+  Run(Assemble("pic1.x"));
+  EXPECT_EQ(disk_.saves, 1);
+  EXPECT_EQ(std::string(disk_.name.begin(), disk_.name.end()), "PIC1.X");
+  EXPECT_EQ(disk_.device, 9);
+  EXPECT_EQ(disk_.start, 0x0801);
+  EXPECT_EQ(disk_.end, 0x2359);
+  EXPECT_EQ(Border(), kGreen);
+}
+
+// A name that cannot be put between quotes, or within one line, arrives as it stands too.
+TEST_F(SaverOnTheC64, TakesEveryByteInANameAndCutsItToSixteen) {
+  std::string all;
+  for (int code = 32; code < 127; ++code) all += static_cast<char>(code);
+  for (int code = 160; code < 256; ++code)
+    all += {static_cast<char>(0xC0 | code >> 6), static_cast<char>(0x80 | (code & 63))};
+  for (const std::string& name :
+       {all.substr(0, 16), "BGBG;"s, "my-picture*2"s, "-.endc"s, "*.comment"s, ".end"s, all}) {
+    SCOPED_TRACE(name);
+    const app::Bytes saver = Assemble(name);
+    const std::string expected = ToC64FileName(name).substr(0, 16);
+    ASSERT_GE(saver.size(), expected.size());
+    EXPECT_EQ(std::string(saver.end() - static_cast<std::ptrdiff_t>(expected.size()), saver.end()), expected);
+  }
+  Run(Assemble("BGBG;"));
+  EXPECT_EQ(std::string(disk_.name.begin(), disk_.name.end()), "\"'\"'\x1B");
+}
+
+TEST_F(SaverOnTheC64, ShowsRedWhenTheFileIsNotOnTheDisk) {
+  disk_.message = "63,FILE EXISTS,00,00\r";
+  Run(Assemble("a"));
+  EXPECT_EQ(Border(), kRed);
+}
+
+TEST_F(SaverOnTheC64, ShowsRedWithoutADrive) {
+  disk_.present = false;
+  machine_.Poke(0xBA, 1);
+  Run(Assemble("a"));
+  EXPECT_EQ(disk_.device, 8);
+  EXPECT_EQ(Border(), kRed);
+}
+
+TEST_F(SaverOnTheC64, ShowsRedWithoutAName) {
+  Run(Assemble(""));
+  EXPECT_EQ(Border(), kRed);
+}
+#endif
+
+}  // namespace
+}  // namespace kelvo::c64out

@@ -1,0 +1,21 @@
+// Progress as one line that rewrites itself, where somebody watches.
+#pragma once
+
+#include "app/progress.h"
+
+namespace kelvo::codenet {
+
+// Writes to the standard error stream; silent when that is no terminal.
+class TerminalProgress final : public app::Progress {
+ public:
+  TerminalProgress();
+  void Begin(int last) override;
+  void Advance(int value) override;
+  void End() override;
+
+ private:
+  bool shown_;
+  int last_ = 0;
+};
+
+}  // namespace kelvo::codenet
