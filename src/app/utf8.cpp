@@ -47,4 +47,10 @@ std::u32string CharactersOf(std::string_view utf8) {
   return characters;
 }
 
+std::string_view FirstCharacters(std::string_view utf8, std::size_t count) {
+  std::string_view rest = utf8;
+  for (char32_t ignored = 0; count > 0 && !rest.empty(); --count) rest.remove_prefix(ReadCharacter(rest, ignored));
+  return utf8.substr(0, utf8.size() - rest.size());
+}
+
 }  // namespace kelvo::app

@@ -16,11 +16,6 @@ namespace {
 // The build ends here without having failed: the user has been told by a message box.
 struct BuildGivenUp {};
 
-// `path` ends with `from`, which becomes `to`: the name of a tool's output beside its input.
-std::string WithEnding(const std::string& path, std::string_view from, std::string_view to) {
-  return path.ends_with(from) ? path.substr(0, path.size() - from.size()).append(to) : path;
-}
-
 void RequireEmulator(const BuildJob& job) {
   const std::string folder = job.Setting(kVicePath);
   if (folder.empty()) job.With().messages.Warn("VICE path must be specified");

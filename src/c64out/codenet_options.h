@@ -6,11 +6,9 @@
 #include <vector>
 
 #include "app/settings_store.h"
+#include "c64out/output_settings.h"
 
 namespace kelvo::c64out {
-
-// Where a C64 is looked for until the user says otherwise. It is only a text: nothing is sent until the user sends.
-inline constexpr std::string_view kDefaultC64Address = "192.168.1.64";
 
 enum class FileType { kPrg, kBinary };
 enum class ExecuteChoice { kExecute, kExecuteAddress, kTransferOnly };

@@ -1,6 +1,7 @@
 #include "c64out/disk_ending.h"
 
 #include "app/path_text.h"
+#include "app/utf8.h"
 #include "app/whole_file.h"
 #include "c64out/output_settings.h"
 #include "c64out/set_aside.h"
@@ -10,17 +11,7 @@
 namespace kelvo::c64out {
 namespace {
 
-constexpr int kNameCharacters = 16;
-
-// The first characters of a UTF-8 text.
-std::string_view First(std::string_view text, int characters) {
-  std::size_t end = 0;
-  for (; characters > 0 && end < text.size(); --characters) {
-    do ++end;
-    while (end < text.size() && (static_cast<unsigned char>(text[end]) & 0xC0) == 0x80);
-  }
-  return text.substr(0, end);
-}
+constexpr std::size_t kNameCharacters = 16;
 
 void RequireNoOption(const std::string& name) {
   if (!name.starts_with('-')) return;
@@ -30,7 +21,7 @@ void RequireNoOption(const std::string& name) {
 }  // namespace
 
 std::string NameOnDisk(std::string_view name) {
-  return std::string(First(app::ToLower(name), kNameCharacters)) + ".prg";
+  return std::string(app::FirstCharacters(app::ToLower(name), kNameCharacters)) + ".prg";
 }
 
 void EndWithDisk(const BuildJob& job) {

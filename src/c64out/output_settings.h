@@ -8,9 +8,9 @@ namespace kelvo::c64out {
 inline constexpr app::Setting kVicePath{"VICESettings", "VICEPath", ""};
 inline constexpr app::Setting kVicePrgName{"VICESettings", "PRGName", ""};
 
-// Only a text until the user sends something.
-inline constexpr std::string_view kDefaultC64Ip = "192.168.1.64";
-inline constexpr app::Setting kC64Ip{"CodenetSettings", "C64IP", kDefaultC64Ip};
+// Where a C64 is looked for until the user says otherwise. It is only a text: nothing is sent until the user sends.
+inline constexpr std::string_view kDefaultC64Address = "192.168.1.64";
+inline constexpr app::Setting kCodenetC64Ip{"CodenetSettings", "C64IP", kDefaultC64Address};
 inline constexpr app::Setting kCodenetPrgName{"CodenetSettings", "PRGName", ""};
 
 }  // namespace kelvo::c64out

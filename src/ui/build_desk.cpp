@@ -61,7 +61,7 @@ void BuildDesk::ShowViceSettings() {
 
 void BuildDesk::ShowCodenetSettings() {
   SettingsDialog dialog(with_.settings, "frmCodenetSettings", "Codenet settings", window_);
-  dialog.AddText(c64out::kC64Ip, "&IP to C64 server");
+  dialog.AddText(c64out::kCodenetC64Ip, "&IP to C64 server");
   dialog.AddText(c64out::kCodenetPrgName, "&PRG name");
   dialog.AddHint("A PRG name that is set overrides the picture's file name.");
   dialog.exec();

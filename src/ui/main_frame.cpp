@@ -238,6 +238,19 @@ void MainFrame::ShowSpriteConverter() {
   sprite_converter_->raise();
 }
 
+void MainFrame::ShowCodenetGui() {
+  if (codenet_gui_ == nullptr) {
+    codenet_gui_ = new frmCodenetGUI({folders_, settings_, log_, messages_, prompt_}, this);
+  }
+  codenet_gui_->show();
+  codenet_gui_->raise();
+}
+
+void MainFrame::StopTools() {
+  builds_.LeaveAll();
+  if (codenet_gui_ != nullptr) codenet_gui_->Stop();
+}
+
 void MainFrame::SaveScreenshot() {
   const std::string& path = document_.file.CurrentFilePath;
   const QString proposal = ToQt(path.empty() ? app::TextFromPath(folders_.Gfx() / "unnamed") : path);
@@ -310,14 +323,14 @@ void MainFrame::closeEvent(QCloseEvent* event) {
   settings_.Write(app::kGridColor, std::to_string(zoom_->GridColor().Number()));
   settings_.Write(app::kMagnification, menu_.Action("mnuZoom_4X")->isChecked() ? "4" : "8");
   KeepPlaces(settings_, *this, children_);
-  builds_.LeaveAll();
+  StopTools();
   recovery_.Remove();
   event->accept();
 }
 
 void MainFrame::EndSuddenly() {
   recovery_.KeepNow();
-  builds_.LeaveAll();
+  StopTools();
 }
 
 }  // namespace kelvo::ui

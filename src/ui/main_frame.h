@@ -19,6 +19,7 @@
 #include "ui/frm_bmp2sprite_main.h"
 #include "ui/frm_bmp_view.h"
 #include "ui/frm_char_data.h"
+#include "ui/frm_codenet_gui.h"
 #include "ui/frm_colors.h"
 #include "ui/frm_command.h"
 #include "ui/frm_pens.h"
@@ -73,6 +74,7 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   void mnuFullscreenView_Click();
   void SaveScreenshot();
   void ShowSpriteConverter();
+  void ShowCodenetGui();
   void ArrangeWindows();
 
   BuildDesk& Builds() { return builds_; }
@@ -104,6 +106,7 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   void ConnectAnimation();
   void ConnectBuilds();
   void BuildEnded(bool well);
+  void StopTools();
   void GiveFocusToPicture();
   void MakeChoiceMenus();
   void MakeRecentMenu();
@@ -148,6 +151,7 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   BuildDesk builds_;
   RecoveryDesk recovery_;
   frmBMP2SpriteMain* sprite_converter_ = nullptr;  // made when it is first asked for
+  frmCodenetGUI* codenet_gui_ = nullptr;           // likewise
 };
 
 }  // namespace kelvo::ui

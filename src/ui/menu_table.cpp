@@ -135,6 +135,8 @@ constexpr MenuEntry kEntries[] = {
 
     BuildEntry<3>(),
     BuildEntry<4>(),
+    {"mnuCodenetGUI", "mnuCodenet", "Codenet &GUI", "", "Send any file to a C64",
+     [](MainFrame& f) { f.ShowCodenetGui(); }},
     Separator("mnuCodenet"),
     {"mnuCodenetSettings", "mnuCodenet", "&Codenet settings...", "",
      "Where the C64 is, and the program's name on its disk", [](MainFrame& f) { f.Builds().ShowCodenetSettings(); }},

@@ -117,7 +117,7 @@ TEST_F(BuildCompoPicTest, MakesADiskAndShowsIt) {
 
 TEST_F(BuildCompoPicTest, SendsToTheC64WithoutVice) {
   settings.Write(kVicePath, "/gone");
-  settings.Write(kC64Ip, " 127.0.0.1 ");
+  settings.Write(kCodenetC64Ip, " 127.0.0.1 ");
   support::WriteText(folder / "art/My Pic.prg", "older");
   EXPECT_TRUE(Build(kPreview));
   EXPECT_EQ(prompt.lines.front(), "CODENET");

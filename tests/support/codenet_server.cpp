@@ -22,8 +22,9 @@ bool SameClient(const sockaddr_in& one, const sockaddr_in& other) {
 
 }  // namespace
 
-CodenetServer::CodenetServer(const Network& network) : network_(network), random_(network.seed) {
+CodenetServer::CodenetServer(const Network& network, std::uint16_t port) : network_(network), random_(network.seed) {
   sockaddr_in address = LoopbackAddress();
+  address.sin_port = htons(port);
   codenet::SocketLength size = sizeof(address);
   socket_ = socket(AF_INET, SOCK_DGRAM, 0);
   codenet::NeverBlock(socket_);

@@ -1,4 +1,4 @@
-// A C64 with Codenet for tests: UDP on 127.0.0.1 alone, at a free port, in a thread of its own.
+// A C64 with Codenet for tests: UDP on 127.0.0.1 alone, in a thread of its own.
 #pragma once
 
 #include <atomic>
@@ -27,7 +27,8 @@ struct Network {
 
 class CodenetServer {
  public:
-  explicit CodenetServer(const Network& network = {});
+  // At a free port unless one is named. Throws std::runtime_error where that is taken.
+  explicit CodenetServer(const Network& network = {}, std::uint16_t port = 0);
   ~CodenetServer();
   CodenetServer(const CodenetServer&) = delete;
   CodenetServer& operator=(const CodenetServer&) = delete;

@@ -1,0 +1,254 @@
+#include "ui/frm_codenet_gui.h"
+
+#include <QCloseEvent>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QRadioButton>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+#include "ui/qt_text.h"
+
+namespace kelvo::ui {
+namespace {
+
+// The text fields by number.
+enum Field { kDestination, kPrgName, kFile, kExecuteAddress, kPort, kHost, kPreview };
+
+QRadioButton* AddOption(QButtonGroup* group, int number, const QString& caption, const char* name) {
+  auto* option = new QRadioButton(caption);
+  option->setObjectName(QString("%1_%2").arg(name).arg(number));
+  group->addButton(option, number);
+  return option;
+}
+
+}  // namespace
+
+frmCodenetGUI::frmCodenetGUI(const Surroundings& with, QWidget* parent)
+    : QDialog(parent), with_(with), opbStd_(new QButtonGroup(this)), opbExec_(new QButtonGroup(this)) {
+  setObjectName("frmCodenetGUI");
+  setWindowTitle("Codenet GUI");
+  text_[kDestination] = AddField(kDestination, "Destination address");
+  text_[kPrgName] = AddField(kPrgName, "Preview PRG name");
+  text_[kFile] = AddField(kFile, "File to send to C64");
+  text_[kExecuteAddress] = AddField(kExecuteAddress, "Execute address");
+  text_[kPort] = AddField(kPort, "Port no of protocol");
+  text_[kHost] = AddField(kHost, "IP to C64 server");
+  text_[kPreview] = AddField(kPreview, "Command");
+  text_[kPreview]->setReadOnly(true);
+
+  auto* tabs = new QTabWidget;
+  tabs->setObjectName("tabStrip");
+  tabs->addTab(MakeSendTab(), "Send &file to C64");
+  tabs->addTab(MakeMemoryTab(), "&Memory operations");
+  tabs->addTab(MakeSettingsTab(), "Se&ttings");
+  outcome_ = new QLabel;
+  outcome_->setObjectName("lblOutcome");
+  outcome_->setWordWrap(true);
+  outcome_->setTextFormat(Qt::PlainText);
+  auto* exit = new QPushButton("&Exit");
+  exit->setObjectName("cmdExit");
+  exit->setAutoDefault(false);
+  connect(exit, &QPushButton::clicked, this, &QWidget::close);
+
+  auto* column = new QVBoxLayout(this);
+  column->addWidget(tabs);
+  auto* preview = new QFormLayout;
+  preview->addRow("Command", text_[kPreview]);
+  column->addLayout(preview);
+  auto* last_row = new QHBoxLayout;
+  last_row->addWidget(outcome_, 1);
+  last_row->addWidget(exit);
+  column->addLayout(last_row);
+
+  for (QLineEdit* field : text_) connect(field, &QLineEdit::textChanged, this, &frmCodenetGUI::Compose);
+  for (QButtonGroup* group : {opbStd_, opbExec_}) {
+    connect(group, &QButtonGroup::idToggled, this, &frmCodenetGUI::Compose);
+  }
+  connect(chkStd_, &QCheckBox::toggled, this, &frmCodenetGUI::Compose);
+  Load(c64out::LoadCodenetForm(with_.settings));
+}
+
+QLineEdit* frmCodenetGUI::AddField(int number, const QString& name) {
+  auto* field = new QLineEdit(this);
+  field->setObjectName(QString("txtStd_%1").arg(number));
+  field->setAccessibleName(name);
+  return field;
+}
+
+QWidget* frmCodenetGUI::MakeSendTab() {
+  auto* browse = new QPushButton("&Browse...");
+  browse->setObjectName("cmdBrowse");
+  browse->setAutoDefault(false);
+  connect(browse, &QPushButton::clicked, this, &frmCodenetGUI::Browse);
+  auto* file_row = new QHBoxLayout;
+  auto* file_label = new QLabel("File to send to &C64");
+  file_label->setBuddy(text_[kFile]);
+  file_row->addWidget(file_label);
+  file_row->addWidget(text_[kFile], 1);
+  file_row->addWidget(browse);
+
+  auto* type = new QGroupBox("File type");
+  auto* type_column = new QVBoxLayout(type);
+  type_column->addWidget(AddOption(opbStd_, 0, "File is &PRG", "opbStd"));
+  type_column->addWidget(AddOption(opbStd_, 1, "File is b&inary", "opbStd"));
+  chkStd_ = new QCheckBox("&Destination address");
+  chkStd_->setObjectName("chkStd_0");
+  auto* destination = new QHBoxLayout;
+  destination->addWidget(chkStd_);
+  destination->addWidget(new QLabel("$"));
+  destination->addWidget(text_[kDestination]);
+  type_column->addLayout(destination);
+  type_column->addStretch();
+
+  auto* execute = new QGroupBox("Execute options");
+  auto* execute_column = new QVBoxLayout(execute);
+  execute_column->addWidget(AddOption(opbExec_, 0, "E&xecute", "opbExec"));
+  auto* at_address = new QHBoxLayout;
+  at_address->addWidget(AddOption(opbExec_, 1, "Execute &address", "opbExec"));
+  at_address->addWidget(new QLabel("$"));
+  at_address->addWidget(text_[kExecuteAddress]);
+  execute_column->addLayout(at_address);
+  execute_column->addWidget(AddOption(opbExec_, 2, "Transfer &only", "opbExec"));
+  execute_column->addStretch();
+  for (const int address : {kDestination, kExecuteAddress}) {
+    text_[address]->setMaximumWidth(fontMetrics().averageCharWidth() * 12);
+    text_[address]->setToolTip("Four hexadecimal digits");
+  }
+
+  cmdSend_ = new QPushButton("&Send file to C64");
+  cmdSend_->setObjectName("cmdSend");
+  cmdSend_->setDefault(true);
+  connect(cmdSend_, &QPushButton::clicked, this, &frmCodenetGUI::Send);
+  cmdStop_ = new QPushButton("Stop t&ransfer");
+  cmdStop_->setObjectName("cmdStop");
+  cmdStop_->setAutoDefault(false);
+  cmdStop_->setEnabled(false);
+  connect(cmdStop_, &QPushButton::clicked, this, &frmCodenetGUI::Stop);
+
+  auto* tab = new QWidget;
+  auto* column = new QVBoxLayout(tab);
+  column->addLayout(file_row);
+  auto* groups = new QHBoxLayout;
+  groups->addWidget(type, 1);
+  groups->addWidget(execute, 1);
+  column->addLayout(groups);
+  auto* send_row = new QHBoxLayout;
+  send_row->addWidget(new QLabel("Don't forget to set codenet receive state"), 1);
+  send_row->addWidget(cmdStop_);
+  send_row->addWidget(cmdSend_);
+  column->addLayout(send_row);
+  return tab;
+}
+
+QWidget* frmCodenetGUI::MakeMemoryTab() {
+  auto* text = new QLabel("Not available in this version...");
+  text->setAlignment(Qt::AlignCenter);
+  return text;
+}
+
+QWidget* frmCodenetGUI::MakeSettingsTab() {
+  auto* tab = new QWidget;
+  auto* form = new QFormLayout(tab);
+  form->addRow("&IP to C64 server (needed)", text_[kHost]);
+  form->addRow("&Port no of protocol", text_[kPort]);
+  form->addRow("Preview PRG &name", text_[kPrgName]);
+  auto* note = new QLabel("Used when previewing the picture on the C64; overrides the picture's file name.");
+  note->setWordWrap(true);
+  form->addRow(note);
+  auto* save = new QPushButton("Sa&ve settings");
+  save->setObjectName("cmdSave");
+  save->setAutoDefault(false);
+  connect(save, &QPushButton::clicked, this, [this] {
+    c64out::SaveCodenetForm(with_.settings, Form());
+    outcome_->setText("Settings saved.");
+  });
+  form->addRow(save);
+  return tab;
+}
+
+void frmCodenetGUI::Load(const c64out::CodenetForm& form) {
+  is_loading_ = true;
+  text_[kFile]->setText(ToQt(form.file));
+  text_[kDestination]->setText(ToQt(form.destination));
+  text_[kExecuteAddress]->setText(ToQt(form.execute_address));
+  text_[kHost]->setText(ToQt(form.host));
+  text_[kPort]->setText(ToQt(form.port));
+  text_[kPrgName]->setText(ToQt(form.prg_name));
+  chkStd_->setChecked(form.set_destination);
+  opbStd_->button(static_cast<int>(form.file_type))->setChecked(true);
+  opbExec_->button(static_cast<int>(form.execute))->setChecked(true);
+  is_loading_ = false;
+  Compose();
+}
+
+c64out::CodenetForm frmCodenetGUI::Form() const {
+  const auto text = [this](int field) { return FromQt(text_.at(static_cast<std::size_t>(field))->text()); };
+  return {.file = text(kFile),
+          .file_type = static_cast<c64out::FileType>(opbStd_->checkedId()),
+          .set_destination = chkStd_->isChecked(),
+          .destination = text(kDestination),
+          .execute = static_cast<c64out::ExecuteChoice>(opbExec_->checkedId()),
+          .execute_address = text(kExecuteAddress),
+          .host = text(kHost),
+          .port = text(kPort),
+          .prg_name = text(kPrgName)};
+}
+
+void frmCodenetGUI::Compose() {
+  if (is_loading_) return;
+  const c64out::CodenetForm form = c64out::WithTrimmedFields(Form());
+  text_[kPort]->setText(ToQt(form.port));
+  text_[kDestination]->setText(ToQt(form.destination));
+  text_[kHost]->setText(ToQt(form.host));
+  const c64out::ComposedOptions composed = c64out::ComposeOptions(form, QFileInfo::exists(ToQt(form.file)));
+  text_[kPreview]->setText("codenet.exe " + ToQt(composed.options));
+  QPalette colours = palette();
+  if (composed.incomplete) colours.setColor(QPalette::Text, QColor(255, 0, 0));
+  text_[kPreview]->setPalette(colours);
+
+  const c64out::CodenetControls enabled = c64out::EnabledControls(form);
+  chkStd_->setEnabled(enabled.set_destination);
+  text_[kDestination]->setEnabled(enabled.destination);
+  opbExec_->button(0)->setEnabled(enabled.execute);
+  opbExec_->button(1)->setEnabled(enabled.execute_at_address);
+  opbExec_->button(2)->setEnabled(enabled.transfer_only);
+  text_[kExecuteAddress]->setEnabled(enabled.execute_address);
+}
+
+void frmCodenetGUI::Browse() {
+  const QString file = QFileDialog::getOpenFileName(this, "File to send to C64", text_[kFile]->text(),
+                                                    "PRG-files (*.prg);;All files (*.*)");
+  if (!file.isEmpty()) text_[kFile]->setText(file);
+}
+
+void frmCodenetGUI::Send() {
+  if (std::exchange(is_sending_, true)) return;
+  outcome_->setText("Sending...");
+  cmdSend_->setEnabled(false);
+  cmdStop_->setEnabled(true);
+  app::Guarded(
+      with_.log, "frmCodenetGUI_cmdSend",
+      [this] {
+        outcome_->setText(ToQt(c64out::SendFile(Form(), {with_.folders, with_.messages, with_.prompt, runner_})));
+      },
+      [this](const std::exception& error) { outcome_->setText(error.what()); });
+  cmdSend_->setEnabled(true);
+  cmdStop_->setEnabled(false);
+  is_sending_ = false;
+}
+
+// Escape stops a transfer first, and closes only then.
+void frmCodenetGUI::reject() {
+  if (is_sending_) return Stop();
+  QDialog::reject();
+}
+
+void frmCodenetGUI::closeEvent(QCloseEvent* event) {
+  Stop();
+  event->accept();
+}
+
+}  // namespace kelvo::ui

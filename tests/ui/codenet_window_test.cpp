@@ -1,0 +1,126 @@
+// The Codenet window with the real loader, against a C64 on this machine.
+#include <QLabel>
+#include <QLineEdit>
+#include <QRadioButton>
+
+#include "main_frame_fixture.h"
+#include "support/codenet_server.h"
+#include "ui/frm_codenet_gui.h"
+
+namespace kelvo::ui {
+namespace {
+
+class CodenetWindowTest : public MainFrameTest {
+ protected:
+  void Open() {
+    folders.Create();
+    folders.Seed(KELVO_SHARE);
+    settings.values["CodenetGUI/C64IP"] = "127.0.0.1";
+    settings.values["CodenetGUI/Port"] = std::to_string(server.Port());
+    Start();
+    Action("mnuCodenetGUI")->trigger();
+    window = Find("frmCodenetGUI");
+  }
+  QLineEdit* Text(int number) const { return window->findChild<QLineEdit*>(QString("txtStd_%1").arg(number)); }
+  template <typename Button = QAbstractButton>
+  Button* Control(const char* name) const {
+    return window->findChild<Button*>(name);
+  }
+  QString Outcome() const { return Control<QLabel>("lblOutcome")->text(); }
+  bool IsRed() const { return Text(6)->palette().color(QPalette::Text) == QColor(255, 0, 0); }
+  std::string File(const char* name, const app::Bytes& bytes) {
+    support::WriteFile(folder / name, bytes);
+    return app::TextFromPath(folder / name);
+  }
+
+  support::CodenetServer server;
+  QWidget* window = nullptr;
+};
+
+TEST_F(CodenetWindowTest, SendsWhatItsPreviewSays) {
+  Open();
+  EXPECT_TRUE(IsRed());  // no file yet
+  const app::Bytes prg{0x00, 0xC0, 1, 2, 3};
+  Text(2)->setText(ToQt(File("a b.prg", prg)));
+  const QString begin = QString("codenet.exe  -n 127.0.0.1 -p %1").arg(server.Port());
+  EXPECT_EQ(Text(6)->text(), begin + " -w [FILE]");
+  EXPECT_FALSE(IsRed());
+  QTest::mouseClick(Control("cmdSend"), Qt::LeftButton);
+  EXPECT_EQ(Outcome(), "Transfer complete.");
+  EXPECT_EQ(server.Machine().memory[0xC002], 3);
+
+  Control("opbExec_1")->click();
+  EXPECT_TRUE(IsRed());
+  Text(3)->setText("c000");
+  EXPECT_EQ(Text(6)->text(), begin + " -w [FILE] -e $c000");
+  EXPECT_FALSE(IsRed());
+  Control("cmdSend")->click();
+  EXPECT_EQ(server.Machine().jumps, std::vector{0xC000});
+
+  Control("opbStd_1")->click();
+  EXPECT_FALSE(Control("opbExec_0")->isEnabled());
+  EXPECT_FALSE(Text(3)->isEnabled());
+  Text(0)->setText("4000");
+  EXPECT_EQ(Text(6)->text(), begin + " -wb [FILE] $4000");
+  Control("cmdSend")->click();
+  EXPECT_EQ(server.Machine().memory[0x4001], 0xC0);
+
+  Control("cmdSave")->click();
+  EXPECT_EQ(settings.values["CodenetGUI/FileType"], "BIN");
+  EXPECT_EQ(settings.values["CodenetGUI/DestAddress"], "4000");
+  EXPECT_EQ(settings.values.count("CodenetSettings/C64IP"), 0U);
+}
+
+TEST_F(CodenetWindowTest, SaysWhatIsWrongAndCanSendAgain) {
+  Open();
+  const std::string good = File("good.prg", {1, 8, 1});
+  struct Case {
+    std::string host, port, file;
+  };
+  const std::string port = std::to_string(server.Port());
+  const Case cases[] = {
+      {"127.0.0.1", port, "/gone"},
+      {"127.0.0.1", port, app::TextFromPath(folder.Path())},
+      {"127.0.0.1", port, File("empty", {})},
+      {"127.0.0.1", port, File("one", {1})},
+      {"127.0.0.1", "0", good},
+      {"127.0.0.1", "99999", good},
+      {"127.0.0.1", "text", good},
+      {"127.0.0.1; touch x", port, good},
+      {"-x", port, good},
+      {"", port, good},
+  };
+  for (const Case& row : cases) {
+    SCOPED_TRACE(row.host + " " + row.port + " " + row.file);
+    Text(5)->setText(ToQt(row.host));
+    Text(4)->setText(ToQt(row.port));
+    Text(2)->setText(ToQt(row.file));
+    Control("cmdSend")->click();
+    EXPECT_FALSE(Outcome().isEmpty());
+    EXPECT_NE(Outcome(), "Transfer complete.");
+    EXPECT_TRUE(Control("cmdSend")->isEnabled());
+  }
+  EXPECT_EQ(server.Machine().packets, 0);
+  Text(5)->setText("127.0.0.1");
+  Text(4)->setText(ToQt(port));
+  Text(2)->setText(ToQt(good));
+  Control("cmdSend")->click();
+  EXPECT_EQ(Outcome(), "Transfer complete.");
+}
+
+TEST_F(CodenetWindowTest, ATransferCanBeStopped) {
+  Open();
+  const support::CodenetServer deaf({.vanishes_after = 1});
+  Text(4)->setText(QString::number(deaf.Port()));
+  Text(2)->setText(ToQt(File("long.prg", support::CountingBytes(2000))));
+  QTimer::singleShot(300, window, [this] {
+    EXPECT_FALSE(Control("cmdSend")->isEnabled());
+    QTest::keyClick(window, Qt::Key_Escape);
+  });
+  Control("cmdSend")->click();
+  EXPECT_EQ(Outcome(), "Transfer stopped.");
+  EXPECT_TRUE(window->isVisible());
+}
+
+}  // namespace
+}  // namespace kelvo::ui
