@@ -69,10 +69,11 @@ frmCodenetGUI::frmCodenetGUI(const Surroundings& with, QWidget* parent)
   }
   connect(chkStd_, &QCheckBox::toggled, this, &frmCodenetGUI::Compose);
   Load(c64out::LoadCodenetForm(with_.settings));
+  text_[kFile]->setFocus();
 }
 
 QLineEdit* frmCodenetGUI::AddField(int number, const QString& name) {
-  auto* field = new QLineEdit(this);
+  auto* field = new QLineEdit;
   field->setObjectName(QString("txtStd_%1").arg(number));
   field->setAccessibleName(name);
   return field;
