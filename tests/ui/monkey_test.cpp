@@ -1,0 +1,176 @@
+// Random hands on the real main window: nothing that they do may crash it, hang it, or let a window show something else
+// than the picture in memory. KELVO_MONKEY_EVENTS and KELVO_MONKEY_SEED say how long and which.
+#include <QAbstractButton>
+#include <QDialog>
+#include <QDrag>
+#include <QLineEdit>
+#include <QWheelEvent>
+#include <random>
+
+#include "main_frame_fixture.h"
+#include "model/full_view.h"
+#include "ui/frm_bmp_view.h"
+
+namespace kelvo::ui {
+namespace {
+
+constexpr int kEventsBetweenChecks = 500;
+constexpr int kAnswerMilliseconds = 1;
+// A key more often than others: what moves, chooses, paints and submits.
+constexpr std::array kKeys{Qt::Key_Escape, Qt::Key_Return, Qt::Key_Space,  Qt::Key_Tab,    Qt::Key_Left, Qt::Key_Right,
+                           Qt::Key_Up,     Qt::Key_Down,   Qt::Key_PageUp, Qt::Key_Home,   Qt::Key_End,  Qt::Key_F3,
+                           Qt::Key_F11,    Qt::Key_Delete, Qt::Key_Alt,    Qt::Key_Control};
+constexpr std::array kModifiers{Qt::NoModifier,    Qt::NoModifier,      Qt::NoModifier,
+                                Qt::ShiftModifier, Qt::ControlModifier, Qt::AltModifier};
+
+class Monkey : public MainFrameTest {
+ protected:
+  Monkey() {
+    settings.values["CodenetSettings/C64IP"] = settings.values["CodenetGUI/C64IP"] = "127.0.0.1";
+    Start();
+    AnswerSoon();
+  }
+
+  static int FromEnvironment(const char* name, int otherwise) {
+    return qEnvironmentVariableIsSet(name) ? qEnvironmentVariableIntValue(name) : otherwise;
+  }
+  int Random(int below) { return below < 1 ? 0 : static_cast<int>(random_() % static_cast<unsigned>(below)); }
+  template <typename Items>
+  auto OneOf(const Items& items) {
+    return items[static_cast<decltype(items.size())>(Random(static_cast<int>(items.size())))];
+  }
+
+  // A visible widget of any of the program's windows; the zoom window's picture more often than others.
+  QWidget* AnyWidget() {
+    if (Random(3) == 0) return Box("frmZoom");
+    QList<QWidget*> visible;
+    for (QWidget* widget : QApplication::allWidgets()) {
+      if (widget->isVisible()) visible << widget;
+    }
+    return visible.isEmpty() ? frame.get() : OneOf(visible);
+  }
+  QPoint AnyPlace(const QWidget& widget) { return {Random(widget.width() + 8) - 4, Random(widget.height() + 8) - 4}; }
+
+  void Mouse() {
+    QPointer<QWidget> widget = AnyWidget();
+    const Qt::MouseButton button = OneOf(std::array{Qt::LeftButton, Qt::LeftButton, Qt::RightButton, Qt::MiddleButton});
+    const Qt::KeyboardModifiers modifiers = OneOf(kModifiers);
+    using MouseEvent = void (*)(QWidget*, Qt::MouseButton, Qt::KeyboardModifiers, QPoint, int);
+    const auto act = [&](MouseEvent what) {
+      if (widget && widget->isVisible()) what(widget, button, modifiers, AnyPlace(*widget), -1);
+    };
+    switch (Random(5)) {
+      case 0:
+        return act(&QTest::mouseDClick);
+      case 1: {  // a drag, sometimes without its release
+        act(&QTest::mousePress);
+        for (int move = Random(6); move > 0 && widget; --move) {
+          const QPoint at = AnyPlace(*widget);
+          QMouseEvent event(QEvent::MouseMove, at, widget->mapToGlobal(at), Qt::NoButton, button, modifiers);
+          QApplication::sendEvent(widget, &event);
+        }
+        if (Random(10) != 0) act(&QTest::mouseRelease);
+        return;
+      }
+      default:
+        return act(&QTest::mouseClick);
+    }
+  }
+  void Wheel() {
+    QWidget* widget = AnyWidget();
+    const QPoint at = AnyPlace(*widget);
+    QWheelEvent event(at, widget->mapToGlobal(at), {}, {Random(3) * 120 - 120, Random(3) * 120 - 120}, Qt::NoButton,
+                      OneOf(kModifiers), Qt::NoScrollPhase, false);
+    QApplication::sendEvent(widget, &event);
+  }
+  void Key() {
+    QWidget* focus = QApplication::focusWidget();
+    QWidget* widget = focus != nullptr && Random(2) == 0 ? focus : AnyWidget();
+    const Qt::Key key = Random(2) == 0 ? OneOf(kKeys) : static_cast<Qt::Key>(Qt::Key_Space + Random(64));
+    QTest::keyClick(widget, key, OneOf(kModifiers));
+  }
+  void MenuEntry() {
+    QList<QAction*> enabled;
+    for (QAction* action : frame->findChildren<QAction*>()) {
+      if (action->isEnabled() && !action->objectName().isEmpty()) enabled << action;
+    }
+    OneOf(enabled)->trigger();
+  }
+
+  // A new timer each time: one that is at work does not fire again in the dialog that its answer opened.
+  void AnswerSoon() {
+    QTimer::singleShot(kAnswerMilliseconds, &lifetime_, [this] {
+      AnswerSoon();
+      Answer();
+    });
+  }
+  // Whoever waits for an answer gets one: a dialog, a menu, a drag.
+  void Answer() {
+    if (QWidget* popup = QApplication::activePopupWidget()) {
+      return Random(2) == 0 ? static_cast<void>(popup->close()) : QTest::keyClick(popup, OneOf(kKeys));
+    }
+    QDrag::cancel();
+    auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    if (dialog == nullptr) return;
+    const auto fields = dialog->findChildren<QLineEdit*>();
+    const auto buttons = dialog->findChildren<QAbstractButton*>();
+    switch (Random(4)) {
+      case 0:
+        return dialog->reject();
+      case 1:
+        if (!fields.isEmpty()) QTest::keyClicks(OneOf(fields), QString("pic%1").arg(Random(4)));
+        return;
+      case 2:
+        return QTest::keyClick(dialog, Qt::Key_Return);
+      default:
+        if (!buttons.isEmpty()) OneOf(buttons)->click();
+    }
+  }
+
+  void DoAnything() {
+    const int kind = Random(100);
+    if (kind < 55) return Mouse();
+    if (kind < 65) return Wheel();
+    if (kind < 94) return Key();
+    if (kind < 99) return MenuEntry();
+    QApplication::processEvents();
+    if (!frame->isVisible()) frame->show();
+  }
+
+  void ExpectTheViewShowsThePicture() {
+    QApplication::processEvents();
+    model::Surface expected(model::kFullViewWidth, model::kFullViewHeight);
+    app::NoProgress no_progress;
+    model::DrawPicture(frame->Document().picture, expected, no_progress);
+    const QImage shown = Find<frmBMPView>("frmBMPView")->Picture();
+    for (int y = 0; y < model::kFullViewHeight; ++y) {
+      for (int x = 0; x < model::kFullViewWidth; ++x) {
+        ASSERT_EQ(shown.pixel(x, y), expected.At(x, y)) << x << ' ' << y;
+      }
+    }
+  }
+
+  std::mt19937 random_;
+  QObject lifetime_;
+};
+
+TEST_F(Monkey, NeitherCrashesNorHangsNorConfusesTheViews) {
+  const int events = FromEnvironment("KELVO_MONKEY_EVENTS", 4000);
+  const int seed = FromEnvironment("KELVO_MONKEY_SEED", static_cast<int>(std::random_device()() % 100000));
+  std::cout << events << " events, KELVO_MONKEY_SEED=" << seed << std::endl;
+  random_.seed(static_cast<unsigned>(seed));
+  int changes = 0;
+  model::PictureImage before = frame->Document().picture;
+  for (int event = 1; event <= events && !HasFatalFailure(); ++event) {
+    DoAnything();
+    if (event % kEventsBetweenChecks != 0) continue;
+    ExpectTheViewShowsThePicture();
+    if (frame->Document().picture != before) ++changes;
+    before = frame->Document().picture;
+  }
+  EXPECT_GT(changes, 0) << "it has not painted";
+  frame->Files().New();  // nothing is left to be asked for
+}
+
+}  // namespace
+}  // namespace kelvo::ui
