@@ -10,14 +10,20 @@
 #include "model/full_view.h"
 #include "model/zoom_view.h"
 #include "support/mazes.h"
+#include "support/painted.h"
 #include "support/pictures.h"
 
 namespace kelvo::editing {
 namespace {
 
 const bench::GoalRegistration kGoals{
-    {"BlankFill", "ScanlineFill", 40, 0}, {"BlankFill", "", 0, 2000},     {"MazeFill", "BlankFill", 3, 0},
-    {"TreeFill", "BlankFill", 3, 0},      {"PlotWithRedraws", "", 0, 10},
+    {"BlankFill", "ScanlineFill", 40, 0},
+    {"BlankFill", "", 0, 2000},
+    {"MazeFill", "BlankFill", 3, 0},
+    {"TreeFill", "BlankFill", 3, 0},
+    {"PlotWithRedraws", "", 0, 10},
+    {"FillOfFortyPercent", "FillOfFourPercent", 12, 0},
+    {"BlankFill", "FillOfFortyPercent", 3, 0},
 };
 
 class NobodyWatches final : public model::PictureViews, public app::ProcessEvents {
@@ -91,6 +97,26 @@ void BlankFill(benchmark::State& state) {
   Fill(state, {});
 }
 BENCHMARK(BlankFill);
+
+// A field of `rows` rows of cells above a wall: what a fill costs as it grows.
+void FieldFill(benchmark::State& state, int rows) {
+  model::PictureImage picture;
+  for (int column = 0; column < model::PictureImage::kCellsWide; ++column) {
+    support::SetCell(picture, rows * model::PictureImage::kCellsWide + column + 1,
+                     {255, 255, 255, 255, 255, 255, 255, 255}, 7, 0, 0);
+  }
+  Fill(state, picture);
+}
+
+void FillOfFourPercent(benchmark::State& state) {
+  FieldFill(state, 1);
+}
+BENCHMARK(FillOfFourPercent);
+
+void FillOfFortyPercent(benchmark::State& state) {
+  FieldFill(state, 10);
+}
+BENCHMARK(FillOfFortyPercent);
 
 void MazeFill(benchmark::State& state) {
   Fill(state, support::Maze());

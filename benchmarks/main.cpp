@@ -1,11 +1,12 @@
-// Runs the benchmarks and prints, for each goal: operation, time, reference, ratio, goal, met or not.
+// Runs the benchmarks and reports each goal. What Google Benchmark itself says goes to the error stream.
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
-#include <cstdio>
+#include <iostream>
 #include <map>
 
 #include "goals.h"
+#include "row.h"
 
 namespace kelvo::bench {
 
@@ -30,26 +31,21 @@ class GoalReporter final : public benchmark::ConsoleReporter {
   }
 
   // True when every goal that was measured is met.
-  bool PrintGoals() const {
+  bool ReportGoals() const {
     bool all_met = true;
-    std::printf("\n%-28s %12s  %-28s %12s %8s %22s\n", "operation", "time us", "reference", "time us", "ratio", "goal");
     for (const Goal& goal : Goals()) {
       if (best_.count(goal.operation) != 0 && (goal.reference.empty() || best_.count(goal.reference) != 0)) {
-        all_met &= PrintGoal(goal);
+        all_met &= ReportGoal(goal);
       }
     }
     return all_met;
   }
 
  private:
-  bool PrintGoal(const Goal& goal) const {
-    const double time = best_.at(goal.operation);
+  bool ReportGoal(const Goal& goal) const {
     const double reference = goal.reference.empty() ? 0 : best_.at(goal.reference);
-    const bool met = time <= goal.factor * reference + goal.plus_microseconds;
-    std::printf("%-28s %12.3f  %-28s %12.3f %8.3f %9.3f x + %4.0f us  %s\n", goal.operation.c_str(), time,
-                goal.reference.c_str(), reference, reference > 0 ? time / reference : 0.0, goal.factor,
-                goal.plus_microseconds, met ? "met" : "NOT MET");
-    return met;
+    return Report({goal.operation, best_.at(goal.operation), "us", goal.reference, reference,
+                   goal.factor * reference + goal.plus_microseconds});
   }
 
   std::map<std::string, double> best_;
@@ -61,6 +57,7 @@ class GoalReporter final : public benchmark::ConsoleReporter {
 int main(int argc, char** argv) {
   benchmark::Initialize(&argc, argv);
   kelvo::bench::GoalReporter reporter;
+  reporter.SetOutputStream(&std::cerr);
   benchmark::RunSpecifiedBenchmarks(&reporter);
-  return reporter.PrintGoals() ? 0 : 1;
+  return reporter.ReportGoals() ? 0 : 1;
 }
