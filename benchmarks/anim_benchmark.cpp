@@ -11,8 +11,8 @@ namespace kelvo::anim {
 namespace {
 
 const bench::GoalRegistration kGoals{
-    {"Frames100", "Frames10", 12, 0},
-    {"Frames1000", "Frames100", 12, 0},
+    {"Frames100", "Frames10", 15, 0},
+    {"Frames1000", "Frames100", 15, 0},
 };
 
 void Frames(benchmark::State& state, int count) {
