@@ -1,8 +1,8 @@
 # The Debian packages that each job needs; sourced by the other scripts.
 build_packages=(g++ cmake ninja-build ccache qt6-base-dev libgl-dev libqt6svg6)
-run_packages=(libqt6gui6 libqt6widgets6 fonts-dejavu-core)
+run_packages=(libqt6gui6 libqt6widgets6 fonts-dejavu-core 64tass)
 headless_packages=(xvfb xauth openbox imagemagick)
-test_packages=(libgtest-dev 64tass)
+test_packages=(libgtest-dev)
 end_to_end_packages=(xvfb xauth openbox xdotool imagemagick)
 benchmark_packages=(libbenchmark-dev xvfb xauth openbox xdotool)
 check_packages=(clang-format clang-tidy cppcheck)
