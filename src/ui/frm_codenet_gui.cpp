@@ -48,10 +48,6 @@ frmCodenetGUI::frmCodenetGUI(const Surroundings& with, QWidget* parent)
   outcome_->setObjectName("lblOutcome");
   outcome_->setWordWrap(true);
   outcome_->setTextFormat(Qt::PlainText);
-  auto* exit = new QPushButton("&Exit");
-  exit->setObjectName("cmdExit");
-  exit->setAutoDefault(false);
-  connect(exit, &QPushButton::clicked, this, &QWidget::close);
 
   auto* column = new QVBoxLayout(this);
   column->addWidget(tabs);
@@ -60,7 +56,7 @@ frmCodenetGUI::frmCodenetGUI(const Surroundings& with, QWidget* parent)
   column->addLayout(preview);
   auto* last_row = new QHBoxLayout;
   last_row->addWidget(outcome_, 1);
-  last_row->addWidget(exit);
+  last_row->addWidget(MakeButton("cmdExit", "&Exit", &frmCodenetGUI::Exit));
   column->addLayout(last_row);
 
   for (QLineEdit* field : text_) connect(field, &QLineEdit::textChanged, this, &frmCodenetGUI::Compose);
@@ -80,68 +76,77 @@ QLineEdit* frmCodenetGUI::AddField(int number, const QString& name) {
 }
 
 QWidget* frmCodenetGUI::MakeSendTab() {
-  auto* browse = new QPushButton("&Browse...");
-  browse->setObjectName("cmdBrowse");
-  browse->setAutoDefault(false);
-  connect(browse, &QPushButton::clicked, this, &frmCodenetGUI::Browse);
-  auto* file_row = new QHBoxLayout;
-  auto* file_label = new QLabel("File to send to &C64");
-  file_label->setBuddy(text_[kFile]);
-  file_row->addWidget(file_label);
-  file_row->addWidget(text_[kFile], 1);
-  file_row->addWidget(browse);
-
-  auto* type = new QGroupBox("File type");
-  auto* type_column = new QVBoxLayout(type);
-  type_column->addWidget(AddOption(opbStd_, 0, "File is &PRG", "opbStd"));
-  type_column->addWidget(AddOption(opbStd_, 1, "File is b&inary", "opbStd"));
-  chkStd_ = new QCheckBox("&Destination address");
-  chkStd_->setObjectName("chkStd_0");
-  auto* destination = new QHBoxLayout;
-  destination->addWidget(chkStd_);
-  destination->addWidget(new QLabel("$"));
-  destination->addWidget(text_[kDestination]);
-  type_column->addLayout(destination);
-  type_column->addStretch();
-
-  auto* execute = new QGroupBox("Execute options");
-  auto* execute_column = new QVBoxLayout(execute);
-  execute_column->addWidget(AddOption(opbExec_, 0, "E&xecute", "opbExec"));
-  auto* at_address = new QHBoxLayout;
-  at_address->addWidget(AddOption(opbExec_, 1, "Execute &address", "opbExec"));
-  at_address->addWidget(new QLabel("$"));
-  at_address->addWidget(text_[kExecuteAddress]);
-  execute_column->addLayout(at_address);
-  execute_column->addWidget(AddOption(opbExec_, 2, "Transfer &only", "opbExec"));
-  execute_column->addStretch();
-  for (const int address : {kDestination, kExecuteAddress}) {
-    text_[address]->setMaximumWidth(fontMetrics().averageCharWidth() * 12);
-    text_[address]->setToolTip("Four hexadecimal digits");
-  }
-
-  cmdSend_ = new QPushButton("&Send file to C64");
-  cmdSend_->setObjectName("cmdSend");
-  cmdSend_->setDefault(true);
-  connect(cmdSend_, &QPushButton::clicked, this, &frmCodenetGUI::Send);
-  cmdStop_ = new QPushButton("Stop t&ransfer");
-  cmdStop_->setObjectName("cmdStop");
-  cmdStop_->setAutoDefault(false);
-  cmdStop_->setEnabled(false);
-  connect(cmdStop_, &QPushButton::clicked, this, &frmCodenetGUI::Stop);
-
   auto* tab = new QWidget;
   auto* column = new QVBoxLayout(tab);
-  column->addLayout(file_row);
+  column->addLayout(MakeFileRow());
   auto* groups = new QHBoxLayout;
-  groups->addWidget(type, 1);
-  groups->addWidget(execute, 1);
+  groups->addWidget(MakeTypeGroup(), 1);
+  groups->addWidget(MakeExecuteGroup(), 1);
   column->addLayout(groups);
-  auto* send_row = new QHBoxLayout;
-  send_row->addWidget(new QLabel("Don't forget to set codenet receive state"), 1);
-  send_row->addWidget(cmdStop_);
-  send_row->addWidget(cmdSend_);
-  column->addLayout(send_row);
+  column->addLayout(MakeSendRow());
   return tab;
+}
+
+QLayout* frmCodenetGUI::MakeFileRow() {
+  auto* row = new QHBoxLayout;
+  auto* label = new QLabel("File to send to &C64");
+  label->setBuddy(text_[kFile]);
+  row->addWidget(label);
+  row->addWidget(text_[kFile], 1);
+  row->addWidget(MakeButton("cmdBrowse", "&Browse...", &frmCodenetGUI::Browse));
+  return row;
+}
+
+QWidget* frmCodenetGUI::MakeTypeGroup() {
+  auto* group = new QGroupBox("File type");
+  auto* column = new QVBoxLayout(group);
+  column->addWidget(AddOption(opbStd_, 0, "File is &PRG", "opbStd"));
+  column->addWidget(AddOption(opbStd_, 1, "File is b&inary", "opbStd"));
+  chkStd_ = new QCheckBox("&Destination address");
+  chkStd_->setObjectName("chkStd_0");
+  column->addLayout(MakeAddressRow(chkStd_, text_[kDestination]));
+  column->addStretch();
+  return group;
+}
+
+QWidget* frmCodenetGUI::MakeExecuteGroup() {
+  auto* group = new QGroupBox("Execute options");
+  auto* column = new QVBoxLayout(group);
+  column->addWidget(AddOption(opbExec_, 0, "E&xecute", "opbExec"));
+  column->addLayout(MakeAddressRow(AddOption(opbExec_, 1, "Execute &address", "opbExec"), text_[kExecuteAddress]));
+  column->addWidget(AddOption(opbExec_, 2, "Transfer &only", "opbExec"));
+  column->addStretch();
+  return group;
+}
+
+QLayout* frmCodenetGUI::MakeAddressRow(QWidget* choice, QLineEdit* address) {
+  address->setMaximumWidth(fontMetrics().averageCharWidth() * 12);
+  address->setToolTip("Four hexadecimal digits");
+  auto* row = new QHBoxLayout;
+  row->addWidget(choice);
+  row->addWidget(new QLabel("$"));
+  row->addWidget(address);
+  return row;
+}
+
+QLayout* frmCodenetGUI::MakeSendRow() {
+  cmdSend_ = MakeButton("cmdSend", "&Send file to C64", &frmCodenetGUI::Send);
+  cmdSend_->setDefault(true);
+  cmdStop_ = MakeButton("cmdStop", "Stop t&ransfer", &frmCodenetGUI::Stop);
+  cmdStop_->setEnabled(false);
+  auto* row = new QHBoxLayout;
+  row->addWidget(new QLabel("Don't forget to set codenet receive state"), 1);
+  row->addWidget(cmdStop_);
+  row->addWidget(cmdSend_);
+  return row;
+}
+
+QPushButton* frmCodenetGUI::MakeButton(const char* name, const QString& caption, void (frmCodenetGUI::*clicked)()) {
+  auto* button = new QPushButton(caption);
+  button->setObjectName(name);
+  button->setAutoDefault(false);
+  connect(button, &QPushButton::clicked, this, clicked);
+  return button;
 }
 
 QWidget* frmCodenetGUI::MakeMemoryTab() {
@@ -159,15 +164,13 @@ QWidget* frmCodenetGUI::MakeSettingsTab() {
   auto* note = new QLabel("Used when previewing the picture on the C64; overrides the picture's file name.");
   note->setWordWrap(true);
   form->addRow(note);
-  auto* save = new QPushButton("Sa&ve settings");
-  save->setObjectName("cmdSave");
-  save->setAutoDefault(false);
-  connect(save, &QPushButton::clicked, this, [this] {
-    c64out::SaveCodenetForm(with_.settings, Form());
-    outcome_->setText("Settings saved.");
-  });
-  form->addRow(save);
+  form->addRow(MakeButton("cmdSave", "Sa&ve settings", &frmCodenetGUI::Save));
   return tab;
+}
+
+void frmCodenetGUI::Save() {
+  c64out::SaveCodenetForm(with_.settings, Form());
+  outcome_->setText("Settings saved.");
 }
 
 void frmCodenetGUI::Load(const c64out::CodenetForm& form) {

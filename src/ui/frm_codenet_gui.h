@@ -12,7 +12,7 @@
 #include "c64out/send_file.h"
 #include "ui/qt_tool_runner.h"
 
-class QGridLayout;
+class QLayout;
 
 namespace kelvo::ui {
 
@@ -38,14 +38,22 @@ class frmCodenetGUI : public QDialog {
 
  private:
   QWidget* MakeSendTab();
+  QLayout* MakeFileRow();
+  QWidget* MakeTypeGroup();
+  QWidget* MakeExecuteGroup();
+  QLayout* MakeAddressRow(QWidget* choice, QLineEdit* address);
+  QLayout* MakeSendRow();
   QWidget* MakeMemoryTab();
   QWidget* MakeSettingsTab();
+  QPushButton* MakeButton(const char* name, const QString& caption, void (frmCodenetGUI::*clicked)());
   QLineEdit* AddField(int number, const QString& name);
   void Load(const c64out::CodenetForm& form);
   c64out::CodenetForm Form() const;
   void Compose();
   void Browse();
   void Send();
+  void Save();
+  void Exit() { close(); }
 
   Surroundings with_;
   QtToolRunner runner_;
