@@ -1,0 +1,224 @@
+#include "support/c64_machine.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <string>
+
+namespace kelvo::support {
+namespace {
+
+constexpr std::uint16_t kBasicLine = 0x0801, kBackInBasic = 0xE147, kIrqHandler = 0xEA31, kNmiHandler = 0xFE47;
+constexpr std::uint8_t kRts = 0x60, kSys = 0x9E;
+constexpr std::uint64_t kJiffy = 16421;
+
+// Zero page bytes that a program may change and still return to BASIC, or be stopped by STOP and RESTORE.
+struct Range {
+  int first, last;
+};
+constexpr Range kFreeZeroPage[] = {{0x00, 0x06}, {0x22, 0x2A}, {0x57, 0x72}, {0x8B, 0x8F}, {0xFB, 0xFF}};
+
+bool IsFree(std::uint16_t address) {
+  return std::any_of(std::begin(kFreeZeroPage), std::end(kFreeZeroPage),
+                     [address](Range free) { return address >= free.first && address <= free.last; });
+}
+
+std::string Hex(std::uint16_t value) {
+  char text[8];
+  std::snprintf(text, sizeof text, "$%04X", static_cast<unsigned>(value));
+  return text;
+}
+
+}  // namespace
+
+C64Machine::C64Machine() {
+  for (std::size_t i = 0; i < ram_.size(); ++i) ram_[i] = static_cast<std::uint8_t>(i * 37 + (i >> 8) * 11);
+  for (std::size_t i = 0x800; i < 0xC00; ++i) io_[i] = static_cast<std::uint8_t>(i * 5);
+  ram_[0x00] = 0x2F;
+  ram_[0x01] = 0x37;
+  const std::pair<std::uint16_t, std::uint16_t> vectors[] = {{0x0314, kIrqHandler}, {0x0318, kNmiHandler}};
+  for (const auto& [vector, handler] : vectors) {
+    Poke(vector, static_cast<std::uint8_t>(handler));
+    Poke(static_cast<std::uint16_t>(vector + 1), static_cast<std::uint8_t>(handler >> 8));
+  }
+  const std::pair<std::size_t, std::uint8_t> registers[] = {{0x11, 0x1B},  {0x16, 0xC8},  {0x18, 0x15},
+                                                            {0x15, 0xFF},  {0x20, 14},    {0x21, 6},
+                                                            {0xC0D, 0x81}, {0xD00, 0x97}, {0xD02, 0x3F}};
+  for (const auto& [index, value] : registers) io_[index] = value;
+  for (const std::uint16_t handler : {kIrqHandler, kNmiHandler}) traps_[handler] = nullptr;
+}
+
+void C64Machine::Poke(std::uint16_t address, std::uint8_t value) {
+  ram_[address] = value;
+  written_[address] = true;
+}
+
+void C64Machine::Load(std::span<const std::uint8_t> prg) {
+  if (prg.size() < 3) throw MachineFault("the PRG is empty");
+  std::size_t address = static_cast<std::size_t>(prg[0] | prg[1] << 8);
+  for (const std::uint8_t byte : prg.subspan(2)) {
+    if (address >= 0xD000) throw MachineFault("the PRG reaches into I/O");
+    Poke(static_cast<std::uint16_t>(address++), byte);
+  }
+}
+
+std::uint16_t C64Machine::SysAddress() const {
+  std::uint16_t at = kBasicLine + 4;  // behind the next line's address and the line's number
+  if (ram_[at++] != kSys) throw MachineFault("the BASIC line does not begin with SYS");
+  while (ram_[at] == ' ') ++at;
+  int address = 0;
+  for (; ram_[at] >= '0' && ram_[at] <= '9'; ++at) address = address * 10 + ram_[at] - '0';
+  const int next = ram_[kBasicLine] | ram_[kBasicLine + 1] << 8;
+  if (ram_[at] != 0 || next != at + 1 || ram_[at + 1] != 0 || ram_[at + 2] != 0) {
+    throw MachineFault("the BASIC program does not end behind its line");
+  }
+  return static_cast<std::uint16_t>(address);
+}
+
+C64Machine::Ending C64Machine::Run(std::uint64_t most_cycles) {
+  cpu_.stack = unclean_ ? 0x20 : 0xF8;
+  cpu_.Set(Cpu6502::kDecimal, unclean_);
+  cpu_.Push((kBackInBasic - 1) >> 8);
+  cpu_.Push((kBackInBasic - 1) & 0xFF);
+  stack_at_start_ = cpu_.stack;
+  cpu_.pc = SysAddress();
+  next_restore_ = restore_every_;
+  next_jiffy_ = kJiffy;
+  while (cpu_.cycles < most_cycles) {
+    if (cpu_.pc == kBackInBasic && Chip(kBackInBasic) == Area::kRom) return Ending::kReturns;
+    const std::uint16_t before = cpu_.pc;
+    Interrupts();
+    if (cpu_.Has(Cpu6502::kDecimal) && written_[cpu_.pc] && (ram_[cpu_.pc] & 0x63) == 0x61) {
+      Fault("adding in decimal mode", cpu_.pc);
+    }
+    cpu_.Step();
+    CallTrap();
+    if (cpu_.pc == before && ram_[before] == 0x4C) return Ending::kLoops;
+  }
+  Fault("no end in sight", cpu_.pc);
+}
+
+void C64Machine::Interrupts() {
+  if (restore_every_ != 0 && cpu_.cycles >= next_restore_) {
+    next_restore_ += restore_every_;
+    cpu_.Interrupt(0xFFFA);
+  } else if (cpu_.cycles >= next_jiffy_) {
+    next_jiffy_ += kJiffy;
+    if ((io_[0xC0D] & 1) == 0 || cpu_.Has(Cpu6502::kInterruptsOff)) return;
+    cpu_.Interrupt(0xFFFE);
+    for (const std::uint8_t value : {cpu_.a, cpu_.x, cpu_.y}) cpu_.Push(value);
+  } else {
+    return;
+  }
+  CallTrap();
+}
+
+// A trap without a routine is the KERNAL's own answer to an interrupt, which changes nothing that a program sees.
+void C64Machine::CallTrap() {
+  if (Chip(cpu_.pc) != Area::kRom || cpu_.pc == kBackInBasic) return;
+  const auto trap = traps_.find(cpu_.pc);
+  if (trap == traps_.end()) Fault("jump into a ROM", cpu_.pc);
+  if (trap->second) {
+    trap->second(cpu_);
+    cpu_.ReturnFromSubroutine();
+    return;
+  }
+  if (trap->first == kIrqHandler) cpu_.y = cpu_.Pull(), cpu_.x = cpu_.Pull(), cpu_.a = cpu_.Pull();
+  cpu_.cycles += 200;
+  cpu_.ReturnFromInterrupt();
+}
+
+C64Machine::Area C64Machine::Chip(std::uint16_t address) const {
+  const int port = (ram_[1] | ~ram_[0]) & 7;
+  const bool basic = (port & 3) == 3, kernal = (port & 2) != 0, any = (port & 3) != 0;
+  if (address >= 0xE000) return kernal ? Area::kRom : Area::kRam;
+  if (address >= 0xD000) return !any ? Area::kRam : (port & 4) != 0 ? Area::kIo : Area::kRom;
+  return address >= 0xA000 && address < 0xC000 && basic ? Area::kRom : Area::kRam;
+}
+
+std::uint8_t C64Machine::Read(std::uint16_t address) {
+  switch (Chip(address)) {
+    case Area::kRam:
+      return ram_[address];
+    case Area::kIo:
+      return ReadIo(address);
+    case Area::kRom:
+      break;
+  }
+  // The KERNAL's interrupt entries go on through their vectors in RAM.
+  if (address == 0xFFFE || address == 0xFFFF) return ram_[address - 0xFFFE + 0x0314];
+  if (address == 0xFFFA || address == 0xFFFB) return ram_[address - 0xFFFA + 0x0318];
+  Fault("reading a ROM as data", address);
+}
+
+std::uint8_t C64Machine::Fetch(std::uint16_t address) {
+  if (Chip(address) != Area::kRam) Fault("running outside RAM", address);
+  if (!written_[address]) Fault("running what nobody wrote", address);
+  return ram_[address];
+}
+
+void C64Machine::Write(std::uint16_t address, std::uint8_t value) {
+  if (ShowsBitmap() && IsShown(address)) Fault("changing what is shown", address);
+  if (Chip(address) == Area::kIo) return WriteIo(address, value);
+  if (address < 0x100 && !IsFree(address)) Fault("writing a zero page byte that BASIC and KERNAL keep", address);
+  Poke(address, value);
+}
+
+std::uint8_t C64Machine::ReadIo(std::uint16_t address) {
+  const std::size_t index = address - 0xD000U;
+  open_bus_ = static_cast<std::uint8_t>(open_bus_ * 5 + 0x70);
+  if (index >= 0x800 && index < 0xC00) return static_cast<std::uint8_t>((io_[index] & 0x0F) | (open_bus_ & 0xF0));
+  if (index >= 0x400 && index < 0x800) return 0;  // the SID tells nothing of what was written
+  const auto line = static_cast<unsigned>(cpu_.cycles / 63 % 312);
+  if (index == 0x12) return static_cast<std::uint8_t>(line);
+  if (index == 0x11) return static_cast<std::uint8_t>((io_[0x11] & 0x7F) | (line >= 256 ? 0x80 : 0));
+  return index >= 0x20 && index < 0x30 ? io_[index] | 0xF0 : io_[index];
+}
+
+void C64Machine::WriteIo(std::uint16_t address, std::uint8_t value) {
+  const std::size_t index = address - 0xD000U;
+  const bool interrupt_mask = index == 0xC0D || index == 0xD0D;
+  if (!interrupt_mask) {
+    io_[index] = value;
+  } else if ((value & 0x80) != 0) {
+    io_[index] |= value & 0x1F;
+  } else {
+    io_[index] &= static_cast<std::uint8_t>(~value);
+  }
+}
+
+bool C64Machine::IsShown(std::uint16_t address) const {
+  if (Chip(address) == Area::kIo) {
+    return (address >= 0xD800 && address < 0xDBE8) || address == 0xD016 || address == 0xD018 || address == 0xD021 ||
+           address == 0xDD00 || address == 0xDD02;
+  }
+  const int offset = address - BankBase();
+  const int bitmap = (io_[0x18] & 8) << 10, screen = (io_[0x18] & 0xF0) << 6;
+  return (offset >= bitmap && offset < bitmap + 8000) || (offset >= screen && offset < screen + 1000);
+}
+
+std::uint16_t C64Machine::BankBase() const {
+  const int lines = (io_[0xD00] | ~io_[0xD02]) & 3;  // lines that are no outputs are pulled up
+  return static_cast<std::uint16_t>((3 - lines) * 0x4000);
+}
+
+std::vector<std::uint8_t> C64Machine::Block(int offset, int size) const {
+  const auto begin = ram_.begin() + BankBase() + offset;
+  return {begin, begin + size};
+}
+
+C64Machine::Shown C64Machine::Show() const {
+  Shown shown{BankBase() / 0x4000, io_[0x11], io_[0x16], io_[0x18], io_[0x20], io_[0x21], io_[0x15], {}, {}, {}};
+  shown.border &= 0x0F;
+  shown.background &= 0x0F;
+  shown.bitmap = Block((shown.memory & 8) << 10, 8000);
+  shown.screen = Block((shown.memory & 0xF0) << 6, 1000);
+  for (std::size_t i = 0; i < 1000; ++i) shown.colours.push_back(io_[0x800 + i] & 0x0F);
+  return shown;
+}
+
+void C64Machine::Fault(const std::string& what, std::uint16_t address) const {
+  throw MachineFault(what + ": " + Hex(address) + ", program counter " + Hex(cpu_.pc) + " after " +
+                     std::to_string(cpu_.cycles) + " cycles");
+}
+
+}  // namespace kelvo::support

@@ -1,0 +1,87 @@
+// A C64 that runs a program and tells what it shows.
+//
+// It has the processor with $01 banking, RAM, colour RAM, the VIC's registers and the VIC's bank, and the 60 Hz
+// interrupt. There are no ROMs: a KERNAL routine is a trap that a test sets, and what must not happen is a
+// MachineFault: executing what nobody wrote, reading ROM as data, calling a routine without a trap, writing a zero page
+// byte that BASIC and KERNAL keep, changing what a shown bitmap consists of, running on without an end.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <optional>
+#include <span>
+#include <vector>
+
+#include "support/cpu6502.h"
+
+namespace kelvo::support {
+
+class C64Machine final : public Bus {
+ public:
+  // How a program ends: it jumps to itself for ever, or returns to BASIC.
+  enum class Ending { kLoops, kReturns };
+
+  // What the VIC shows. The blocks are what it reads through its bank, the colours low nibbles.
+  struct Shown {
+    int bank = 0;  // 0..3, each 16 KB
+    std::uint8_t control1 = 0, control2 = 0, memory = 0, border = 0, background = 0,
+                 sprites = 0;  // $D011, $D016, $D018
+    std::vector<std::uint8_t> bitmap, screen, colours;
+  };
+
+  // A machine after power-on whose RAM holds leftovers of an earlier program.
+  C64Machine();
+
+  // Puts a PRG (its first two bytes are the load address) into RAM.
+  void Load(std::span<const std::uint8_t> prg);
+  // Calls `routine` instead of the KERNAL's at `address`, then returns to the caller.
+  void Trap(std::uint16_t address, std::function<void(Cpu6502&)> routine) { traps_[address] = std::move(routine); }
+  // Presses the RESTORE key, without STOP, every so many cycles.
+  void PressRestoreEvery(std::uint64_t cycles) { restore_every_ = cycles; }
+  // What a jump to the program from a running one leaves behind: decimal mode, a deep stack.
+  void LeaveUnclean() { unclean_ = true; }
+
+  // Starts the program from the SYS of its BASIC line, as RUN does. Throws MachineFault.
+  Ending Run(std::uint64_t most_cycles = 20'000'000);
+
+  Shown Show() const;
+  // I/O can be reached, so that the VIC can be written.
+  bool IoVisible() const { return Chip(0xD000) == Area::kIo; }
+  const Cpu6502& Cpu() const { return cpu_; }
+  std::uint8_t StackAtStart() const { return stack_at_start_; }
+  std::uint8_t Ram(std::uint16_t address) const { return ram_[address]; }
+  void Poke(std::uint16_t address, std::uint8_t value);
+
+  std::uint8_t Read(std::uint16_t address) override;
+  void Write(std::uint16_t address, std::uint8_t value) override;
+  std::uint8_t Fetch(std::uint16_t address) override;
+
+ private:
+  enum class Area { kRam, kRom, kIo };
+
+  Area Chip(std::uint16_t address) const;
+  std::uint8_t ReadIo(std::uint16_t address);
+  void WriteIo(std::uint16_t address, std::uint8_t value);
+  bool ShowsBitmap() const { return (io_[0x11] & 0x30) == 0x30; }
+  bool IsShown(std::uint16_t address) const;
+  std::uint16_t BankBase() const;
+  std::uint16_t SysAddress() const;
+  std::vector<std::uint8_t> Block(int offset, int size) const;
+  void Interrupts();
+  void CallTrap();
+  [[noreturn]] void Fault(const std::string& what, std::uint16_t address) const;
+
+  Cpu6502 cpu_{*this};
+  std::array<std::uint8_t, 0x10000> ram_{};
+  std::array<bool, 0x10000> written_{};
+  std::array<std::uint8_t, 0x1000> io_{};  // $D000-$DFFF; colour RAM from $800 on
+  std::map<std::uint16_t, std::function<void(Cpu6502&)>> traps_;
+  std::uint8_t stack_at_start_ = 0;
+  std::uint64_t next_jiffy_ = 0, next_restore_ = 0, restore_every_ = 0;
+  std::uint8_t open_bus_ = 0;
+  bool unclean_ = false;
+};
+
+}  // namespace kelvo::support

@@ -1,0 +1,68 @@
+// The processor of a C64 for tests: every documented opcode, with the cycles that the real one takes.
+//
+// Decimal mode is left out: the flag is kept, but ADC and SBC always count in binary. Interrupts come from outside.
+#pragma once
+
+#include <cstdint>
+#include <stdexcept>
+
+namespace kelvo::support {
+
+// What the processor's 65536 addresses reach.
+class Bus {
+ public:
+  virtual ~Bus() = default;
+  virtual std::uint8_t Read(std::uint16_t address) = 0;
+  virtual void Write(std::uint16_t address, std::uint8_t value) = 0;
+  // A byte of an instruction.
+  virtual std::uint8_t Fetch(std::uint16_t address) { return Read(address); }
+};
+
+// A program did what no sound program does. The message says what and where.
+class MachineFault : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+class Cpu6502 {
+ public:
+  enum Flag : std::uint8_t {
+    kCarry = 1,
+    kZero = 2,
+    kInterruptsOff = 4,
+    kDecimal = 8,
+    kBreak = 16,
+    kUnused = 32,
+    kOverflow = 64,
+    kNegative = 128
+  };
+
+  explicit Cpu6502(Bus& bus) : bus_(bus) {}
+
+  // Runs one instruction. Throws MachineFault on an opcode that is not documented.
+  void Step();
+  // Pushes pc and status and goes on at the address that `vector` ($FFFA, $FFFE) holds.
+  void Interrupt(std::uint16_t vector);
+  void ReturnFromSubroutine();
+  void ReturnFromInterrupt();
+
+  void Push(std::uint8_t value);
+  std::uint8_t Pull();
+  bool Has(Flag flag) const { return (status & flag) != 0; }
+  void Set(Flag flag, bool on) { status = static_cast<std::uint8_t>(on ? status | flag : status & ~flag); }
+
+  std::uint8_t a = 0, x = 0, y = 0, stack = 0xFF, status = kUnused;
+  std::uint16_t pc = 0;
+  std::uint64_t cycles = 0;
+
+ private:
+  friend struct Instructions;
+
+  std::uint8_t FetchByte() { return bus_.Fetch(pc++); }
+  std::uint16_t FetchWord();
+  std::uint16_t ReadWord(std::uint16_t low, std::uint16_t high);
+
+  Bus& bus_;
+};
+
+}  // namespace kelvo::support
