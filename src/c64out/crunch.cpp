@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <initializer_list>
 #include <stdexcept>
 #include <string>
 
@@ -15,16 +14,22 @@ namespace {
 using Bytes = std::vector<std::uint8_t>;
 using BytesView = std::span<const std::uint8_t>;
 
-enum Layout { kPlain, kPicture, kPictureProgram };
+constexpr int kPlain = 0, kPicture = 1, kPictureProgram = 2, kInColumns = 128;
 
-constexpr std::size_t kBitmap = 8000, kCells = 1000, kPictureBytes = kBitmap + 2 * kCells + 1, kLoadAddress = 2;
-constexpr std::size_t kMostViewerCode = 1024;
-constexpr int kInColumns = 128;
+constexpr std::size_t kBitmap = 8000, kCells = 1000, kColours = kBitmap + kCells;
+constexpr std::size_t kPictureBytes = kColours + kCells + 1, kLoadAddress = 2, kMostViewerCode = 1024;
 
-Layout LayoutOf(BytesView bytes) {
-  if (bytes.size() == kPictureBytes) return kPicture;
+// The bytes in front of the picture in a file of `layout`.
+std::size_t StartOf(int layout) { return layout == kPictureProgram ? kLoadAddress : 0; }
+
+int LayoutOf(BytesView bytes) {
+  const bool picture = bytes.size() == kPictureBytes;
   const std::size_t least = kLoadAddress + kPictureBytes;
-  return bytes.size() >= least && bytes.size() <= least + kMostViewerCode ? kPictureProgram : kPlain;
+  if (!picture && (bytes.size() < least || bytes.size() > least + kMostViewerCode)) return kPlain;
+  const int layout = picture ? kPicture : kPictureProgram;
+  const BytesView colours = bytes.subspan(StartOf(layout) + kColours, kCells);
+  const bool nibbles = std::all_of(colours.begin(), colours.end(), [](std::uint8_t byte) { return byte < 16; });
+  return nibbles ? layout : kPlain;
 }
 
 // The place in columns of byte `at` of a bitmap.
@@ -46,79 +51,37 @@ Bytes FromColumns(BytesView columns) {
   return bitmap;
 }
 
+void Append(Bytes& bytes, BytesView more) { bytes.insert(bytes.end(), more.begin(), more.end()); }
+
 Effort EffortOf(int level) {
   if (level < kFirstLevel || level > kLastLevel) {
     throw std::runtime_error("the level is " + std::to_string(level) + ", it must be from 1 to 9");
   }
+  constexpr int kFar = 1 << 14;
   constexpr std::array<Effort, 9> kEfforts{{{1, 1, 256},
-                                            {2, 1, 1024},
-                                            {2, 1, kMostOffset},
-                                            {3, 2, kMostOffset},
-                                            {5, 2, kMostOffset},
-                                            {8, 2, kMostOffset},
-                                            {12, 3, kMostOffset},
-                                            {20, 4, kMostOffset},
-                                            {40, 6, kMostOffset}}};
+                                            {1, 1, 1024},
+                                            {1, 1, kFar},
+                                            {3, 1, kFar},
+                                            {6, 2, kFar},
+                                            {12, 5, kFar},
+                                            {16, 8, kFar},
+                                            {20, 16, kFar},
+                                            {30, 40, kFar}}};
   return kEfforts[static_cast<std::size_t>(level - kFirstLevel)];
 }
 
-// A way to pack a section: how its literals are told, and its bytes in the order that they are packed in.
-struct Attempt {
-  int kind;
-  Bytes bytes;
-};
-
-void WriteSection(const Attempt& attempt, const Effort& effort, BitWriter& writer) {
-  const auto literals = static_cast<Literals>(attempt.kind & ~kInColumns);
-  writer.PutByte(attempt.kind);
-  SectionWriter section(attempt.bytes, literals, writer);
-  for (const Token& token : FindTokens(attempt.bytes, literals, effort)) section.Put(token);
-  section.End();
+void Write(BytesView bytes, Literals literals, const Effort& effort, BitWriter& writer) {
+  const Parse parse = FindTokens(bytes, literals, effort);
+  WriteSection(bytes, parse.tokens, literals, parse.code, writer);
 }
 
-// Writes the attempt that packs best.
-void WriteBest(const std::vector<Attempt>& attempts, const Effort& effort, BitWriter& writer) {
-  const Effort quick{std::min(effort.passes, 2), 1, effort.window};
-  const Attempt* best = nullptr;
-  std::size_t best_size = 0;
-  for (const Attempt& attempt : attempts) {
-    BitWriter trial;
-    WriteSection(attempt, quick, trial);
-    if (best == nullptr || trial.Bytes().size() < best_size) {
-      best = &attempt;
-      best_size = trial.Bytes().size();
-    }
-  }
-  WriteSection(*best, effort, writer);
-}
-
-std::vector<Attempt> AttemptsFor(BytesView bytes, std::initializer_list<Literals> ways) {
-  const bool only_low = std::all_of(bytes.begin(), bytes.end(), [](std::uint8_t byte) { return byte < 16; });
-  std::vector<Attempt> attempts;
-  for (const Literals literals : ways) {
-    if (literals == Literals::kNibbles && !only_low) continue;
-    attempts.push_back({static_cast<int>(literals), Bytes(bytes.begin(), bytes.end())});
-  }
-  return attempts;
-}
-
-std::vector<Attempt> AttemptsForBitmap(BytesView bitmap) {
-  std::vector<Attempt> attempts = AttemptsFor(bitmap, {Literals::kPixels, Literals::kRaw});
-  attempts.push_back({static_cast<int>(Literals::kPixels) + kInColumns, ToColumns(bitmap)});
-  return attempts;
-}
-
-Bytes ReadNextSection(std::size_t most, BitReader& reader) {
-  const int kind = reader.GetByte(), literals = kind & ~kInColumns;
-  if (literals > static_cast<int>(Literals::kRaw)) {
-    throw std::runtime_error("the packed data is damaged: there is no such kind of section");
-  }
-  Bytes bytes = ReadSection(static_cast<Literals>(literals), most, reader);
-  return kind == literals ? bytes : FromColumns(bytes);
-}
-
-void Append(Bytes& bytes, BytesView more) {
-  bytes.insert(bytes.end(), more.begin(), more.end());
+// Writes the layout and the bitmap, in rows or in columns, as a quick look tells.
+void WriteBitmap(int layout, BytesView bitmap, const Effort& effort, BitWriter& writer) {
+  const Bytes columns = ToColumns(bitmap);
+  const Effort quick{std::min(effort.passes, 3), 1, effort.window};
+  const bool turned = FindTokens(columns, Literals::kBytes, quick).bits < FindTokens(bitmap, Literals::kBytes, quick).bits;
+  writer.PutByte(layout + (turned ? kInColumns : 0));
+  Write(turned ? BytesView(columns) : bitmap, Literals::kBytes, effort, writer);
 }
 
 }  // namespace
@@ -129,38 +92,37 @@ std::vector<std::uint8_t> Crunch(BytesView bytes, int level) {
     throw std::runtime_error("there are " + std::to_string(bytes.size()) + " bytes to pack, the most are " +
                              std::to_string(kMostBytesToCrunch));
   }
-  const Layout layout = LayoutOf(bytes);
+  const int layout = LayoutOf(bytes);
   BitWriter writer;
-  writer.PutByte(layout);
-  BytesView rest = bytes;
-  Bytes tail;
-  if (layout != kPlain) {
-    const std::size_t start = layout == kPictureProgram ? kLoadAddress : 0;
-    const BytesView picture = bytes.subspan(start);
-    WriteBest(AttemptsForBitmap(picture.first(kBitmap)), effort, writer);
-    WriteBest(AttemptsFor(picture.subspan(kBitmap, kCells), {Literals::kColours, Literals::kRaw}), effort, writer);
-    WriteBest(AttemptsFor(picture.subspan(kBitmap + kCells, kCells),
-                          {Literals::kNibbles, Literals::kColours, Literals::kRaw}),
-              effort, writer);
-    Append(tail, bytes.first(start));
-    Append(tail, picture.subspan(kBitmap + 2 * kCells));
-    rest = tail;
+  if (layout == kPlain) {
+    writer.PutByte(layout);
+    Write(bytes, Literals::kBytes, effort, writer);
+    return writer.Bytes();
   }
-  WriteBest(AttemptsFor(rest, {Literals::kRaw, Literals::kPixels, Literals::kColours}), effort, writer);
+  const BytesView picture = bytes.subspan(StartOf(layout));
+  Bytes rest(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(StartOf(layout)));
+  Append(rest, picture.subspan(kColours + kCells));
+  WriteBitmap(layout, picture.first(kBitmap), effort, writer);
+  Write(picture.subspan(kBitmap, kCells), Literals::kBytes, effort, writer);
+  Write(picture.subspan(kColours, kCells), Literals::kNibbles, effort, writer);
+  Write(rest, Literals::kBytes, effort, writer);
   return writer.Bytes();
 }
 
 std::vector<std::uint8_t> Decrunch(BytesView packed) {
   BitReader reader(packed);
-  const int layout = reader.GetByte();
-  if (layout > kPictureProgram) throw std::runtime_error("this is no packed data");
+  const int first = reader.GetByte(), layout = first % kInColumns;
+  if (layout > kPictureProgram || first == kInColumns) throw std::runtime_error("this is no packed data");
   Bytes picture;
-  for (int section = 0; section < 3 && layout != kPlain; ++section) {
-    Append(picture, ReadNextSection(kMostBytesToCrunch - picture.size(), reader));
+  if (layout != kPlain) {
+    const Bytes bitmap = ReadSection(Literals::kBytes, kBitmap, reader);
+    Append(picture, first == layout ? bitmap : FromColumns(bitmap));
+    Append(picture, ReadSection(Literals::kBytes, kCells, reader));
+    Append(picture, ReadSection(Literals::kNibbles, kCells, reader));
   }
-  const Bytes rest = ReadNextSection(kMostBytesToCrunch - picture.size(), reader);
+  const Bytes rest = ReadSection(Literals::kBytes, kMostBytesToCrunch - picture.size(), reader);
   if (!reader.AtEnd()) throw std::runtime_error("the packed data is damaged: bytes stand behind its end");
-  const std::size_t start = layout == kPictureProgram ? std::min(kLoadAddress, rest.size()) : 0;
+  const std::size_t start = std::min(StartOf(layout), rest.size());
   Bytes bytes(rest.begin(), rest.begin() + static_cast<std::ptrdiff_t>(start));
   Append(bytes, picture);
   Append(bytes, BytesView(rest).subspan(start));

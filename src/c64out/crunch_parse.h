@@ -11,12 +11,18 @@ namespace kelvo::c64out {
 
 // How much work a search takes.
 struct Effort {
-  int passes;    // over the whole section; each takes its prices from the pass before
+  int passes;    // over the whole section; each tells offsets in the way that suited the tokens of the pass before
   int arrivals;  // ways to reach a place that are followed further, apart in the offset they used last
   int window;    // the farthest offset that is looked for
 };
 
-// The tokens of `bytes`, in order.
-std::vector<Token> FindTokens(std::span<const std::uint8_t> bytes, Literals literals, const Effort& effort);
+struct Parse {
+  std::vector<Token> tokens;
+  OffsetCode code;
+  int bits = 0;  // that the tokens take
+};
+
+// The tokens of `bytes`, in order, and the code for their offsets.
+Parse FindTokens(std::span<const std::uint8_t> bytes, Literals literals, const Effort& effort);
 
 }  // namespace kelvo::c64out

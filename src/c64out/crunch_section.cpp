@@ -1,172 +1,131 @@
 #include "c64out/crunch_section.h"
 
-#include <algorithm>
-#include <bit>
 #include <stdexcept>
 
 namespace kelvo::c64out {
 namespace {
 
-const LengthClass& Class(int number) {
-  return kLengthClasses[static_cast<std::size_t>(number)];
+// The state that writer and reader share: what the next token is told against.
+struct Behind {
+  bool copy = true;
+  int offset = 0;  // used last; 0: none yet
+};
+
+class SectionWriter {
+ public:
+  SectionWriter(std::span<const std::uint8_t> bytes, Literals literals, const OffsetCode& code, BitWriter& writer)
+      : bytes_(bytes), literals_(literals), code_(code), writer_(writer) {}
+
+  void Put(Token token);
+
+ private:
+  void PutLiterals(int length);
+  void PutNewCopy(Token token);
+
+  std::span<const std::uint8_t> bytes_;  // not yet written
+  Literals literals_;
+  OffsetCode code_;
+  BitWriter& writer_;
+  Behind behind_;
+};
+
+void SectionWriter::PutLiterals(int length) {
+  for (const std::uint8_t byte : bytes_.first(static_cast<std::size_t>(length))) {
+    if (literals_ == Literals::kBytes) {
+      writer_.PutByte(byte);
+    } else {
+      writer_.PutBits(byte, 4);
+    }
+  }
 }
 
-// Reads what SectionWriter writes.
+void SectionWriter::PutNewCopy(Token token) {
+  const int digits = code_.DigitsFor(token.length), value = token.offset - 1;
+  writer_.PutGamma(token.length - 1);
+  writer_.PutGamma((value >> digits) + 1);
+  writer_.PutBits(value, digits);
+}
+
+void SectionWriter::Put(Token token) {
+  const bool literals = token.offset == 0, repeat = !literals && !behind_.copy && token.offset == behind_.offset;
+  writer_.PutBits(literals || repeat ? 0 : 1, 1);
+  if (literals || repeat) {
+    writer_.PutGamma(token.length);
+  } else {
+    PutNewCopy(token);
+  }
+  if (literals) PutLiterals(token.length);
+  behind_ = literals ? Behind{CountsAsCopy(token.length), behind_.offset} : Behind{true, token.offset};
+  bytes_ = bytes_.subspan(static_cast<std::size_t>(token.length));
+}
+
 class SectionReader {
  public:
   SectionReader(Literals literals, std::size_t most, BitReader& reader)
-      : literals_(literals), most_(most), reader_(reader) {}
+      : literals_(literals), most_(most), reader_(reader) {
+    code_.short_digits = reader_.GetBits(4);
+    code_.long_digits = reader_.GetBits(4);
+  }
 
-  // Reads one token; false at the section's end.
+  // Reads one token; false at the end mark.
   bool Step();
   std::vector<std::uint8_t> Take() { return std::move(bytes_); }
 
  private:
-  int GetNibble(int context);
-  bool GetOffset(int length);
-  int GetLiteral(int before);
-  void AppendLiterals(int length);
-  void Copy(int length);
+  Token GetToken();
+  void Append(Token token);
 
   Literals literals_;
   std::size_t most_;
   BitReader& reader_;
-  NibbleModel model_;
+  OffsetCode code_;
   std::vector<std::uint8_t> bytes_;
-  int context_ = NibbleModel::kAfterCopy, offset_ = 1;
+  Behind behind_;
 };
 
-int SectionReader::GetNibble(int context) {
-  const RankCode& code = model_.CodeIn(context);
-  std::size_t found = 0;
-  while (found < 3 && reader_.GetBits(1) == 1) ++found;
-  const int rank = code.first[found] + reader_.GetBits(code.extra_bits[found]);
-  if (rank > 15) throw std::runtime_error("the packed data is damaged: there is no such rank");
-  const int nibble = model_.NibbleAt(context, rank);
-  model_.Count(context, rank);
-  return nibble;
+Token SectionReader::GetToken() {
+  const bool is_new = reader_.GetBits(1) == 1;
+  const int length = reader_.GetGamma();
+  if (!is_new) return {length, behind_.copy ? 0 : behind_.offset};
+  if (length == kGammaEnd) return {};
+  const int digits = code_.DigitsFor(length + 1), high = reader_.GetGamma() - 1;
+  return {length + 1, (high << digits | reader_.GetBits(digits)) + 1};
 }
 
-bool SectionReader::GetOffset(int length) {
-  const int offset_class = GetNibble(OffsetContext(length));
-  if (offset_class == kEndOfSection) return false;
-  const int digits = reader_.GetBits(OffsetExtraBits(offset_class));
-  offset_ = 1 + (offset_class == 0 ? 0 : 1 << (offset_class - 1) | digits);
-  return true;
-}
-
-int SectionReader::GetLiteral(int before) {
-  if (literals_ == Literals::kRaw) return reader_.GetByte();
-  const int high = literals_ == Literals::kNibbles ? 0 : GetNibble(ContextsOf(literals_, 0, before).high);
-  return high << 4 | GetNibble(ContextsOf(literals_, high << 4, before).low);
-}
-
-void SectionReader::AppendLiterals(int length) {
-  int before = bytes_.empty() ? 0 : bytes_.back();
-  while (length-- > 0) {
-    before = GetLiteral(before);
-    bytes_.push_back(static_cast<std::uint8_t>(before));
+void SectionReader::Append(Token token) {
+  for (int i = 0; i < token.length; ++i) {
+    if (token.offset > 0) {
+      bytes_.push_back(bytes_[bytes_.size() - static_cast<std::size_t>(token.offset)]);
+    } else {
+      bytes_.push_back(static_cast<std::uint8_t>(literals_ == Literals::kBytes ? reader_.GetByte() : reader_.GetBits(4)));
+    }
   }
-}
-
-void SectionReader::Copy(int length) {
-  if (static_cast<std::size_t>(offset_) > bytes_.size()) {
-    throw std::runtime_error("the packed data is damaged: a copy from before the start");
-  }
-  while (length-- > 0) bytes_.push_back(bytes_[bytes_.size() - static_cast<std::size_t>(offset_)]);
 }
 
 bool SectionReader::Step() {
-  const int token = GetNibble(context_);
-  const int length_class = token % kNewCopy;
-  int length = Class(length_class).first + reader_.GetBits(Class(length_class).extra_bits);
-  const bool literals = token < kNewCopy && context_ == NibbleModel::kAfterCopy;
-  if (token >= kNewCopy && !GetOffset(++length)) return false;
-  if (static_cast<std::size_t>(length) > most_ - bytes_.size()) {
-    throw std::runtime_error("the packed data is damaged: it unpacks to too many bytes");
+  const bool behind_copy = behind_.copy;
+  const Token token = GetToken();
+  if (token.length == 0) return false;
+  const bool copy = token.offset > 0;
+  if (token.length > kMostLength || static_cast<std::size_t>(token.length) > most_ - bytes_.size() ||
+      static_cast<std::size_t>(token.offset) > bytes_.size() || (!copy && !behind_copy)) {
+    throw std::runtime_error("the packed data is damaged");
   }
-  if (literals) {
-    AppendLiterals(length);
-  } else {
-    Copy(length);
-  }
-  context_ = literals ? ContextBehindLiterals(length_class) : static_cast<int>(NibbleModel::kAfterCopy);
+  Append(token);
+  behind_ = copy ? Behind{true, token.offset} : Behind{CountsAsCopy(token.length), behind_.offset};
   return true;
 }
 
 }  // namespace
 
-int LengthClassOf(int length) {
-  int found = kLongestClass;
-  while (length < Class(found).first) --found;
-  return found;
-}
-
-int OffsetClassOf(int offset) {
-  return static_cast<int>(std::bit_width(static_cast<unsigned>(offset - 1)));
-}
-
-int OffsetContext(int length) {
-  return NibbleModel::kOffset + std::min(length - kLeastNewCopy, NibbleModel::kOffsets - 1);
-}
-
-LiteralContexts ContextsOf(Literals literals, int byte, int before) {
-  return {before >> 4, literals == Literals::kPixels ? before & 15 : byte >> 4};
-}
-
-void SectionWriter::PutNibble(int context, int nibble) {
-  const int rank = model_.RankOf(context, nibble);
-  const RankCode& code = model_.CodeIn(context);
-  const int found = code.ClassOf(rank);
-  const auto index = static_cast<std::size_t>(found);
-  writer_.PutBits(found < 3 ? (2 << found) - 2 : 7, std::min(found + 1, 3));
-  writer_.PutBits(rank - code.first[index], code.extra_bits[index]);
-  model_.Count(context, rank);
-}
-
-void SectionWriter::PutLength(int kind, int length) {
-  const int length_class = LengthClassOf(length);
-  PutNibble(context_, kind + length_class);
-  writer_.PutBits(length - Class(length_class).first, Class(length_class).extra_bits);
-}
-
-void SectionWriter::PutOffset(int length, int offset) {
-  const int offset_class = OffsetClassOf(offset);
-  PutNibble(OffsetContext(length), offset_class);
-  writer_.PutBits(offset - 1, OffsetExtraBits(offset_class));
-}
-
-void SectionWriter::PutLiteral(int byte, int before) {
-  if (literals_ == Literals::kRaw) return writer_.PutByte(byte);
-  const LiteralContexts contexts = ContextsOf(literals_, byte, before);
-  if (literals_ != Literals::kNibbles) PutNibble(contexts.high, byte >> 4);
-  PutNibble(contexts.low, byte & 15);
-}
-
-void SectionWriter::Put(Token token) {
-  const bool literals = token.offset == 0;
-  if (literals) {
-    PutLength(0, token.length);
-    context_ = ContextBehindLiterals(LengthClassOf(token.length));
-    for (int i = 0; i < token.length; ++i) {
-      const std::size_t place = at_ + static_cast<std::size_t>(i);
-      PutLiteral(bytes_[place], place == 0 ? 0 : bytes_[place - 1]);
-    }
-  } else if (context_ == NibbleModel::kAfterLiterals && token.offset == offset_) {
-    PutLength(0, token.length);
-    context_ = NibbleModel::kAfterCopy;
-  } else {
-    PutLength(kNewCopy, token.length - 1);
-    PutOffset(token.length, token.offset);
-    offset_ = token.offset;
-    context_ = NibbleModel::kAfterCopy;
-  }
-  at_ += static_cast<std::size_t>(token.length);
-}
-
-void SectionWriter::End() {
-  PutLength(kNewCopy, kLeastNewCopy - 1);
-  PutNibble(OffsetContext(kLeastNewCopy), kEndOfSection);
+void WriteSection(std::span<const std::uint8_t> bytes, std::span<const Token> tokens, Literals literals,
+                  const OffsetCode& code, BitWriter& writer) {
+  writer.PutBits(code.short_digits, 4);
+  writer.PutBits(code.long_digits, 4);
+  SectionWriter section(bytes, literals, code, writer);
+  for (const Token& token : tokens) section.Put(token);
+  writer.PutBits(1, 1);
+  writer.PutGamma(kGammaEnd);
 }
 
 std::vector<std::uint8_t> ReadSection(Literals literals, std::size_t most, BitReader& reader) {

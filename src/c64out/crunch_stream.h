@@ -11,11 +11,19 @@
 
 namespace kelvo::c64out {
 
+// Positive numbers are told by Elias' gamma code, interlaced: for each binary digit behind the first a 1 and the digit,
+// then a 0. From kGammaEnd on there are none: eight digits stop a reader there, without the 0.
+inline constexpr int kGammaEnd = 256;
+// The bits that `number` (1..kGammaEnd - 1) takes.
+int GammaBits(int number);
+
 class BitWriter {
  public:
   void PutByte(int byte) { bytes_.push_back(static_cast<std::uint8_t>(byte)); }
   // The lowest `count` (0..16) bits of `value`, highest first.
   void PutBits(int value, int count);
+  // `number` is 1..kGammaEnd.
+  void PutGamma(int number);
 
   const std::vector<std::uint8_t>& Bytes() const { return bytes_; }
 
@@ -32,6 +40,7 @@ class BitReader {
 
   int GetByte();
   int GetBits(int count);
+  int GetGamma();
   bool AtEnd() const { return at_ == bytes_.size(); }
 
  private:
