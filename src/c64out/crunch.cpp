@@ -20,7 +20,9 @@ constexpr std::size_t kBitmap = 8000, kCells = 1000, kColours = kBitmap + kCells
 constexpr std::size_t kPictureBytes = kColours + kCells + 1, kLoadAddress = 2, kMostViewerCode = 1024;
 
 // The bytes in front of the picture in a file of `layout`.
-std::size_t StartOf(int layout) { return layout == kPictureProgram ? kLoadAddress : 0; }
+std::size_t StartOf(int layout) {
+  return layout == kPictureProgram ? kLoadAddress : 0;
+}
 
 int LayoutOf(BytesView bytes) {
   const bool picture = bytes.size() == kPictureBytes;
@@ -51,7 +53,9 @@ Bytes FromColumns(BytesView columns) {
   return bitmap;
 }
 
-void Append(Bytes& bytes, BytesView more) { bytes.insert(bytes.end(), more.begin(), more.end()); }
+void Append(Bytes& bytes, BytesView more) {
+  bytes.insert(bytes.end(), more.begin(), more.end());
+}
 
 Effort EffortOf(int level) {
   if (level < kFirstLevel || level > kLastLevel) {
@@ -79,7 +83,8 @@ void Write(BytesView bytes, Literals literals, const Effort& effort, BitWriter& 
 void WriteBitmap(int layout, BytesView bitmap, const Effort& effort, BitWriter& writer) {
   const Bytes columns = ToColumns(bitmap);
   const Effort quick{std::min(effort.passes, 3), 1, effort.window};
-  const bool turned = FindTokens(columns, Literals::kBytes, quick).bits < FindTokens(bitmap, Literals::kBytes, quick).bits;
+  const bool turned =
+      FindTokens(columns, Literals::kBytes, quick).bits < FindTokens(bitmap, Literals::kBytes, quick).bits;
   writer.PutByte(layout + (turned ? kInColumns : 0));
   Write(turned ? BytesView(columns) : bitmap, Literals::kBytes, effort, writer);
 }

@@ -1,9 +1,9 @@
 // The cruncher: packs what an assembler made for the C64, and unpacks it.
 //
-// Made for the program that shows a picture, it takes any bytes. It tells what came before as copies (an LZ77 scheme that
-// can use the offset of the copy before again) and finds the shortest way to tell all. A picture is cut into sections,
-// so that bitmap, screen and colours each have the code for offsets that suits them, and its bitmap may be turned by a
-// quarter: bytes that stand below each other on the screen then follow one another.
+// Made for the program that shows a picture, it takes any bytes. It tells what came before as copies (an LZ77 scheme
+// that can use the offset of the copy before again) and finds the shortest way to tell all. A picture is cut into
+// sections, so that bitmap, screen and colours each have the code for offsets that suits them, and its bitmap may be
+// turned by a quarter: bytes that stand below each other on the screen then follow one another.
 //
 // The packed format, for whoever writes a depacker:
 //
@@ -15,8 +15,8 @@
 //                plus 128 for a bitmap in columns: byte 8 * (40 * row + column) + line stands at
 //                200 * column + 8 * row + line
 //
-// crunch_section.h tells what a section is, crunch_stream.h how bits and bytes lie in the stream; bits go on from section
-// to section. The colours of a picture are nibbles: where one is not, the bytes are packed as layout 0.
+// crunch_section.h tells what a section is, crunch_stream.h how bits and bytes lie in the stream; bits go on from
+// section to section. The colours of a picture are nibbles: where one is not, the bytes are packed as layout 0.
 #pragma once
 
 #include <cstdint>

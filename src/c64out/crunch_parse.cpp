@@ -11,8 +11,8 @@ using Bytes = std::span<const std::uint8_t>;
 
 constexpr int kFlag = 1;  // the bit that begins a token
 
-// What an arrival can cost more than the cheapest at its place and still be the better one to go on from: using the last
-// offset again saves about as many bits.
+// What an arrival can cost more than the cheapest at its place and still be the better one to go on from: using the
+// last offset again saves about as many bits.
 constexpr int kMostSavedByRepeat = 12;
 
 enum State : std::size_t { kBehindCopy, kBehindLiterals };

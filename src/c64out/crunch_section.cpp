@@ -97,7 +97,8 @@ void SectionReader::Append(Token token) {
     if (token.offset > 0) {
       bytes_.push_back(bytes_[bytes_.size() - static_cast<std::size_t>(token.offset)]);
     } else {
-      bytes_.push_back(static_cast<std::uint8_t>(literals_ == Literals::kBytes ? reader_.GetByte() : reader_.GetBits(4)));
+      bytes_.push_back(
+          static_cast<std::uint8_t>(literals_ == Literals::kBytes ? reader_.GetByte() : reader_.GetBits(4)));
     }
   }
 }

@@ -9,8 +9,8 @@
 //                there are short_digits in a copy of two bytes, long_digits in a longer one
 //     end mark = 1, gamma kGammaEnd
 //
-// Literals that are kMostLength long count as a copy, so that more literals can follow. A literal is a whole byte of the
-// stream, or four bits in a section of nibbles. No offset is used last at the start.
+// Literals that are kMostLength long count as a copy, so that more literals can follow. A literal is a whole byte of
+// the stream, or four bits in a section of nibbles. No offset is used last at the start.
 #pragma once
 
 #include <cstddef>
@@ -45,7 +45,9 @@ struct OffsetCode {
 };
 
 // The token behind literals of `length` is told as behind a copy.
-constexpr bool CountsAsCopy(int length) { return length == kMostLength; }
+constexpr bool CountsAsCopy(int length) {
+  return length == kMostLength;
+}
 
 // Writes `tokens`, which make up `bytes` and whose offsets `code` takes.
 void WriteSection(std::span<const std::uint8_t> bytes, std::span<const Token> tokens, Literals literals,

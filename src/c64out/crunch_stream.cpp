@@ -5,7 +5,9 @@
 
 namespace kelvo::c64out {
 
-int GammaBits(int number) { return 2 * static_cast<int>(std::bit_width(static_cast<unsigned>(number))) - 1; }
+int GammaBits(int number) {
+  return 2 * static_cast<int>(std::bit_width(static_cast<unsigned>(number))) - 1;
+}
 
 void BitWriter::PutBits(int value, int count) {
   while (count-- > 0) {

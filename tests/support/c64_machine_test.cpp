@@ -11,7 +11,7 @@ using Code = std::vector<std::uint8_t>;
 // A PRG that runs `code` at $080D from the BASIC line 10 SYS2061.
 Code Program(const Code& code) {
   Code prg{0x01, 0x08, 0x0B, 0x08, 0x0A, 0x00, 0x9E, '2', '0', '6', '1', 0, 0, 0};
-  prg.insert(prg.end(), code.begin(), code.end());
+  for (const std::uint8_t byte : code) prg.push_back(byte);
   return prg;
 }
 
