@@ -61,13 +61,13 @@ Effort EffortOf(int level) {
   if (level < kFirstLevel || level > kLastLevel) {
     throw std::runtime_error("the level is " + std::to_string(level) + ", it must be from 1 to 9");
   }
-  constexpr int kFar = 1 << 14;
+  constexpr int kNear = 1 << 13, kFar = 1 << 15;  // the window of a bitmap, and more for longer files
   constexpr std::array<Effort, 9> kEfforts{{{1, 1, 256},
                                             {1, 1, 1024},
-                                            {1, 1, kFar},
-                                            {3, 1, kFar},
-                                            {6, 2, kFar},
-                                            {12, 5, kFar},
+                                            {1, 1, kNear},
+                                            {3, 1, kNear},
+                                            {6, 2, kNear},
+                                            {12, 5, kNear},
                                             {16, 8, kFar},
                                             {20, 16, kFar},
                                             {30, 40, kFar}}};

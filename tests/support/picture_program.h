@@ -30,14 +30,21 @@ inline bool HasAssembler() {
 #endif
 }
 
-inline std::string Quoted(const std::filesystem::path& path) {
-  return "\"" + path.string() + "\"";
-}
-
 inline void Replace(std::string& text, std::string_view what, const std::string& by) {
   for (std::size_t at = text.find(what); at != std::string::npos; at = text.find(what, at + by.size())) {
     text.replace(at, what.size(), by);
   }
+}
+
+// `path` as one word of a shell's command line.
+inline std::string Quoted(const std::filesystem::path& path) {
+  std::string text = path.string();
+#ifdef _WIN32
+  return "\"" + text + "\"";
+#else
+  Replace(text, "'", "'\\''");
+  return "'" + text + "'";
+#endif
 }
 
 // Assembles a template, with `placeholder` replaced, to `object`. True when the assembler was content.
@@ -55,7 +62,7 @@ inline bool Assemble(std::string_view name, std::string_view placeholder, const 
     out << line << "\r\n";
   }
   out.close();
-  return RunTool("64tass -q -C -B --cbm-prg -Wno-portable -o " + Quoted(object) + " " + Quoted(filled)) == 0;
+  return RunTool("64tass -a -q -C -B --cbm-prg -Wno-portable -o " + Quoted(object) + " " + Quoted(filled)) == 0;
 }
 
 // The program of `picture`, made in `folder`; empty when a tool failed.
