@@ -11,7 +11,7 @@
 //     layout   = 0: one section, the bytes themselves
 //                1: a picture of 10001 bytes in four sections: bitmap 8000, screen 1000, colours 1000, background
 //                2: a program of two bytes load address, a picture and code: bitmap, screen, colours, and a section of
-//                   the load address, the background and the code
+//                   the load address and what stands behind the colours
 //                plus 128 for a bitmap in columns: byte 8 * (40 * row + column) + line stands at
 //                200 * column + 8 * row + line
 //
@@ -26,7 +26,7 @@
 namespace kelvo::c64out {
 
 inline constexpr int kFirstLevel = 1, kLastLevel = 9;
-inline constexpr std::size_t kMostBytesToCrunch = 1 << 20;
+inline constexpr std::size_t kMostBytesToCrunch = 1 << 18;
 
 // `bytes` packed. A higher `level` (kFirstLevel..kLastLevel) takes longer and packs better. Throws std::runtime_error
 // for more than kMostBytesToCrunch bytes or another level.

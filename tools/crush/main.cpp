@@ -18,7 +18,7 @@ constexpr std::string_view kHelp =
     "       crush -d INPUT OUTPUT      unpacks what crush has packed\n"
     "       crush --help\n"
     "\n"
-    "INPUT may be any file of up to 1048576 bytes. OUTPUT is written whole or not at all.\n";
+    "INPUT may be any file of up to 262144 bytes. OUTPUT is written whole or not at all.\n";
 
 // What packing can make of the largest input, with plenty to spare.
 constexpr std::uintmax_t kMostPacked = 2 * c64out::kMostBytesToCrunch;
