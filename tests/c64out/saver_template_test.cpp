@@ -60,8 +60,7 @@ class SaverOnTheC64 : public testing::Test {
   app::Bytes Assemble(const std::string& name, std::uintmax_t program_size = 7000) const {
     const auto source = folder_ / "15x1save.tmp", program = folder_ / "15x1save.prg";
     FillSaverTemplate(KELVO_ASSETS "/system/15x1save.src", source, name, program_size);
-    const support::ToolRun run = support::RunTool(
-        "64tass", {"-q", "-C", "-B", "--cbm-prg", "-Wno-portable", "-o", program.string(), source.string()});
+    const support::ToolRun run = support::RunTool(KELVO_SHARE "/SYSTEM/tass", {source.string(), program.string()});
     EXPECT_EQ(run.errors, "");
     EXPECT_EQ(run.exit_code, 0);
     return support::ReadFile(program);

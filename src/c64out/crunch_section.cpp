@@ -1,0 +1,139 @@
+#include "c64out/crunch_section.h"
+
+#include <stdexcept>
+
+namespace kelvo::c64out {
+namespace {
+
+// The state that writer and reader share: what the next token is told against.
+struct Behind {
+  bool copy = true;
+  int offset = 0;  // used last; 0: none yet
+};
+
+class SectionWriter {
+ public:
+  SectionWriter(std::span<const std::uint8_t> bytes, Literals literals, const OffsetCode& code, BitWriter& writer)
+      : bytes_(bytes), literals_(literals), code_(code), writer_(writer) {}
+
+  void Put(Token token);
+
+ private:
+  void PutLiterals(int length);
+  void PutNewCopy(Token token);
+
+  std::span<const std::uint8_t> bytes_;  // not yet written
+  Literals literals_;
+  OffsetCode code_;
+  BitWriter& writer_;
+  Behind behind_;
+};
+
+void SectionWriter::PutLiterals(int length) {
+  for (const std::uint8_t byte : bytes_.first(static_cast<std::size_t>(length))) {
+    if (literals_ == Literals::kBytes) {
+      writer_.PutByte(byte);
+    } else {
+      writer_.PutBits(byte, 4);
+    }
+  }
+}
+
+void SectionWriter::PutNewCopy(Token token) {
+  const int digits = code_.DigitsFor(token.length), value = token.offset - 1;
+  writer_.PutGamma(token.length - 1);
+  writer_.PutGamma((value >> digits) + 1);
+  writer_.PutBits(value, digits);
+}
+
+void SectionWriter::Put(Token token) {
+  const bool literals = token.offset == 0, repeat = !literals && !behind_.copy && token.offset == behind_.offset;
+  writer_.PutBits(literals || repeat ? 0 : 1, 1);
+  if (literals || repeat) {
+    writer_.PutGamma(token.length);
+  } else {
+    PutNewCopy(token);
+  }
+  if (literals) PutLiterals(token.length);
+  behind_ = literals ? Behind{CountsAsCopy(token.length), behind_.offset} : Behind{true, token.offset};
+  bytes_ = bytes_.subspan(static_cast<std::size_t>(token.length));
+}
+
+class SectionReader {
+ public:
+  SectionReader(Literals literals, std::size_t most, BitReader& reader)
+      : literals_(literals), most_(most), reader_(reader) {
+    code_.short_digits = reader_.GetBits(4);
+    code_.long_digits = reader_.GetBits(4);
+  }
+
+  // Reads one token; false at the end mark.
+  bool Step();
+  std::vector<std::uint8_t> Take() { return std::move(bytes_); }
+
+ private:
+  Token GetToken();
+  void Append(Token token);
+
+  Literals literals_;
+  std::size_t most_;
+  BitReader& reader_;
+  OffsetCode code_;
+  std::vector<std::uint8_t> bytes_;
+  Behind behind_;
+};
+
+Token SectionReader::GetToken() {
+  const bool is_new = reader_.GetBits(1) == 1;
+  const int length = reader_.GetGamma();
+  if (!is_new) return {length, behind_.copy ? 0 : behind_.offset};
+  if (length == kGammaEnd) return {};
+  const int digits = code_.DigitsFor(length + 1), high = reader_.GetGamma() - 1;
+  return {length + 1, (high << digits | reader_.GetBits(digits)) + 1};
+}
+
+void SectionReader::Append(Token token) {
+  for (int i = 0; i < token.length; ++i) {
+    if (token.offset > 0) {
+      bytes_.push_back(bytes_[bytes_.size() - static_cast<std::size_t>(token.offset)]);
+    } else {
+      bytes_.push_back(
+          static_cast<std::uint8_t>(literals_ == Literals::kBytes ? reader_.GetByte() : reader_.GetBits(4)));
+    }
+  }
+}
+
+bool SectionReader::Step() {
+  const bool behind_copy = behind_.copy;
+  const Token token = GetToken();
+  if (token.length == 0) return false;
+  const bool copy = token.offset > 0;
+  if (token.length > kMostLength || static_cast<std::size_t>(token.length) > most_ - bytes_.size() ||
+      static_cast<std::size_t>(token.offset) > bytes_.size() || (!copy && !behind_copy)) {
+    throw std::runtime_error("the packed data is damaged");
+  }
+  Append(token);
+  behind_ = copy ? Behind{true, token.offset} : Behind{CountsAsCopy(token.length), behind_.offset};
+  return true;
+}
+
+}  // namespace
+
+void WriteSection(std::span<const std::uint8_t> bytes, std::span<const Token> tokens, Literals literals,
+                  const OffsetCode& code, BitWriter& writer) {
+  writer.PutBits(code.short_digits, 4);
+  writer.PutBits(code.long_digits, 4);
+  SectionWriter section(bytes, literals, code, writer);
+  for (const Token& token : tokens) section.Put(token);
+  writer.PutBits(1, 1);
+  writer.PutGamma(kGammaEnd);
+}
+
+std::vector<std::uint8_t> ReadSection(Literals literals, std::size_t most, BitReader& reader) {
+  SectionReader section(literals, most, reader);
+  while (section.Step()) {
+  }
+  return section.Take();
+}
+
+}  // namespace kelvo::c64out

@@ -1,0 +1,56 @@
+#include "support/picture_program.h"
+
+#include "app/path_text.h"
+#include "c64out/build_compo_pic.h"
+#include "c64out/output_settings.h"
+#include "support/pictures.h"
+#include "support/recorders.h"
+#include "support/run_tool.h"
+
+namespace kelvo::support {
+namespace {
+
+// Runs every tool but the loader, of which it keeps what it was to send.
+class RealTools final : public c64out::ToolRunner {
+ public:
+  bool CanRun() const override { return true; }
+  c64out::ToolResult RunAndWait(const c64out::ToolCommand& command) override {
+    if (app::FileNamePart(command.tool).starts_with("codenet")) {
+      sent = ReadFile(app::PathFromText(command.arguments.at(1)));
+      return {};
+    }
+    const ToolRun run = RunTool(command.tool, command.arguments);
+    return {.failure = run.exit_code == 0 ? "" : "failed: " + run.errors};
+  }
+  c64out::ToolResult ShowAndWait(const c64out::ToolCommand& command) override { return RunAndWait(command); }
+
+  app::Bytes sent;
+};
+
+}  // namespace
+
+bool HasAssembler() {
+  return RunTool("64tass", {"--version"}).exit_code == 0;
+}
+
+app::Bytes BuildPictureProgram(const std::filesystem::path& folder, const model::PictureImage& picture,
+                               StartedBy start) {
+  const app::ProgramFolders folders(folder / "program");
+  folders.Create();
+  folders.Seed(KELVO_SHARE);
+  WriteText(folder / "x64", "an emulator, to look at");
+  MapSettings settings;
+  settings.Write(c64out::kVicePath, app::TextFromPath(folder));
+  const FixedClock clock;
+  const app::ErrorLog log(folders.ErrorLogFile(), clock);
+  RecordingMessages messages;
+  RecordingPrompt prompt;
+  RealTools tools;
+  const files::Document document{.picture = picture,
+                                 .file = files::SetFileParameters(app::TextFromPath(folder / "picture.kvp"))};
+  const c64out::CompoPicChoice choice{.MakePrg = true, .ViaCodenet = start == StartedBy::kNetwork};
+  if (!c64out::BuildCompoPic(document, choice, {folders, settings, clock, log, messages, prompt, tools})) return {};
+  return start == StartedBy::kNetwork ? tools.sent : ReadFile(folder / "picture.prg");
+}
+
+}  // namespace kelvo::support

@@ -1,0 +1,255 @@
+// Builds from the menu of the real main window with the real tools: what comes out runs on a C64.
+#include <QDialog>
+#include <QLineEdit>
+#include <QListView>
+
+#include "c64out/output_settings.h"
+#include "files/picture_format.h"
+#include "main_frame_fixture.h"
+#include "support/c64_machine.h"
+#include "support/codenet_server.h"
+#include "support/kernal_disk.h"
+#include "support/run_tool.h"
+#include "support/shown_picture.h"
+
+#ifndef _WIN32
+
+namespace kelvo::ui {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::uint16_t kCodenetPort = 6462;
+
+bool IsInstalled(const char* tool) {
+  return support::RunTool("sh", {"-c", std::string("command -v ") + tool}).exit_code == 0;
+}
+
+class C64OutputTest : public MainFrameTest {
+ protected:
+  void SetUp() override {
+    if (!IsInstalled("64tass")) GTEST_SKIP() << "this needs 64tass";
+    folders.Create();
+    folders.Seed(KELVO_SHARE);
+    create_directories(art);
+    create_directories(vice);
+    if (IsInstalled("c1541")) support::RunTool("sh", {"-c", "ln -s $(command -v c1541) '" + vice.string() + "'"});
+    Script(vice / "x64", "exit 0");
+    settings.Write(c64out::kVicePath, app::TextFromPath(vice));
+    settings.Write(c64out::kCodenetC64Ip, "127.0.0.1");
+    Start();
+  }
+
+  static void Script(const fs::path& file, const std::string& line) {
+    remove(file);
+    support::WriteText(file, "#!/bin/sh\n" + line + "\n");
+    permissions(file, fs::perms::owner_all);
+  }
+  void Open(const std::string& name) {
+    support::WriteFile(art / app::PathFromText(name), support::CountingBytes(10003));
+    ASSERT_TRUE(frame->Files().OpenPicture(app::TextFromPath(art) + "/" + name));
+  }
+  QStringList PromptLines() const {
+    QStringList lines;
+    const auto* model = Find<QListView>("lstHistory")->model();
+    for (int row = 0; row < model->rowCount(); ++row) lines << model->index(row, 0).data().toString();
+    return lines;
+  }
+  void ExpectShows(const app::Bytes& prg) {
+    support::C64Machine machine;
+    machine.Load(prg);
+    ASSERT_EQ(machine.Run(), support::C64Machine::Ending::kLoops);
+    support::ExpectShows(machine, frame->Document().picture);
+  }
+  // Does `work` once a build is under way, from within its event loop.
+  void WhileBuilding(std::function<void()> work) {
+    QTimer::singleShot(200, frame.get(), [this, work = std::move(work)] {
+      ASSERT_TRUE(frame->Builds().IsBuilding());
+      work();
+    });
+  }
+
+  fs::path art = folder / "art", vice = folder / "vice";
+};
+
+TEST_F(C64OutputTest, MakesAProgramThatShowsThePicture) {
+  Open("my pic.koa");
+  Action("mnuCreatePRGCompopic")->trigger();
+  EXPECT_EQ(PromptLines().last(), "--> PRG complete.");
+  ExpectShows(support::ReadFile(art / "my pic.prg"));
+  EXPECT_TRUE(Action("mnuCreatePRGCompopic")->isEnabled());
+  EXPECT_FALSE(Action("mnuStopBuild")->isEnabled());
+}
+
+TEST_F(C64OutputTest, TakesAnyNameOfAPicture) {
+  const std::string long_name(200, 'n');
+  for (const std::string& name :
+       {std::string("a b  c.koa"), std::string("\"quoted\" 'too'.koa"), std::string("$HOME.koa"),
+        std::string("a&b;touch x.koa"), std::string("`touch y`.koa"), std::string("\u00e4\u00d6\u00fc.koa"),
+        long_name + ".koa", std::string("*.koa"), std::string("-rf.koa")}) {
+    SCOPED_TRACE(name);
+    Open(name);
+    Action("mnuCreatePRGCompopic")->trigger();
+    const fs::path prg = art / app::PathFromText(name.substr(0, name.size() - 4) + ".prg");
+    EXPECT_GT(fs::file_size(prg), 1000U);
+    remove(prg);
+    remove(art / app::PathFromText(name));
+    EXPECT_TRUE(is_empty(art));
+  }
+}
+
+TEST_F(C64OutputTest, PutsTheProgramOnADiskAndShowsItInVice) {
+  if (!IsInstalled("c1541")) GTEST_SKIP() << "this needs c1541, a part of VICE";
+  Script(vice / "x64", "echo \"$@\" > '" + app::TextFromPath(folder / "called") + "'");
+  Open("My Picture With A Long Name.koa");
+  Action("mnuCreatePRGCompopic")->trigger();
+  Action("mnuPreviewCompopicInVICE")->trigger();
+  EXPECT_EQ(PromptLines().last(), "--> Launching VICE.");
+  const std::string image = app::TextFromPath(art / "My Picture With A Long Name.d64");
+  EXPECT_EQ(support::ReadText(folder / "called"), "-autostart " + image + ":my picture with .prg\n");
+  const fs::path extracted = folder / "extracted";
+  EXPECT_EQ(support::RunTool("c1541", {image, "-read", "my picture with ", extracted.string()}).exit_code, 0);
+  EXPECT_EQ(support::ReadFile(extracted), support::ReadFile(art / "My Picture With A Long Name.prg"));
+}
+
+TEST_F(C64OutputTest, AnotherPreviewLeavesTheShownOneRunning) {
+  if (!IsInstalled("c1541")) GTEST_SKIP() << "this needs c1541, a part of VICE";
+  const std::string calls = app::TextFromPath(folder / "calls");
+  Script(vice / "x64", "echo call >> '" + calls + "'; sleep 2; echo end >> '" + calls + "'");
+  Open("pic.koa");
+  QTimer look;
+  QObject::connect(&look, &QTimer::timeout, frame.get(), [&] {
+    if (!exists(folder / "calls")) return;
+    look.stop();
+    EXPECT_FALSE(frame->Builds().IsBuilding());
+    Action("mnuPreviewCompopicInVICE")->trigger();
+  });
+  look.start(20);
+  Action("mnuPreviewCompopicInVICE")->trigger();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return support::ReadText(calls) == "call\ncall\nend\nend\n"; }, 10000));
+}
+
+TEST_F(C64OutputTest, ShowsThePictureOnAC64) {
+  const support::CodenetServer server({}, kCodenetPort);
+  Open("pic.koa");
+  Action("mnuShowPreviewOnC64")->trigger();
+  EXPECT_EQ(PromptLines().last(), "--> Transfer complete");
+  const support::CodenetMachine c64 = server.Machine();
+  EXPECT_EQ(c64.runs, 1);
+  app::Bytes prg{0x01, 0x08};
+  prg.insert(prg.end(), c64.memory.begin() + 0x0801, c64.memory.end());
+  while (prg.size() > 2 && prg.back() == 0) prg.pop_back();
+  ExpectShows(prg);
+}
+
+TEST_F(C64OutputTest, LetsAC64SaveThePicture) {
+  const support::CodenetServer server({}, kCodenetPort);
+  settings.Write(c64out::kCodenetPrgName, "my pic");
+  Open("pic.koa");
+  Action("mnuCreatePRGCompopic")->trigger();
+  const auto size = fs::file_size(art / "pic.prg");
+  Action("mnuSaveCompopicOn15x1")->trigger();
+  EXPECT_EQ(PromptLines().last(), "--> Saving...");
+  const support::CodenetMachine c64 = server.Machine();
+  EXPECT_EQ(c64.jumps, std::vector{0xCF00});
+
+  const auto memory = [&](int begin, int end) {
+    app::Bytes bytes{static_cast<std::uint8_t>(begin), static_cast<std::uint8_t>(begin >> 8)};
+    bytes.insert(bytes.end(), c64.memory.begin() + begin, c64.memory.begin() + end);
+    return bytes;
+  };
+  support::C64Machine machine;
+  support::KernalDisk disk(machine);
+  machine.Load(memory(0x0801, 0x0801 + static_cast<int>(size)));
+  machine.Load(memory(0xCF00, 0xD000));
+  const std::string sys_line(
+      "\x01\x08\x0C\x08\x0A\0\x9E"
+      "52992\0\0\0",
+      15);
+  machine.Load(app::Bytes(sys_line.begin(), sys_line.end()));
+  EXPECT_EQ(machine.Run(), support::C64Machine::Ending::kReturns);
+  EXPECT_EQ(std::string(disk.name.begin(), disk.name.end()), "MY.PIC");
+  EXPECT_EQ(disk.start, 0x0801);
+  EXPECT_NEAR(disk.end, 0x0801 + static_cast<int>(size), 40);  // a network build has a few lines more
+}
+
+TEST_F(C64OutputTest, AHangingToolCanBeStopped) {
+  Open("pic.koa");
+  Script(folders.System() / "crush", "sleep 60");
+  WhileBuilding([this] {
+    EXPECT_FALSE(Action("mnuCreatePRGCompopic")->isEnabled());
+    EXPECT_FALSE(Action("mnuShowPreviewOnC64")->isEnabled());
+    Action("mnuCreateD64CompoPic")->trigger();  // an impatient click
+    QTest::keyClick(Box("frmZoom"), Qt::Key_Escape);
+  });
+  Action("mnuCreatePRGCompopic")->trigger();
+  EXPECT_EQ(PromptLines().last(), "--> Build stopped.");
+  EXPECT_TRUE(Find("frmCommand")->isVisible());
+  EXPECT_FALSE(exists(art / "pic.prg"));
+  EXPECT_TRUE(Action("mnuCreatePRGCompopic")->isEnabled());
+}
+
+TEST_F(C64OutputTest, ClosingEndsABuild) {
+  Open("pic.koa");
+  Script(folders.System() / "crush", "sleep 60");
+  WhileBuilding([this] { frame->close(); });
+  Action("mnuCreatePRGCompopic")->trigger();
+  EXPECT_FALSE(frame->isVisible());
+  EXPECT_EQ(PromptLines().last(), "--> Build stopped.");
+}
+
+TEST_F(C64OutputTest, APictureWithoutAFileIsSavedFirst) {
+  QTimer::singleShot(0, [] {
+    auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialog, nullptr);
+    dialog->reject();
+  });
+  Action("mnuCreatePRGCompopic")->trigger();
+  EXPECT_FALSE(PromptLines().contains("CREATING PRG"));
+}
+
+TEST_F(C64OutputTest, TheViceSettingsDecideWhatCanBeChosen) {
+  struct Case {
+    std::string typed;
+    const char* told;  // by a message box; the dialog stays then
+    bool is_enabled;
+  };
+  const Case cases[] = {{"/usr/bin/x64.exe", "The caption spells PATH, not executable.", true},
+                        {app::TextFromPath(art), "Incorrect VICE path", true},
+                        {"", "", false},
+                        {" " + app::TextFromPath(vice) + "/ ", "", true}};
+  for (const Case& row : cases) {
+    SCOPED_TRACE(row.typed);
+    box_text.clear();
+    QTimer::singleShot(0, [&] {
+      auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+      ASSERT_EQ(dialog->objectName(), "frmViceSettings");
+      dialog->findChild<QLineEdit*>("VICEPath")->setText(ToQt(row.typed));
+      dialog->findChild<QLineEdit*>("PRGName")->setText(" name of " + ToQt(row.typed));
+      if (*row.told != 0) AnswerNext(QMessageBox::Ok);
+      dialog->findChild<QAbstractButton*>("cmdStd")->click();
+      EXPECT_EQ(dialog->isVisible(), *row.told != 0);
+      dialog->reject();
+    });
+    Action("mnuViceSettings")->trigger();
+    EXPECT_EQ(box_text, row.told);
+    EXPECT_EQ(Action("mnuCreatePRGCompopic")->isEnabled(), row.is_enabled);
+    EXPECT_EQ(Action("mnuPreviewCompopicInVICE")->isEnabled(), row.is_enabled);
+    EXPECT_TRUE(Action("mnuShowPreviewOnC64")->isEnabled());
+    EXPECT_EQ(settings.Read(c64out::kVicePrgName), FromQt(QString("name of " + ToQt(row.typed)).trimmed()));
+  }
+  EXPECT_EQ(settings.Read(c64out::kVicePath), app::TextFromPath(vice) + "/");
+}
+
+TEST_F(MainFrameTest, AWrongVicePathIsToldAtStart) {
+  settings.Write(c64out::kVicePath, app::TextFromPath(folder.Path()));
+  AnswerNext(QMessageBox::Ok);
+  Start();
+  EXPECT_EQ(box_text, "Incorrect VICE path");
+  EXPECT_FALSE(Action("mnuCreateD64CompoPic")->isEnabled());
+}
+
+}  // namespace
+}  // namespace kelvo::ui
+
+#endif
