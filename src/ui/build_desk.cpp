@@ -10,6 +10,10 @@
 
 namespace kelvo::ui {
 
+BuildDesk::BuildDesk(const BuildDeskSurroundings& with, QWidget* window) : with_(with), window_(window) {
+  connect(&runner_, &QtToolRunner::ShowingChanged, this, &BuildDesk::StateChanged);
+}
+
 void BuildDesk::BuildCompoPic(const c64out::CompoPicChoice& choice) {
   if (runner_.IsShowing()) {
     next_ = choice;
@@ -31,8 +35,8 @@ void BuildDesk::Run(const c64out::CompoPicChoice& choice) {
   const bool well = c64out::BuildCompoPic(
       picture, choice, {with_.folders, with_.settings, with_.clock, with_.log, with_.messages, with_.prompt, runner_});
   is_running_ = false;
-  emit Ended(well);
   emit StateChanged();
+  emit Ended(well);
 }
 
 void BuildDesk::Stop() {

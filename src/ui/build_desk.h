@@ -26,7 +26,7 @@ class BuildDesk : public QObject {
   Q_OBJECT
 
  public:
-  BuildDesk(const BuildDeskSurroundings& with, QWidget* window) : with_(with), window_(window) {}
+  BuildDesk(const BuildDeskSurroundings& with, QWidget* window);
 
   // Passed over while another build is at work. A picture that has no file is saved under a name first. While the
   // emulator is waited for another build may begin: it is left running then.

@@ -157,6 +157,7 @@ void MainFrame::ConnectAnimation() {
 
 void MainFrame::ConnectBuilds() {
   connect(&builds_, &BuildDesk::StateChanged, this, &MainFrame::RefreshMenus);
+  connect(&builds_, &BuildDesk::StateChanged, statusBar(), &QStatusBar::clearMessage);
   connect(&builds_, &BuildDesk::Ended, this, &MainFrame::BuildEnded);
   connect(&prompt_, &PromptLines::Added, this, [this](const QModelIndex& line) {
     if (builds_.IsBuilding()) statusBar()->showMessage(line.data().toString() + "   (Escape stops the build)");

@@ -115,15 +115,20 @@ c64out::ToolResult QtToolRunner::ShowAndWait(const c64out::ToolCommand& command)
   Child process;
   process.setProcessChannelMode(QProcess::MergedChannels);
   if (output.open()) process.setStandardOutputFile(output.fileName());
-  is_showing_ = true;
+  SetShowing(true);
   c64out::ToolResult result = Wait(process, command);
-  is_showing_ = false;
+  SetShowing(false);
   if (result.stopped) {
     process.LeaveRunning();
   } else {
     result.failure = FromQt(WhyItFailed(process, output.read(kMostOutput)));
   }
   return {.stopped = false, .failure = result.failure};
+}
+
+void QtToolRunner::SetShowing(bool showing) {
+  is_showing_ = showing;
+  emit ShowingChanged();
 }
 
 void QtToolRunner::Stop() {

@@ -27,7 +27,12 @@ class QtToolRunner final : public QObject, public c64out::ToolRunner {
   void Stop();
   bool IsShowing() const { return is_showing_; }
 
+ signals:
+  // A program is there for the user to look at, from now on or no longer.
+  void ShowingChanged();
+
  private:
+  void SetShowing(bool showing);
   c64out::ToolResult Wait(QProcess& process, const c64out::ToolCommand& command);
 
   QPointer<QEventLoop> wait_;
