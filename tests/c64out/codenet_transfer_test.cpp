@@ -17,6 +17,7 @@ namespace {
 using std::chrono::milliseconds;
 
 constexpr Patience kShort{milliseconds(2), 5, milliseconds(10)};
+constexpr Patience kUnhurried{milliseconds(40), 5, milliseconds(200)};  // no slow machine is taken for a deaf one
 constexpr std::uint16_t kAddress = 0x2000;
 constexpr std::size_t kSize = 10000;
 
@@ -87,7 +88,7 @@ TEST(CodenetTransfer, AStartThatNobodyConfirmsIsNoSuccess) {
   codenet::UdpSocket socket("127.0.0.1", server.Port());
   const NeverStopped watch;
   app::NoProgress progress;
-  CodenetSender sender(socket, watch, 7, kShort);
+  CodenetSender sender(socket, watch, 7, kUnhurried);
   try {
     SendTransfer({kAddress, app::Bytes(200), true, std::nullopt}, sender, progress);
     ADD_FAILURE() << "a success is claimed";
