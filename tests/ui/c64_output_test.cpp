@@ -139,8 +139,10 @@ TEST_F(C64OutputTest, AC64ShowsThePictureAndSavesIt) {
   support::CodenetMachine c64 = server.Machine();
   EXPECT_EQ(c64.runs, 1);
   const auto memory = [&c64](int begin, int end) {
-    app::Bytes bytes{static_cast<std::uint8_t>(begin), static_cast<std::uint8_t>(begin >> 8)};
-    bytes.insert(bytes.end(), c64.memory.begin() + begin, c64.memory.begin() + end);
+    app::Bytes bytes(static_cast<std::size_t>(end - begin + 2));
+    bytes[0] = static_cast<std::uint8_t>(begin);
+    bytes[1] = static_cast<std::uint8_t>(begin >> 8);
+    std::copy(c64.memory.begin() + begin, c64.memory.begin() + end, bytes.begin() + 2);
     return bytes;
   };
   int end = 0x10000;
