@@ -48,9 +48,11 @@ void End(QProcess& process) {
   process.waitForFinished(kEndMilliseconds);
 }
 
-// The first line of the output that says anything.
-QString FirstLine(const QByteArray& output) {
-  for (const QString& line : QString::fromUtf8(output).split('\n')) {
+// The line of the output that tells most: the first that speaks of an error, else the first that says anything.
+QString TellingLine(const QByteArray& output) {
+  const QStringList lines = QString::fromUtf8(output).split('\n');
+  const QStringList errors = lines.filter("error", Qt::CaseInsensitive);
+  for (const QString& line : errors + lines) {
     if (!line.trimmed().isEmpty()) return line.trimmed().left(kLongestLine);
   }
   return {};
@@ -60,7 +62,7 @@ QString WhyItFailed(const QProcess& process, const QByteArray& output) {
   if (process.error() == QProcess::FailedToStart) return "could not be started: " + process.errorString();
   if (process.exitStatus() == QProcess::CrashExit) return "crashed";
   if (process.exitCode() == 0) return {};
-  const QString line = FirstLine(output);
+  const QString line = TellingLine(output);
   return line.isEmpty() ? QString("ended with code %1").arg(process.exitCode()) : line;
 }
 

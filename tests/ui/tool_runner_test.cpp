@@ -49,6 +49,7 @@ TEST_F(ToolRunnerTest, SaysWhyAToolFailed) {
   EXPECT_EQ(FailureOf("echo noise"), "");
   EXPECT_EQ(FailureOf("exit 3"), "ended with code 3");
   EXPECT_EQ(FailureOf("echo; echo ' what is wrong '; echo more >&2; exit 1"), "what is wrong");
+  EXPECT_EQ(FailureOf("echo begin; echo 'C64MEM: Error - no ROM'; echo end; exit 1"), "C64MEM: Error - no ROM");
   EXPECT_EQ(FailureOf("kill -9 $$"), "crashed");
   EXPECT_EQ(FailureOf("cat; exit 4"), "ended with code 4");  // there is no input to wait for
   EXPECT_EQ(FailureOf("head -c 5000000 /dev/zero | tr '\\0' x; exit 1"), std::string(200, 'x'));
