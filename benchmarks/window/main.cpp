@@ -9,10 +9,12 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <algorithm>
+#include <limits>
 
 #include "anim/anim_settings.h"
 #include "app/path_text.h"
 #include "app/whole_file.h"
+#include "c64out/output_settings.h"
 #include "files/picture_format.h"
 #include "row.h"
 #include "support/pictures.h"
@@ -138,6 +140,20 @@ double PlayLateness(MainFrame& frame, QWidget* full_view) {
   return latest;
 }
 
+// From the click to the program beside the picture, in milliseconds.
+double BuildTime(MainFrame& frame, kelvo::app::SettingsStore& settings, const kelvo::app::ProgramFolders& folders) {
+  folders.Create();
+  folders.Seed(KELVO_SHARE);
+  kelvo::support::WriteText(folders.Root() / "x64", "an emulator, to look at");
+  settings.Write(kelvo::c64out::kVicePath, kelvo::app::TextFromPath(folders.Root()));
+  frame.Files().OpenPicture(kelvo::app::TextFromPath(folders.Gfx() / "landscape.kvp"));
+  QElapsedTimer clock;
+  clock.start();
+  frame.Builds().BuildCompoPic(kelvo::c64out::kCompoPicEntries[0].choice);
+  const double milliseconds = static_cast<double>(clock.nsecsElapsed()) / 1e6;
+  return exists(folders.Gfx() / "landscape.prg") ? milliseconds : std::numeric_limits<double>::infinity();
+}
+
 // What one line more costs a prompt that holds `lines` already, in microseconds.
 double PromptLineTime(int lines) {
   kelvo::ui::PromptLines prompt;
@@ -171,6 +187,7 @@ int main(int argc, char** argv) {
   met &= Tell("longest of 20 changes to the next frame", FrameChange(frame, box), 2 * kDisplayFrame);
   QWidget* full_view = frame.findChild<QWidget*>("frmBMPView")->findChild<QWidget*>("picStd");
   met &= Tell("latest of 100 frames played at 25 a second", PlayLateness(frame, full_view), kDisplayFrame);
+  met &= Tell("a whole PRG build", BuildTime(frame, settings, folders), 2000);
   const double first_lines = PromptLineTime(0);
   met &= kelvo::bench::Report(
       {"prompt line behind 100000 others", PromptLineTime(100000), "us", "first lines", first_lines, 3 * first_lines});

@@ -16,4 +16,8 @@ void PromptLines::CommandPromptList(std::string_view line) {
   emit Added(index(row));
 }
 
+QVariant PromptLines::data(const QModelIndex& index, int role) const {
+  return QStringListModel::data(index, role == Qt::ToolTipRole ? static_cast<int>(Qt::DisplayRole) : role);
+}
+
 }  // namespace kelvo::ui

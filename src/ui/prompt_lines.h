@@ -17,6 +17,9 @@ class PromptLines final : public QStringListModel, public app::PromptOutput {
 
   void CommandPromptList(std::string_view line) override;
 
+  // A line that is too long for the window shows whole under the pointer.
+  QVariant data(const QModelIndex& index, int role) const override;
+
  signals:
   void Added(const QModelIndex& last);
 };

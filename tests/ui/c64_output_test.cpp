@@ -2,8 +2,10 @@
 #include <QDialog>
 #include <QLineEdit>
 #include <QListView>
+#include <csignal>
 
 #include "c64out/output_settings.h"
+#include "c64out/vice_folder.h"
 #include "files/picture_format.h"
 #include "main_frame_fixture.h"
 #include "support/c64_machine.h"
@@ -110,6 +112,29 @@ TEST_F(C64OutputTest, PutsTheProgramOnADiskAndShowsItInVice) {
   const fs::path extracted = folder / "extracted";
   EXPECT_EQ(support::RunTool("c1541", {image, "-read", "my picture with ", extracted.string()}).exit_code, 0);
   EXPECT_EQ(support::ReadFile(extracted), support::ReadFile(art / "My Picture With A Long Name.prg"));
+}
+
+// VICE comes without the C64's ROMs: where the user has not put them in, it says so and ends.
+TEST_F(C64OutputTest, StartsTheRealEmulatorOnTheDisk) {
+  if (!IsInstalled("c1541") || !IsInstalled("Xvfb")) GTEST_SKIP() << "this needs VICE and Xvfb";
+  const std::string number = ":" + std::to_string(40000 + QCoreApplication::applicationPid() % 20000);
+  support::RunningTool display("Xvfb", {number, "-nolisten", "tcp"});
+  qputenv("DISPLAY", number.c_str());
+  qputenv("HOME", folder.Path().c_str());
+  ASSERT_TRUE(QTest::qWaitFor([&] { return exists(fs::path("/tmp/.X11-unix/X" + number.substr(1))); }));
+  settings.Write(c64out::kVicePath, c64out::EmulatorOnPath(qgetenv("PATH").toStdString()));
+  bool is_shown = false;
+  QTimer::singleShot(8000, frame.get(), [&] {
+    is_shown = Action("mnuPreviewCompopicInVICE")->isEnabled();
+    frame->close();  // ends the wait
+  });
+  Open("pic.koa");
+  Action("mnuPreviewCompopicInVICE")->trigger();
+  display.Signal(SIGTERM);
+  if (is_shown) return;
+  EXPECT_EQ(PromptLines().last(), "--> [err 908]");
+  EXPECT_TRUE(PromptLines().at(PromptLines().size() - 2).contains("ROM")) << FromQt(PromptLines().join('\n'));
+  GTEST_SKIP() << "VICE has no C64 ROMs here; that the picture is shown is proven by running its program on a 6502";
 }
 
 TEST_F(C64OutputTest, AnotherPreviewLeavesTheShownOneRunning) {
