@@ -102,6 +102,9 @@ TEST_F(C64OutputTest, TakesAnyNameOfAPicture) {
 
 TEST_F(C64OutputTest, PutsTheProgramOnADiskAndShowsItInVice) {
   if (!IsInstalled("c1541")) GTEST_SKIP() << "this needs c1541, a part of VICE";
+  const std::string blank = app::TextFromPath(folders.System() / "empty.d64");
+  const std::string is_blank = "c1541 '" + blank + "' -validate -list | grep -q '^664 blocks free'";
+  EXPECT_EQ(support::RunTool("sh", {"-c", is_blank}).exit_code, 0);
   Script(vice / "x64", "echo \"$@\" > '" + app::TextFromPath(folder / "called") + "'");
   Open("My Picture With A Long Name.koa");
   Action("mnuCreatePRGCompopic")->trigger();
@@ -259,6 +262,23 @@ TEST_F(C64OutputTest, TheViceSettingsDecideWhatCanBeChosen) {
     EXPECT_EQ(settings.Read(c64out::kVicePrgName), FromQt(QString("name of " + ToQt(row.typed)).trimmed()));
   }
   EXPECT_EQ(settings.Read(c64out::kVicePath), app::TextFromPath(vice) + "/");
+}
+
+TEST_F(MainFrameTest, CodenetSettingsAreKeptTrimmedAndUnchecked) {
+  Start();
+  QTimer::singleShot(0, [] {
+    auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    ASSERT_EQ(dialog->objectName(), "frmCodenetSettings");
+    auto* address = dialog->findChild<QLineEdit*>("C64IP");
+    EXPECT_EQ(address->text(), ToQt(c64out::kDefaultC64Address));
+    address->setText("  no address ");
+    dialog->findChild<QLineEdit*>("PRGName")->setText(" a name ");
+    dialog->findChild<QAbstractButton*>("cmdStd")->click();
+    EXPECT_FALSE(dialog->isVisible());
+  });
+  Action("mnuCodenetSettings")->trigger();
+  EXPECT_EQ(settings.values["CodenetSettings/C64IP"], "no address");
+  EXPECT_EQ(settings.values["CodenetSettings/PRGName"], "a name");
 }
 
 TEST_F(MainFrameTest, AWrongVicePathIsToldAtStart) {
