@@ -19,7 +19,7 @@ class FillTemplateTest : public testing::Test {
  protected:
   std::string Fill(std::string_view text, bool via_codenet) {
     support::WriteText(folder / "in", text);
-    FillTemplate(folder / "in", folder / "out", "[bitmap]", "/pic.kvp", via_codenet);
+    FillTemplate(folder / "in", folder / "out", {"[bitmap]", "/pic.kvp", via_codenet});
     return support::ReadText(folder / "out");
   }
   support::TempFolder folder;
@@ -44,7 +44,7 @@ TEST_F(FillTemplateTest, SaysWhatIsWrongWithATemplateAndLeavesNoOldResult) {
   EXPECT_THROW(Fill("no placeholder", false), std::runtime_error);
   EXPECT_FALSE(exists(folder / "out"));
   EXPECT_THROW(Fill("<CC> [bitmap]", false), std::runtime_error);
-  EXPECT_THROW(FillTemplate(folder / "gone", folder / "out", "[bitmap]", "", false), app::FileError);
+  EXPECT_THROW(FillTemplate(folder / "gone", folder / "out", {"[bitmap]", "", false}), app::FileError);
 }
 
 TEST(ToolCommand, RendersForTheWindowsInterpreter) {
