@@ -25,8 +25,8 @@ class HostileLine final : public c64out::DatagramSocket, public c64out::Transfer
   }
 
   app::Bytes Receive(microseconds wait) override {
-    if (wait > microseconds(0)) now_ += microseconds(1 + input_.Byte() * wait.count() / 255);
-    if (input_.IsEmpty()) return {};
+    if (input_.IsEmpty()) return now_ += wait, app::Bytes();
+    now_ += wait * input_.Below(5) / 4;
     app::Bytes datagram;
     switch (input_.Below(4)) {
       case 0:

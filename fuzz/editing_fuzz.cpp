@@ -190,6 +190,7 @@ class Session final : public app::Messages, public app::ProcessEvents {
     Require(picture_.BackgroundColour == before.BackgroundColour && picture_.LoadAddressLow == before.LoadAddressLow &&
                 picture_.LoadAddressHigh == before.LoadAddressHigh,
             "painting leaves background and load address");
+    if (LooksTheSame(picture_, before)) return;
     CheckSpareBytes(before);
     for (int cell = 1; cell <= PictureImage::kCells; ++cell) {
       if (CellOf(picture_, cell) == CellOf(before, cell)) continue;

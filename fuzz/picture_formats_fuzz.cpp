@@ -33,7 +33,7 @@ void CheckWrittenAndRead(PictureImage picture) {
   expected.Bitmap[PictureImage::kBitmapBytes] = kUnread;
   Require(SameUsed(read.Bitmap, expected.Bitmap, PictureImage::kBitmapBytes),
           "the bitmap comes back but its last byte");
-  Require(SameUsed(read.ScreenMemory, expected.ScreenMemory, 1024), "screen memory and what lies behind it come back");
+  Require(SameUsed(read.ScreenMemory, expected.ScreenMemory, 1023), "screen memory and the signature come back");
   Require(SameUsed(read.ColourMemory, expected.ColourMemory, 1023), "colour memory comes back");
   Require(read.BackgroundColour == expected.BackgroundColour, "the background comes back");
   Require(read.LoadAddressLow == expected.LoadAddressLow && read.LoadAddressHigh == expected.LoadAddressHigh,

@@ -7,6 +7,7 @@
 #include "app/file_name.h"
 #include "app/path_text.h"
 #include "app/text.h"
+#include "app/utf8.h"
 #include "c64out/codenet_options.h"
 #include "c64out/vice_folder.h"
 #include "editing/preferences.h"
@@ -114,7 +115,7 @@ void CheckPath(const std::string& path) {
   try {
     Require(files::SavedName(path).ends_with(".kvp"), "pictures are saved as .kvp");
   } catch (const std::runtime_error&) {
-    Require(path.size() < 16, "only short names are refused");
+    Require(app::CharactersOf(path).size() < 4, "only short names are refused");
   }
   if (app::IsPlainName(path)) {
     Require(app::PathFromText(path).filename() == app::PathFromText(path), "a plain name stays in its folder");

@@ -51,7 +51,8 @@ TEST(ToolCommand, RendersForTheWindowsInterpreter) {
   const ToolCommand command{"C:\\KELVO\\SYSTEM\\TASS.EXE", {"C:\\KELVO\\SYSTEM\\bmpshow.tmp", "", "$cf00"}};
   EXPECT_EQ(command.WindowsCommandLine("c:\\windows\\system32\\CMD.exe"),
             "c:\\windows\\system32\\CMD.exe /C C:\\KELVO\\SYSTEM\\TASS.EXE C:\\KELVO\\SYSTEM\\bmpshow.tmp  $cf00");
-  for (const char* meddling : {"a&calc", "a|b", "a>b", "%PATH%", "a\"b", "a\nb"}) {
+  using namespace std::string_literals;
+  for (const auto& meddling : {"a&calc"s, "a|b"s, "a>b"s, "%PATH%"s, "a\"b"s, "a\nb"s, "a\0b"s}) {
     EXPECT_THROW((ToolCommand{"c1541.exe", {meddling}}.InterpreterArguments()), std::runtime_error) << meddling;
   }
 }
