@@ -51,7 +51,7 @@ bool SmallDisk::MakeReadOnly() const {
 void SmallDisk::FillUp() const {
   std::ofstream filler(folder_ / "filler", std::ios::binary);
   const std::string block(4096, 'x');
-  while (filler.write(block.data(), static_cast<std::streamsize>(block.size())).flush()) continue;
+  while (filler) filler.write(block.data(), static_cast<std::streamsize>(block.size())).flush();
 }
 
 void SmallDisk::MakeRoom() const {
