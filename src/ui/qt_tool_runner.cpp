@@ -80,6 +80,7 @@ bool QtToolRunner::CanRun() const {
 
 c64out::ToolResult QtToolRunner::Wait(QProcess& process, const c64out::ToolCommand& command) {
   QEventLoop wait;
+  // cppcheck-suppress danglingLifetime ; this pointer knows when the loop is gone
   wait_ = &wait;
   connect(&process, &QProcess::finished, &wait, &QEventLoop::quit);
   connect(&process, &QProcess::errorOccurred, &wait, [&](QProcess::ProcessError error) {
