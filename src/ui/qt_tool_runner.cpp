@@ -1,8 +1,6 @@
 #include "ui/qt_tool_runner.h"
 
 #include <QEventLoop>
-#include <QFile>
-#include <QFileInfo>
 #include <QTemporaryFile>
 
 #include "ui/qt_text.h"

@@ -1,7 +1,6 @@
 #include "ui/window_places.h"
 
 #include <QGuiApplication>
-#include <QMdiArea>
 #include <QScreen>
 #include <QStringList>
 #include <algorithm>
