@@ -7,8 +7,8 @@ namespace fs = std::filesystem;
 
 fs::path FreeNameBeside(const fs::path& file) {
   fs::path name = file;
-  do name += ".old";
-  while (fs::exists(fs::symlink_status(name)));
+  name += ".old";
+  while (fs::exists(fs::symlink_status(name))) name += ".old";
   return name;
 }
 
