@@ -1,6 +1,5 @@
 // Puts the program together and runs it.
 #include <QCommandLineParser>
-#include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
 #include <algorithm>

@@ -1,6 +1,5 @@
 #include "app/durable_file.h"
 
-#include <algorithm>
 #include <cerrno>
 
 #ifdef _WIN32

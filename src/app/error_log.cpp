@@ -9,7 +9,8 @@ void ErrorLog::Write(std::string_view message) const {
   std::string line = LogStamp(clock_.Now()) + " " + std::string(message);
   std::replace_if(
       line.begin(), line.end(), [](char c) { return c == '\n' || c == '\r'; }, ' ');
-  std::ofstream(file_, std::ios::app) << line << '\n';
+  line += '\n';
+  std::ofstream(file_, std::ios::app) << line;  // in one piece: several programs may share the log
 }
 
 }  // namespace kelvo::app

@@ -2,7 +2,7 @@
 #pragma once
 
 #include <filesystem>
-#include <string>
+#include <utility>
 
 namespace kelvo::app {
 

@@ -49,10 +49,10 @@ std::string ScreenColour(model::C64Colour background) {
 
 void FillViewer(const BuildJob& job) {
   const WorkFiles& files = job.Files();
-  FillTemplate(job.System("bmpshow.src"), files.viewer_half_filled, "[bitmap]", ShortPath(files.picture),
-               job.Choice().ViaCodenet);
-  FillTemplate(files.viewer_half_filled, files.viewer_source, "[screencolor]",
-               ScreenColour(job.Picture().picture.BackgroundColour), job.Choice().ViaCodenet);
+  FillTemplate(job.System("bmpshow.src"), files.viewer_half_filled,
+               {"[bitmap]", ShortPath(files.picture), job.Choice().ViaCodenet});
+  FillTemplate(files.viewer_half_filled, files.viewer_source,
+               {"[screencolor]", ScreenColour(job.Picture().picture.BackgroundColour), job.Choice().ViaCodenet});
   Remove(files.viewer_half_filled);
 }
 
@@ -82,8 +82,8 @@ void Crush(const BuildJob& job) {
 
 void AddDepacker(const BuildJob& job) {
   const WorkFiles& files = job.Files();
-  FillTemplate(job.System("decrush.tas"), files.depacker_source, "[packedfile]", ShortPath(files.viewer_packed),
-               job.Choice().ViaCodenet);
+  FillTemplate(job.System("decrush.tas"), files.depacker_source,
+               {"[packedfile]", ShortPath(files.viewer_packed), job.Choice().ViaCodenet});
   const std::string source = ShortPath(files.depacker_source);
   job.Make(files.program, job.System(ToolName("tass")), {source, WithEnding(source, "decrush.tmp", "bmpshow.prg")});
   Remove(files.viewer_packed);

@@ -15,7 +15,6 @@
 #include <cstdint>
 #include <span>
 #include <stdexcept>
-#include <string_view>
 #include <vector>
 
 #include "app/progress.h"

@@ -12,30 +12,28 @@ constexpr std::string_view kNetworkOnly = "<CC>";
 
 }  // namespace
 
-std::string Replaced(std::string_view text, std::string_view what, std::string_view replacement) {
-  std::string result;
-  for (auto at = text.find(what); at != std::string_view::npos; at = text.find(what)) {
-    result.append(text.substr(0, at)).append(replacement);
-    text.remove_prefix(at + what.size());
+std::optional<std::string> FilledTemplate(std::string_view text, const TemplateFilling& filling) {
+  Lines filled;
+  bool is_found = false;
+  for (const std::string& line : LinesOf(text)) {
+    if (line.find(kNetworkOnly) != std::string::npos && !filling.via_codenet) continue;
+    const std::string unmarked = Replaced(line, kNetworkOnly, "");
+    is_found = is_found || unmarked.find(filling.placeholder) != std::string::npos;
+    filled.push_back(Replaced(unmarked, filling.placeholder, filling.replacement));
   }
-  return result.append(text);
+  if (!is_found) return std::nullopt;
+  return JoinedLines(filled);
 }
 
 void FillTemplate(const std::filesystem::path& source, const std::filesystem::path& destination,
-                  std::string_view placeholder, std::string_view replacement, bool via_codenet) {
+                  const TemplateFilling& filling) {
   std::error_code ignored;
   std::filesystem::remove(destination, ignored);
-  Lines filled;
-  bool is_found = false;
-  for (const std::string& line : ReadLines(source)) {
-    if (line.find(kNetworkOnly) != std::string::npos && !via_codenet) continue;
-    is_found = is_found || line.find(placeholder) != std::string::npos;
-    filled.push_back(Replaced(Replaced(line, placeholder, replacement), kNetworkOnly, ""));
+  const auto filled = FilledTemplate(ReadText(source), filling);
+  if (!filled) {
+    throw std::runtime_error(app::TextFromPath(source) + " holds no " + std::string(filling.placeholder));
   }
-  if (!is_found) {
-    throw std::runtime_error(app::TextFromPath(source) + " holds no " + std::string(placeholder));
-  }
-  WriteLines(destination, filled);
+  WriteText(destination, *filled);
 }
 
 }  // namespace kelvo::c64out

@@ -2,19 +2,26 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 
 namespace kelvo::c64out {
 
-// Copies a template line by line; each line ends with CR LF afterwards. Every occurrence of `placeholder`, which is
-// case-sensitive, becomes `replacement`. A line with "<CC>" is dropped unless `via_codenet`; then it loses the marker.
-// Throws app::FileError when a file cannot be read or written, and std::runtime_error when no line that was written
-// held the placeholder; the destination is then not there.
-void FillTemplate(const std::filesystem::path& source, const std::filesystem::path& destination,
-                  std::string_view placeholder, std::string_view replacement, bool via_codenet);
+struct TemplateFilling {
+  std::string_view placeholder;  // case-sensitive, not empty
+  std::string_view replacement;
+  bool via_codenet;
+};
 
-// `text` with every occurrence of `what` replaced.
-std::string Replaced(std::string_view text, std::string_view what, std::string_view replacement);
+// A template's text line by line, each ended by CR LF. A line with "<CC>" is dropped unless `via_codenet`; then it
+// loses the marker. Every occurrence of the placeholder becomes the replacement, which stays as it is whatever it
+// holds. Empty when no line that is left holds the placeholder.
+std::optional<std::string> FilledTemplate(std::string_view text, const TemplateFilling& filling);
+
+// The same from file to file. Throws app::FileError when a file cannot be read or written, and std::runtime_error for a
+// template without the placeholder; the destination is then not there.
+void FillTemplate(const std::filesystem::path& source, const std::filesystem::path& destination,
+                  const TemplateFilling& filling);
 
 }  // namespace kelvo::c64out

@@ -1,6 +1,8 @@
 // Settings of the C64 output.
 #pragma once
 
+#include <string_view>
+
 #include "app/settings_store.h"
 
 namespace kelvo::c64out {

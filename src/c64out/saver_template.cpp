@@ -5,8 +5,8 @@
 #include <stdexcept>
 
 #include "app/utf8.h"
-#include "app/whole_file.h"
 #include "c64out/codenet_protocol.h"
+#include "c64out/text_lines.h"
 #include "model/number_text.h"
 
 namespace kelvo::c64out {
@@ -14,7 +14,6 @@ namespace {
 
 constexpr std::size_t kLongestName = 16;  // on a C64's disk
 constexpr char32_t kCodeShift = 32, kLastLatin1 = 255;
-constexpr std::uintmax_t kLongestSource = 1U << 20;
 
 struct Placeholder {
   std::string_view text;
@@ -35,30 +34,11 @@ Placeholders PlaceholdersFor(std::string_view name, std::uintmax_t program_size)
            {"[end_high]", end.substr(0, 2)}}};
 }
 
-std::string Filled(std::string_view line, const Placeholder& placeholder) {
-  std::string filled;
-  for (;;) {
-    const auto at = line.find(placeholder.text);
-    filled += line.substr(0, at);
-    if (at == std::string_view::npos) return filled;
-    filled += placeholder.replacement;
-    line.remove_prefix(at + placeholder.text.size());
-  }
-}
-
-std::string Filled(std::string_view line, const Placeholders& placeholders) {
+std::string Filled(const std::string& line, const Placeholders& placeholders) {
   for (const Placeholder& placeholder : placeholders) {
-    if (line.find(placeholder.text) != std::string_view::npos) return Filled(line, placeholder);
+    if (line.find(placeholder.text) == std::string::npos) continue;
+    return Replaced(line, placeholder.text, placeholder.replacement);
   }
-  return std::string(line);
-}
-
-// Takes the first line off `text`, without its LF or CR LF.
-std::string_view TakeLine(std::string_view& text) {
-  const auto end = text.find('\n');
-  std::string_view line = text.substr(0, end);
-  text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
-  if (line.ends_with('\r')) line.remove_suffix(1);
   return line;
 }
 
@@ -82,16 +62,14 @@ std::string ToC64FileName(std::string_view name) {
 
 std::string FilledSaver(std::string_view source, std::string_view name, std::uintmax_t program_size) {
   const Placeholders placeholders = PlaceholdersFor(name, program_size);
-  std::string filled;
-  while (!source.empty()) filled += Filled(TakeLine(source), placeholders) + "\r\n";
-  return filled;
+  Lines lines = LinesOf(source);
+  for (std::string& line : lines) line = Filled(line, placeholders);
+  return JoinedLines(lines);
 }
 
 void FillSaverTemplate(const std::filesystem::path& source, const std::filesystem::path& destination,
                        std::string_view name, std::uintmax_t program_size) {
-  const app::Bytes bytes = app::ReadWholeFile(source, kLongestSource);
-  const std::string filled = FilledSaver(std::string(bytes.begin(), bytes.end()), name, program_size);
-  app::WriteWholeFile(destination, app::Bytes(filled.begin(), filled.end()), app::Flush::kLater);
+  WriteText(destination, FilledSaver(ReadText(source), name, program_size));
 }
 
 }  // namespace kelvo::c64out

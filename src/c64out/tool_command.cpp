@@ -12,8 +12,8 @@ namespace {
 
 constexpr std::array<const char*, 2> kInterpreters{"c:\\winnt\\system32\\CMD.exe", "c:\\windows\\system32\\CMD.exe"};
 
-// Everything that the interpreter acts upon by itself.
-constexpr std::string_view kSpecial = "&|<>^%\"\r\n";
+// Everything that the interpreter acts upon by itself, and the sign that ends a line early.
+constexpr std::string_view kSpecial("&|<>^%\"\r\n\0", 10);
 
 void RequirePlain(const std::string& text) {
   if (text.find_first_of(kSpecial) == std::string::npos) return;

@@ -1,6 +1,8 @@
 // The tools that work on whole cells: mouse copy and char block fill.
 #pragma once
 
+#include <string_view>
+
 #include "editing/cell_copy.h"
 #include "editing/tool.h"
 #include "editing/undo_step.h"

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <optional>
+#include <string_view>
 
 #include "editing/plotter.h"
 #include "editing/tool.h"

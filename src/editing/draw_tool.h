@@ -1,6 +1,8 @@
 // Free-hand drawing.
 #pragma once
 
+#include <string_view>
+
 #include "editing/plotter.h"
 #include "editing/tool.h"
 #include "editing/undo_step.h"

@@ -1,6 +1,8 @@
 // Filling a region.
 #pragma once
 
+#include <string_view>
+
 #include "app/error_log.h"
 #include "app/settings_store.h"
 #include "app/wait_pointer.h"

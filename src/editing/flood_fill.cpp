@@ -1,7 +1,5 @@
 #include "editing/flood_fill.h"
 
-#include <algorithm>
-
 #include "editing/cell_slots.h"
 #include "editing/set_data.h"
 #include "model/pixel_colour.h"

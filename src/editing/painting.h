@@ -5,6 +5,7 @@
 #include <memory>
 #include <optional>
 #include <span>
+#include <string_view>
 
 #include "app/error_log.h"
 #include "app/messages.h"

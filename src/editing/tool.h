@@ -34,7 +34,7 @@ class Tool {
   virtual PressResult Press(const PointerEvent& event) = 0;
 
   // The pointer moved on from `from` while the stroke lasts; the places in between were crossed.
-  virtual void Drag(model::PixelPoint from, const PointerEvent& to) { static_cast<void>(from), static_cast<void>(to); }
+  virtual void Drag([[maybe_unused]] model::PixelPoint from, [[maybe_unused]] const PointerEvent& to) {}
 
   // The timer ticked, ten times a second.
   virtual void Tick() {}
@@ -43,7 +43,7 @@ class Tool {
   virtual void Cancel() {}
 
   // The points that a press at `pointer` would plot now.
-  virtual Points Preview(model::PixelPoint pointer) const { return static_cast<void>(pointer), Points(); }
+  virtual Points Preview([[maybe_unused]] model::PixelPoint pointer) const { return {}; }
 };
 
 }  // namespace kelvo::editing

@@ -3,7 +3,6 @@
 
 #include <optional>
 #include <string>
-#include <string_view>
 
 #include "files/current_file.h"
 #include "files/picture_format.h"

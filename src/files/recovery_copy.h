@@ -4,6 +4,7 @@
 #include <chrono>
 #include <filesystem>
 #include <optional>
+#include <utility>
 
 #include "app/program_folders.h"
 #include "files/document.h"

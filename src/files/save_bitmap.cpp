@@ -1,6 +1,7 @@
 #include "files/save_bitmap.h"
 
 #include "app/path_text.h"
+#include "app/utf8.h"
 #include "app/whole_file.h"
 #include "files/picture_format.h"
 
@@ -12,13 +13,10 @@ namespace fs = std::filesystem;
 constexpr std::string_view kEnding = ".kvp";
 
 // `text` without its last `count` characters; a character may take several bytes of UTF-8.
-std::string_view WithoutLast(std::string_view text, int count) {
-  for (; count > 0; --count) {
-    if (text.empty()) throw std::runtime_error("a picture's file name needs at least four characters");
-    while ((static_cast<unsigned char>(text.back()) & 0xC0) == 0x80 && text.size() > 1) text.remove_suffix(1);
-    text.remove_suffix(1);
-  }
-  return text;
+std::string_view WithoutLast(std::string_view text, std::size_t count) {
+  const std::size_t all = app::CharactersOf(text).size();
+  if (all < count) throw std::runtime_error("a picture's file name needs at least four characters");
+  return app::FirstCharacters(text, all - count);
 }
 
 // The name that backups go under: names from the first floppy drive lose it.
@@ -47,7 +45,7 @@ void Collect(std::string& troubles, Step&& step) {
 
 std::string SavedName(std::string_view path) {
   if (path.ends_with(kEnding)) return std::string(path);
-  return std::string(WithoutLast(path, static_cast<int>(kEnding.size()))) + std::string(kEnding);
+  return std::string(WithoutLast(path, kEnding.size())) + std::string(kEnding);
 }
 
 std::string SaveBitmap(Document& document, std::string_view path, const SavePlaces& places) {

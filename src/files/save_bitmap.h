@@ -1,7 +1,6 @@
 // Saving the picture in the own format, with its backup and its snapshot.
 #pragma once
 
-#include <stdexcept>
 #include <string>
 #include <string_view>
 

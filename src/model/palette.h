@@ -37,15 +37,17 @@ inline constexpr std::array<PaletteEntry, C64Colour::kCount> kPalette{{
 // The display colour of colour `number`, packed as red + green * 256 + blue * 65536. Numbers outside 0..15 are black.
 std::uint32_t C64ColourToRgb(int number);
 
-// The same colours as pixels of a Surface, 0xFFRRGGBB, by colour number.
-inline constexpr auto kSurfaceColours = [] {
+constexpr std::array<std::uint32_t, C64Colour::kCount> MakeSurfaceColours() {
   std::array<std::uint32_t, C64Colour::kCount> colours{};
   for (std::size_t number = 0; number < colours.size(); ++number) {
     const PaletteEntry& entry = kPalette[number];
     colours[number] = 0xFF000000U | std::uint32_t{entry.red} << 16 | std::uint32_t{entry.green} << 8 | entry.blue;
   }
   return colours;
-}();
+}
+
+// The same colours as pixels of a Surface, 0xFFRRGGBB, by colour number.
+inline constexpr std::array<std::uint32_t, C64Colour::kCount> kSurfaceColours = MakeSurfaceColours();
 
 constexpr std::uint32_t SurfaceColour(C64Colour colour) {
   return kSurfaceColours[static_cast<std::size_t>(colour.Number())];

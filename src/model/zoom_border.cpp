@@ -1,5 +1,7 @@
 #include "model/zoom_border.h"
 
+#include <array>
+
 namespace kelvo::model {
 namespace {
 

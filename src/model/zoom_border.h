@@ -1,8 +1,7 @@
 // The colour of the border around the zoomed area.
 #pragma once
 
-#include <array>
-#include <cstdint>
+#include <cstddef>
 
 #include "model/c64_colour.h"
 

@@ -1,7 +1,6 @@
 #include "model/zoom_view.h"
 
 #include <algorithm>
-#include <array>
 
 #include "model/cell_palette.h"
 #include "model/full_view.h"

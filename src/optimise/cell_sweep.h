@@ -1,8 +1,6 @@
 // The way over all cells that the whole-picture passes share.
 #pragma once
 
-#include <utility>
-
 #include "app/progress.h"
 #include "model/pixel_place.h"
 

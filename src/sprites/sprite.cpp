@@ -1,7 +1,6 @@
 #include "sprites/sprite.h"
 
 #include <algorithm>
-#include <numeric>
 
 #include "model/pixel_colour.h"
 

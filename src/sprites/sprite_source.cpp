@@ -11,17 +11,22 @@ namespace {
 
 constexpr std::uintmax_t kPictureSize = 10050, kProgramSize = 10241;
 
+void CheckSize(std::uintmax_t size) {
+  if (size == kPictureSize || size == kProgramSize) return;
+  throw std::runtime_error("Felaktig filstorlek. Bitmap/PRG-fil ska vara 10050 eller 10241 bytes");
+}
+
 }  // namespace
+
+model::PictureImage DecodeSpriteSource(std::span<const std::uint8_t> bytes) {
+  CheckSize(bytes.size());
+  return files::Decode(files::FormatOf(files::kGeneralType), bytes.first(kPictureSize), {});
+}
 
 model::PictureImage LoadSpriteSource(std::string_view path) {
   const std::filesystem::path file = app::PathFromText(path);
-  const std::uintmax_t size = app::FileSize(file);
-  if (size != kPictureSize && size != kProgramSize) {
-    throw std::runtime_error("Felaktig filstorlek. Bitmap/PRG-fil ska vara 10050 eller 10241 bytes");
-  }
-  app::Bytes bytes = app::ReadWholeFile(file, size);
-  bytes.resize(kPictureSize);
-  return files::Decode(files::FormatOf(files::kGeneralType), bytes, {});
+  CheckSize(app::FileSize(file));
+  return DecodeSpriteSource(app::ReadWholeFile(file, kProgramSize));
 }
 
 }  // namespace kelvo::sprites

@@ -1,14 +1,19 @@
 // Pictures that sprites are taken from.
 #pragma once
 
+#include <cstdint>
+#include <span>
 #include <string_view>
 
 #include "model/picture_image.h"
 
 namespace kelvo::sprites {
 
-// Reads a picture or program file of 10050 or 10241 bytes in the own layout; bytes behind it are passed over. Throws
-// std::runtime_error for other sizes, app::FileError for a file that cannot be read.
+// The picture in a picture or program file of 10050 or 10241 bytes in the own layout; bytes behind it are passed over.
+// Throws std::runtime_error for other sizes.
+model::PictureImage DecodeSpriteSource(std::span<const std::uint8_t> bytes);
+
+// The same from a file. Throws app::FileError too, for a file that cannot be read.
 model::PictureImage LoadSpriteSource(std::string_view path);
 
 }  // namespace kelvo::sprites

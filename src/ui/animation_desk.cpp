@@ -1,7 +1,5 @@
 #include "ui/animation_desk.h"
 
-#include <QLineEdit>
-
 #include "anim/anim_settings.h"
 #include "ui/qt_text.h"
 #include "ui/settings_dialog.h"

@@ -7,7 +7,6 @@
 #include <QPushButton>
 #include <QSpinBox>
 #include <QWidget>
-#include <array>
 
 namespace kelvo::ui {
 

@@ -4,7 +4,6 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QStringList>
-#include <QVBoxLayout>
 
 #include "model/cell_view.h"
 #include "model/number_text.h"

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QWidget>
-#include <array>
 
 #include "model/c64_colour.h"
 #include "ui/swatch_button.h"

@@ -24,7 +24,7 @@ template <typename Change>
 void frmZoom::ChangeArea(Change&& change) {
   const model::ZoomArea before = area_;
   change();
-  if (area_ == before) return;
+  if (area_ == before) return;  // cppcheck-suppress knownConditionTrueFalse ; it does not see what the change changes
   DrawCapturePic();
   emit AreaChanged();
 }

@@ -42,7 +42,7 @@ constexpr MenuEntry ZoomEntry(const char* name, const char* text, const char* ke
 // Builds for the network need no emulator.
 template <std::size_t index>
 constexpr MenuEntry BuildEntry(const char* key = "") {
-  constexpr const c64out::CompoPicEntry& entry = c64out::kCompoPicEntries[index];
+  const c64out::CompoPicEntry& entry = c64out::kCompoPicEntries[index];
   return {entry.name,
           entry.choice.ViaCodenet ? "mnuCodenet" : "mnuVICE",
           entry.text,

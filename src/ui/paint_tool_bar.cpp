@@ -1,7 +1,5 @@
 #include "ui/paint_tool_bar.h"
 
-#include <QLabel>
-
 #include "editing/painting.h"
 #include "model/cell_view.h"
 #include "ui/qt_text.h"

@@ -1,8 +1,6 @@
 #include "ui/qt_tool_runner.h"
 
 #include <QEventLoop>
-#include <QFile>
-#include <QFileInfo>
 #include <QTemporaryFile>
 
 #include "ui/qt_text.h"
@@ -82,6 +80,7 @@ bool QtToolRunner::CanRun() const {
 
 c64out::ToolResult QtToolRunner::Wait(QProcess& process, const c64out::ToolCommand& command) {
   QEventLoop wait;
+  // cppcheck-suppress danglingLifetime ; this pointer knows when the loop is gone
   wait_ = &wait;
   connect(&process, &QProcess::finished, &wait, &QEventLoop::quit);
   connect(&process, &QProcess::errorOccurred, &wait, [&](QProcess::ProcessError error) {

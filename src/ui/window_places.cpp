@@ -1,10 +1,11 @@
 #include "ui/window_places.h"
 
 #include <QGuiApplication>
-#include <QMdiArea>
 #include <QScreen>
 #include <QStringList>
 #include <algorithm>
+#include <cstdint>
+#include <cstdlib>
 #include <optional>
 #include <vector>
 
@@ -15,6 +16,8 @@ namespace {
 
 // As much of a window as a hand needs to take hold of it.
 constexpr int kGrip = 40;
+
+constexpr int kFarthest = 32767;  // no display reaches farther
 
 // The setting of a window's place, by its objectName.
 class PlaceSetting {
@@ -33,7 +36,7 @@ std::optional<std::vector<int>> ReadNumbers(const app::SettingsStore& settings, 
   for (const QString& text : texts) {
     bool good = false;
     numbers.push_back(text.toInt(&good));
-    if (!good) return std::nullopt;
+    if (!good || std::abs(std::int64_t{numbers.back()}) > kFarthest) return std::nullopt;
   }
   return numbers;
 }
@@ -60,7 +63,9 @@ void RestoreFrame(const app::SettingsStore& settings, QMainWindow& frame) {
     return CanBeTaken(place, screen->availableGeometry());
   });
   if (!fits || place.width() < 3 * kGrip || place.height() < 3 * kGrip) return;
-  frame.setGeometry(place);
+  // A window of a larger display, or of nonsense, would take more memory than there is.
+  const QSize most = QGuiApplication::primaryScreen()->virtualSize();
+  frame.setGeometry(QRect(place.topLeft(), place.size().boundedTo(most)));
   if ((*numbers)[4] == 1) frame.setWindowState(Qt::WindowMaximized);
 }
 

@@ -3,17 +3,12 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <random>
-
 #include "support/pictures.h"
 #include "support/temp_folder.h"
 
 #ifndef _WIN32
 #include <sys/resource.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <csignal>
 #endif
@@ -68,24 +63,6 @@ TEST(WholeFile, AWriteThatFailsMidwayLeavesTheOldFile) {
   std::signal(SIGXFSZ, previous);
   EXPECT_EQ(support::ReadFile(folder / "picture"), Bytes(100, 7));
   EXPECT_EQ(FilesIn(folder.Path()), 1U);
-}
-
-TEST(WholeFile, AProgramKilledAtAnyMomentLeavesOneWholeFile) {
-  const support::TempFolder folder;
-  WriteWholeFile(folder / "picture", Bytes(10050, 0));
-  std::mt19937 random(20260203);
-  for (int round = 0; round < 25; ++round) {
-    const pid_t child = fork();
-    if (child == 0) {
-      for (std::uint8_t value = 1;; ++value) WriteWholeFile(folder / "picture", Bytes(10050, value));
-    }
-    usleep(random() % 20000);
-    kill(child, SIGKILL);
-    waitpid(child, nullptr, 0);
-    const Bytes bytes = support::ReadFile(folder / "picture");
-    ASSERT_EQ(bytes.size(), 10050U);
-    ASSERT_EQ(bytes, Bytes(10050, bytes.front()));
-  }
 }
 #endif
 

@@ -26,7 +26,10 @@ class PretendedTools final : public ToolRunner {
     commands.push_back(name);
     for (const std::string& argument : command.arguments) commands.back() += " " + app::FileNamePart(argument);
     if (name == "tass") sources.push_back(support::ReadText(command.arguments.front()));
-    if (name == failing) return result;
+    if (name == failing) {
+      if (leaves_half) support::WriteText(command.arguments[name == "c1541" ? 0 : command.arguments.size() - 1], "ha");
+      return result;
+    }
     if (name == "tass" || name == "crush") support::WriteText(command.arguments.back(), command.arguments[0] + " made");
     if (name == "c1541") support::WriteText(command.arguments.front(), "written image");
     return {};
@@ -34,7 +37,8 @@ class PretendedTools final : public ToolRunner {
   ToolResult ShowAndWait(const ToolCommand& command) override { return RunAndWait(command); }
 
   bool can_run = true;
-  std::string failing;  // the tool that gives `result` and makes nothing
+  std::string failing;       // the tool that gives `result` and makes nothing
+  bool leaves_half = false;  // or the beginning of its file
   ToolResult result;
   Lines commands;  // paths without their folders
   Lines sources;   // what the assembler read
@@ -169,6 +173,13 @@ TEST_F(BuildCompoPicTest, WhateverFailsIsToldAndLeavesTheOlderResult) {
       tools.result = result;
     };
   };
+  const auto half = [this](const char* tool) {
+    return [this, tool] {
+      tools.failing = tool;
+      tools.result.failure = "killed";
+      tools.leaves_half = true;
+    };
+  };
   const Case cases[] = {
       {"no viewer", kPrg, remove_tool("bmpshow.src"), "bmpshow.src"},
       {"no depacker", kPrg, remove_tool("decrush.tas"), "decrush.tas"},
@@ -179,6 +190,9 @@ TEST_F(BuildCompoPicTest, WhateverFailsIsToldAndLeavesTheOlderResult) {
       {"an error in the source", kPrg, fail("tass", {.failure = "bmpshow.tmp:3: oops"}), "tass: bmpshow.tmp:3: oops"},
       {"nothing made", kPrg, fail("crush", {}), "crush: left no bmpshow.pak"},
       {"picture folder gone", kPrg, [this] { remove_all(folder / "art"); }, "My Pic.prg"},
+      {"half an object", kPrg, half("tass"), "tass: killed"},
+      {"half packed", kPrg, half("crush"), "crush: killed"},
+      {"half a disk", kD64, half("c1541"), "c1541: killed"},
       {"no blank disk", kD64, remove_tool("empty.d64"), "empty.d64"},
       {"disk tool fails", kD64, fail("c1541", {.failure = "ended with code 1"}), "c1541: ended with code 1"},
       {"emulator fails", kVice, fail("x64sc", {.failure = "no ROMs"}), "x64sc: no ROMs"},
@@ -199,7 +213,7 @@ TEST_F(BuildCompoPicTest, WhateverFailsIsToldAndLeavesTheOlderResult) {
     const std::string& told = prompt.lines[prompt.lines.size() - 2];
     EXPECT_TRUE(told.starts_with("--> ") && told.find(row.said) != std::string::npos) << told;
     EXPECT_FALSE(exists(folders.System() / "temp.kvp") || exists(folders.System() / "bmpshow.obj") ||
-                 exists(folders.System() / "bmpshow.prg"));
+                 exists(folders.System() / "bmpshow.pak") || exists(folders.System() / "bmpshow.prg"));
     if (exists(folder / "art")) {
       EXPECT_EQ(support::ReadText(folder / "art/My Pic.prg"), "older");
       const bool is_image_made = std::string_view(row.what) == "emulator fails";

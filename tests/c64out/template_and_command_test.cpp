@@ -19,7 +19,7 @@ class FillTemplateTest : public testing::Test {
  protected:
   std::string Fill(std::string_view text, bool via_codenet) {
     support::WriteText(folder / "in", text);
-    FillTemplate(folder / "in", folder / "out", "[bitmap]", "/pic.kvp", via_codenet);
+    FillTemplate(folder / "in", folder / "out", {"[bitmap]", "/pic.kvp", via_codenet});
     return support::ReadText(folder / "out");
   }
   support::TempFolder folder;
@@ -44,14 +44,15 @@ TEST_F(FillTemplateTest, SaysWhatIsWrongWithATemplateAndLeavesNoOldResult) {
   EXPECT_THROW(Fill("no placeholder", false), std::runtime_error);
   EXPECT_FALSE(exists(folder / "out"));
   EXPECT_THROW(Fill("<CC> [bitmap]", false), std::runtime_error);
-  EXPECT_THROW(FillTemplate(folder / "gone", folder / "out", "[bitmap]", "", false), app::FileError);
+  EXPECT_THROW(FillTemplate(folder / "gone", folder / "out", {"[bitmap]", "", false}), app::FileError);
 }
 
 TEST(ToolCommand, RendersForTheWindowsInterpreter) {
   const ToolCommand command{"C:\\KELVO\\SYSTEM\\TASS.EXE", {"C:\\KELVO\\SYSTEM\\bmpshow.tmp", "", "$cf00"}};
   EXPECT_EQ(command.WindowsCommandLine("c:\\windows\\system32\\CMD.exe"),
             "c:\\windows\\system32\\CMD.exe /C C:\\KELVO\\SYSTEM\\TASS.EXE C:\\KELVO\\SYSTEM\\bmpshow.tmp  $cf00");
-  for (const char* meddling : {"a&calc", "a|b", "a>b", "%PATH%", "a\"b", "a\nb"}) {
+  using namespace std::string_literals;
+  for (const auto& meddling : {"a&calc"s, "a|b"s, "a>b"s, "%PATH%"s, "a\"b"s, "a\nb"s, "a\0b"s}) {
     EXPECT_THROW((ToolCommand{"c1541.exe", {meddling}}.InterpreterArguments()), std::runtime_error) << meddling;
   }
 }

@@ -186,6 +186,8 @@ TEST(SavedName, ReplacesTheLastFourCharacters) {
   EXPECT_EQ(SavedName("picture"), "pic.kvp");
   EXPECT_EQ(SavedName("pic.KVP"), "pic.kvp");
   EXPECT_EQ(SavedName("b\xC3\xA4\xC3\xB6\xC3\xBC\xC3\x9F"), "b.kvp");  // characters, not bytes
+  EXPECT_EQ(SavedName("b\x84\x94\x81.koa"), "b\x84\x94\x81.kvp");      // a name in another encoding stays
+  EXPECT_EQ(SavedName("b\x84\x94\x81\x84\x94"), "b\x84.kvp");
   EXPECT_THROW(SavedName("abc"), std::runtime_error);
 }
 

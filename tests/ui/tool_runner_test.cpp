@@ -71,6 +71,15 @@ TEST_F(ToolRunnerTest, AStopEndsAToolWithItsChildren) {
   EXPECT_FALSE(fs::exists(folder / "survived"));
 }
 
+TEST_F(ToolRunnerTest, AToolThatLeavesAChildBehindIsDone) {
+  const std::string child =
+      "(while [ ! -e " + PathOf("go") + " ]; do sleep 0.05; done; touch " + PathOf("done") + ") &";
+  EXPECT_EQ(FailureOf(child + " echo ready"), "");
+  EXPECT_FALSE(fs::exists(folder / "done"));
+  support::WriteText(folder / "go", "");
+  EXPECT_TRUE(IsThereSoon("done"));
+}
+
 TEST_F(ToolRunnerTest, AProgramThatIsLookedAtOutlivesTheWait) {
   QTimer::singleShot(0, [&] {
     EXPECT_TRUE(IsThereSoon("started"));

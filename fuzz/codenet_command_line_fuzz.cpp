@@ -1,0 +1,90 @@
+// Command lines of the network loader: what the window composes the tool takes or refuses plainly, and nothing that the
+// command interpreter acts upon gets through.
+#include <stdexcept>
+
+#include "c64out/codenet_arguments.h"
+#include "c64out/codenet_options.h"
+#include "c64out/tool_command.h"
+#include "input.h"
+
+namespace kelvo::fuzz {
+namespace {
+
+using c64out::CodenetForm;
+
+CodenetForm Form(Input& input) {
+  CodenetForm form;
+  form.file_type = input.Bit() ? c64out::FileType::kBinary : c64out::FileType::kPrg;
+  form.set_destination = input.Bit();
+  form.execute = static_cast<c64out::ExecuteChoice>(input.Below(3));
+  for (std::string* field : {&form.host, &form.port, &form.destination, &form.execute_address, &form.file}) {
+    *field = input.Line();
+  }
+  return form;
+}
+
+void CheckComposed(const CodenetForm& form) {
+  const auto composed = c64out::ComposeOptions(form, true);
+  std::string joined;
+  for (const std::string& word : c64out::CodenetArgumentList(form)) joined += " " + word;
+  Require(joined == composed.options, "the list and the text have the same words");
+  const auto list = c64out::CodenetArgumentList(form, form.file);
+  Require(list.size() == c64out::CodenetArgumentList(form).size(), "a file is one word whatever its name");
+  const c64out::CodenetForm trimmed = c64out::WithTrimmedFields(form);
+  Require(c64out::CodenetArgumentList(trimmed) == c64out::CodenetArgumentList(form), "trimming is done once");
+  c64out::EnabledControls(form);
+}
+
+std::uint16_t AddressOf(const std::string& digits) {
+  return c64out::ParseC64Address("$" + digits).value_or(0);
+}
+
+// The tool understands of the line what the form means by it.
+void CheckUnderstood(const CodenetForm& form) {
+  const CodenetForm trimmed = c64out::WithTrimmedFields(form);
+  const auto list = c64out::CodenetArgumentList(form, form.file);
+  try {
+    const auto arguments = c64out::ParseCodenetArguments(list);
+    if (arguments.help) return Require(false, "a form never asks for help");
+    Require(arguments.host == trimmed.host && arguments.file == form.file, "host and file arrive as they are");
+    const bool is_at = trimmed.file_type == c64out::FileType::kBinary || trimmed.set_destination;
+    Require(!is_at || arguments.address == AddressOf(trimmed.destination), "the destination arrives");
+    Require(!arguments.execute || *arguments.execute == AddressOf(trimmed.execute_address), "the start arrives");
+  } catch (const c64out::UsageError& error) {
+    Require(*error.what() != '\0', "a refusal says why");
+  }
+}
+
+void CheckAnyLine(Input& input) {
+  std::vector<std::string> words;
+  while (!input.IsEmpty()) words.push_back(input.Line());
+  try {
+    const auto arguments = c64out::ParseCodenetArguments(words);
+    if (arguments.help) return;
+    Require(c64out::IsHostText(arguments.host) && arguments.port != 0, "a line that is taken has host and port");
+    Require(arguments.mode != c64out::FileMode::kNone || arguments.execute, "and something to do");
+    Require((arguments.mode == c64out::FileMode::kNone) == arguments.file.empty(), "a mode comes with its file");
+  } catch (const c64out::UsageError&) {
+  }
+  if (words.empty()) return;
+  const c64out::ToolCommand command{words.front(), {words.begin() + 1, words.end()}};
+  try {
+    const std::string line = command.InterpreterArguments();
+    Require(line.find_first_of("&|<>^%\"\r\n") == std::string::npos, "the interpreter finds nothing to act upon");
+    Require(line.find('\0') == std::string::npos, "the line does not end early");
+  } catch (const std::runtime_error&) {
+  }
+}
+
+}  // namespace
+}  // namespace kelvo::fuzz
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  using namespace kelvo;
+  fuzz::Input input(data, size);
+  const c64out::CodenetForm form = fuzz::Form(input);
+  fuzz::CheckComposed(form);
+  fuzz::CheckUnderstood(form);
+  fuzz::CheckAnyLine(input);
+  return 0;
+}

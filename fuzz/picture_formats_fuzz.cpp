@@ -1,0 +1,71 @@
+// Picture files of every type: what is read is a picture, what is written is read again, other sizes are refused.
+#include "files/picture_format.h"
+#include "input.h"
+#include "model/pixel_colour.h"
+
+namespace kelvo::fuzz {
+namespace {
+
+using model::PictureImage;
+
+constexpr std::uint8_t kUnread = 255;  // what the last bitmap byte is after reading
+
+// The bytes again and again up to a size that the type takes, so that files of the right size are no rare luck.
+app::Bytes Stretched(const app::Bytes& bytes, std::size_t size) {
+  app::Bytes stretched(size);
+  for (std::size_t i = 0; i < size && !bytes.empty(); ++i) stretched[i] = bytes[i % bytes.size()];
+  return stretched;
+}
+
+// The used range alone: 1..1000 and 1..8000.
+template <std::size_t size>
+bool SameUsed(const std::array<std::uint8_t, size>& one, const std::array<std::uint8_t, size>& other, int count) {
+  return std::equal(one.begin() + 1, one.begin() + 1 + count, other.begin() + 1);
+}
+
+void CheckWrittenAndRead(PictureImage picture) {
+  files::Sign(picture);
+  const app::Bytes written = files::Encode(picture);
+  const files::PictureFormat& own = files::FormatOf(files::kOwnType);
+  Require(written.size() == own.file_size, "an own file has its one size");
+  const PictureImage read = files::Decode(own, written, {});
+  PictureImage expected = picture;
+  expected.Bitmap[PictureImage::kBitmapBytes] = kUnread;
+  Require(SameUsed(read.Bitmap, expected.Bitmap, PictureImage::kBitmapBytes),
+          "the bitmap comes back but its last byte");
+  Require(SameUsed(read.ScreenMemory, expected.ScreenMemory, 1023), "screen memory and the signature come back");
+  Require(SameUsed(read.ColourMemory, expected.ColourMemory, 1023), "colour memory comes back");
+  Require(read.BackgroundColour == expected.BackgroundColour, "the background comes back");
+  Require(read.LoadAddressLow == expected.LoadAddressLow && read.LoadAddressHigh == expected.LoadAddressHigh,
+          "the load address comes back");
+}
+
+void CheckTypes(const app::Bytes& bytes, const std::string& name) {
+  const files::FormatType type = files::TypeOfFile(name, bytes.size());
+  Require(type >= files::kGeneralType && type <= files::kKlaType, "every name has a type");
+}
+
+}  // namespace
+}  // namespace kelvo::fuzz
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  using namespace kelvo;
+  fuzz::Input input(data, size);
+  const files::PictureFormat& format = files::FormatOf(input.Below(6));  // one more than there are
+  const int length = input.Below(4);
+  const auto before = model::C64Colour::FromByte(input.Byte());
+  app::Bytes bytes = input.Rest();
+  fuzz::CheckTypes(bytes, std::string(bytes.begin(), bytes.end()));
+  if (length > 0) bytes = fuzz::Stretched(bytes, length == 1 ? format.other_size : format.file_size);
+  try {
+    const model::PictureImage picture = files::Decode(format, bytes, before);
+    fuzz::Require(format.Takes(bytes.size()), "only sizes of the type are taken");
+    fuzz::Require(picture.Bitmap[model::PictureImage::kBitmapBytes] == fuzz::kUnread, "the last byte is not read");
+    model::GetPixelData(picture, 1, 1);
+    model::GetPixelData(picture, 160, 200);
+    fuzz::CheckWrittenAndRead(picture);
+  } catch (const files::FormatError&) {
+    fuzz::Require(!format.Takes(bytes.size()), "sizes of the type are taken");
+  }
+  return 0;
+}

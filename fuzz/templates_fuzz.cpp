@@ -1,0 +1,78 @@
+// Templates of the C64 output with any text in them and any name or path filled in.
+#include <algorithm>
+#include <stdexcept>
+
+#include "app/utf8.h"
+#include "c64out/disk_ending.h"
+#include "c64out/fill_template.h"
+#include "c64out/saver_template.h"
+#include "c64out/text_lines.h"
+#include "input.h"
+
+namespace kelvo::fuzz {
+namespace {
+
+constexpr std::string_view kPlaceholders[] = {"[bitmap]", "[screencolor]", "[packedfile]", "[[", "aa"};
+
+std::size_t Occurrences(std::string_view text, std::string_view what) {
+  std::size_t count = 0;
+  for (auto at = text.find(what); at != std::string_view::npos; at = text.find(what, at + what.size())) ++count;
+  return count;
+}
+
+void CheckLines(std::string_view text, std::string_view filled) {
+  Require(filled.empty() || filled.ends_with("\r\n"), "every line is ended");
+  Require(Occurrences(filled, "\n") <= Occurrences(text, "\n") + 1, "no line is added");
+}
+
+// A mark that no template holds stands for the replacement, so that what is around it can be looked at.
+void CheckViewer(const std::string& text, std::string_view placeholder, bool via_codenet) {
+  const std::string mark = "\x01mark\x02";
+  if (text.find('\x01') != std::string::npos) return;
+  const auto filled = c64out::FilledTemplate(text, {placeholder, mark, via_codenet});
+  if (!filled)
+    return Require(via_codenet || text.find(placeholder) == std::string::npos || text.find("<CC>") != std::string::npos,
+                   "a placeholder that stays is found");
+  CheckLines(text, *filled);
+  Require(filled->find(mark) != std::string::npos, "a filled template holds its replacement");
+  Require(filled->find(placeholder) == std::string::npos, "no placeholder is left");
+  const auto other = c64out::FilledTemplate(text, {placeholder, placeholder, via_codenet});
+  Require(other && c64out::Replaced(*filled, mark, placeholder) == *other, "a replacement goes in as it is");
+}
+
+void CheckSaver(const std::string& text, const std::string& name, std::uintmax_t program_size) {
+  try {
+    const std::string filled = c64out::FilledSaver(text, name, program_size);
+    Require(program_size + 2049 <= 0xFFFF, "a program has to fit into memory");
+    Require(text.find('[') != std::string::npos || filled == c64out::JoinedLines(c64out::LinesOf(text)),
+            "lines without a placeholder stay");
+    Require(c64out::ToC64FileName(name).size() == app::CharactersOf(name).size(), "a byte for each character");
+  } catch (const std::runtime_error&) {
+    const bool has_control = std::any_of(name.begin(), name.end(), [](unsigned char c) { return c < ' '; });
+    Require(has_control || program_size + 2049 > 0xFFFF, "only these are refused");
+  }
+}
+
+void CheckNames(const std::string& name) {
+  Require(app::CharactersOf(name).size() <= name.size(), "no character has less than a byte");
+  Require(app::CharactersOf(c64out::NameOnDisk(name)).size() <= 16 + 4, "a name on the disk fits");
+  const auto start = app::FirstCharacters(name, 5);
+  Require(name.starts_with(start) && app::CharactersOf(start).size() <= 5, "a beginning has the first characters");
+}
+
+}  // namespace
+}  // namespace kelvo::fuzz
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  using namespace kelvo;
+  fuzz::Input input(data, size);
+  const std::string_view placeholder = fuzz::kPlaceholders[input.Below(5)];
+  const bool via_codenet = input.Bit();
+  const std::uintmax_t program_size = input.Byte() * 257U;
+  const std::string name = input.Line();
+  const std::string text = input.RestAsText();
+  fuzz::CheckNames(name);
+  fuzz::CheckViewer(text, placeholder, via_codenet);
+  fuzz::CheckSaver(text, name, program_size);
+  return 0;
+}

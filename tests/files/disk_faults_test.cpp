@@ -1,0 +1,252 @@
+// Disks, folders, clocks and other programs that misbehave: a clear message, the old file or the new one whole, and the
+// picture in memory as it was.
+#include <gtest/gtest.h>
+
+#ifdef __linux__
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <atomic>
+#include <csignal>
+#include <random>
+#include <thread>
+
+#include "app/path_text.h"
+#include "files/recovery_copy.h"
+#include "support/faulty_disk.h"
+#include "support/pictures.h"
+#include "support/program.h"
+
+namespace kelvo::files {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::size_t kDiskSize = 64 * 1024;
+
+class DiskFaults : public testing::Test, protected support::Program {
+ protected:
+  DiskFaults() { fs::create_directory(art); }
+
+  // Every byte that shows is `value`, so that a file of two halves would tell.
+  void Paint(std::uint8_t value) {
+    document.picture.Bitmap.fill(value);
+    document.picture.ScreenMemory.fill(value);
+    document.picture.ColourMemory.fill(value);
+  }
+  // The value that the whole picture in a file was painted with; -1 for a file that is none or no whole one.
+  static int PaintedIn(const fs::path& file) {
+    const app::Bytes bytes = support::ReadFile(file);
+    if (bytes.size() != 10050) return -1;
+    const model::PictureImage picture = Decode(FormatOf(kOwnType), bytes, {});
+    const int value = picture.Bitmap[1];
+    const auto is_whole = [value](const auto& memory, int used) {
+      return std::all_of(memory.begin() + 1, memory.begin() + used, [value](int byte) { return byte == value; });
+    };
+    const bool whole =
+        is_whole(picture.Bitmap, 8000) && is_whole(picture.ScreenMemory, 1000) && is_whole(picture.ColourMemory, 1000);
+    return whole ? value : -1;
+  }
+  bool SavePainted(std::uint8_t value) {
+    Paint(value);
+    messages.shown.clear();
+    return files.SaveTo(app::TextFromPath(file));
+  }
+  // A save of `value` that cannot be: it is told with its reason, and all is as it was.
+  bool IsRefusedPlainly(std::uint8_t value, std::string_view reason) {
+    if (SavePainted(value)) return false;
+    const bool is_told = messages.shown.size() == 1 && messages.shown[0].find(reason) != std::string::npos &&
+                         messages.shown[0].find("pic.kvp") != std::string::npos;
+    return is_told && document.picture.Bitmap[1] == value && document.HasUnsavedWork() &&
+           document.file.CurrentFilePath == app::TextFromPath(file);
+  }
+  static std::size_t FilesIn(const fs::path& place) {
+    return static_cast<std::size_t>(std::distance(fs::directory_iterator(place), fs::directory_iterator()));
+  }
+  // Runs `work` in a program of its own, until it is killed or done.
+  template <typename Work>
+  static pid_t Start(Work&& work) {
+    const pid_t child = fork();
+    if (child != 0) return child;
+    work();
+    _exit(0);
+  }
+
+  fs::path art = folder / "art", file = art / "pic.kvp";
+};
+
+TEST_F(DiskFaults, ASaveKilledAtAnyMomentLeavesWholeFiles) {
+  SavePainted(1);
+  SavePainted(2);
+  RecoveryCopy copy(document, RecoveryFiles(folders, 1));
+  std::mt19937 random(20260203);
+  for (int round = 0; round < 200; ++round) {
+    const pid_t child = Start([&] {
+      for (std::uint8_t value = 3;; ++value) {
+        Paint(value);
+        copy.KeepNow();
+        SavePainted(value);
+      }
+    });
+    usleep(random() % 6000);
+    kill(child, SIGKILL);
+    waitpid(child, nullptr, 0);
+    ASSERT_NE(PaintedIn(file), -1);
+    ASSERT_NE(PaintedIn(folders.Snapshot()), -1);
+    for (const auto& backup : fs::directory_iterator(folders.Backup())) {
+      const bool counts = backup.path().extension() == ".prg" || backup.path().extension() == ".kvp";
+      ASSERT_TRUE(!counts || PaintedIn(backup.path()) != -1) << backup.path();
+    }
+  }
+}
+
+TEST_F(DiskFaults, AFullDiskKeepsTheOldFile) {
+  const support::SmallDisk disk(art, kDiskSize);
+  if (!disk.IsThere()) GTEST_SKIP() << "nothing can be mounted here";
+  EXPECT_TRUE(SavePainted(1));
+  disk.FillUp();
+  EXPECT_TRUE(IsRefusedPlainly(2, "No space left on device"));
+  EXPECT_EQ(PaintedIn(file), 1);
+  EXPECT_EQ(FilesIn(art), 2U);  // no temporary file
+  disk.MakeRoom();
+  EXPECT_TRUE(files.Save());
+  EXPECT_EQ(PaintedIn(file), 2);
+}
+
+TEST_F(DiskFaults, AFullProgramFolderDoesNotKeepFromSaving) {
+  const support::SmallDisk disk(folders.Root(), kDiskSize);
+  if (!disk.IsThere()) GTEST_SKIP() << "nothing can be mounted here";
+  folders.Create();
+  EXPECT_TRUE(SavePainted(1));
+  disk.FillUp();
+  EXPECT_TRUE(SavePainted(2));
+  EXPECT_EQ(PaintedIn(file), 2);
+  ASSERT_EQ(messages.shown.size(), 1U);
+  EXPECT_TRUE(messages.shown[0].starts_with("The picture is saved, but its backup could not be made.\n"));
+  EXPECT_EQ(PaintedIn(folders.Snapshot()), 1);
+
+  Paint(3);
+  RecoveryCopy copy(document, RecoveryFiles(folders, 1));
+  EXPECT_THROW(copy.KeepNow(), app::FileError);
+  files.New();  // asks, and the answer is no
+  EXPECT_EQ(document.picture.Bitmap[1], 3);
+}
+
+TEST_F(DiskFaults, AReadOnlyDiskKeepsTheOldFile) {
+  const support::SmallDisk disk(art, kDiskSize);
+  if (!disk.IsThere()) GTEST_SKIP() << "nothing can be mounted here";
+  EXPECT_TRUE(SavePainted(1));
+  ASSERT_TRUE(disk.MakeReadOnly());
+  EXPECT_TRUE(IsRefusedPlainly(2, "Read-only file system"));
+  EXPECT_EQ(PaintedIn(file), 1);
+  EXPECT_TRUE(files.Reload());
+  EXPECT_EQ(document.picture.Bitmap[1], 1);
+}
+
+TEST_F(DiskFaults, AFolderOrFileWithoutRightsKeepsTheOldFile) {
+  SavePainted(1);
+  for (const fs::path& place : {folder.Path(), folders.Root(), folders.System(), folders.Backup()}) {
+    permissions(place, fs::perms::all);
+  }
+  struct Case {
+    fs::perms folder, file;
+  };
+  constexpr fs::perms kRead = fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read,
+                      kEnter = fs::perms::owner_exec | fs::perms::group_exec | fs::perms::others_exec;
+  for (const Case& row : {Case{kRead | kEnter, fs::perms::all}, Case{fs::perms::all, kRead}, Case{kRead, kRead}}) {
+    permissions(file, row.file);
+    permissions(art, row.folder);
+    const auto holds = support::HoldsForOrdinaryUser([&] { return IsRefusedPlainly(2, "Permission denied"); });
+    permissions(art, fs::perms::all);
+    if (!holds) GTEST_SKIP() << "this user cannot become an ordinary one";
+    EXPECT_TRUE(*holds);
+    EXPECT_EQ(PaintedIn(file), 1);
+    EXPECT_EQ(FilesIn(art), 1U);
+  }
+}
+
+TEST_F(DiskFaults, AFolderThatVanishesLeavesThePictureInMemory) {
+  SavePainted(1);
+  fs::remove_all(art);
+  EXPECT_TRUE(IsRefusedPlainly(2, "No such file or directory"));
+  EXPECT_FALSE(files.Reload());
+  EXPECT_EQ(document.picture.Bitmap[1], 2);
+  EXPECT_TRUE(files.SaveTo(app::TextFromPath(folder / "elsewhere.kvp")));
+  EXPECT_EQ(PaintedIn(folder / "elsewhere.kvp"), 2);
+
+  fs::remove_all(folders.Root());
+  Paint(3);
+  messages.shown.clear();
+  EXPECT_TRUE(files.Save());
+  EXPECT_EQ(PaintedIn(folder / "elsewhere.kvp"), 3);
+  EXPECT_EQ(messages.shown.size(), 1U);
+}
+
+TEST_F(DiskFaults, AFileThatShrinksWhileItIsReadIsReadWholeOrNotAtAll) {
+  SavePainted(1);
+  const app::Bytes whole = support::ReadFile(file);
+  std::atomic<bool> done = false;
+  std::thread other_program([&] {
+    while (!done) {
+      fs::resize_file(file, 5000);
+      support::WriteFile(file, whole);
+      usleep(20);  // the reader has its chance too
+    }
+  });
+  for (int round = 0; round < 1000; ++round) {
+    Paint(2);
+    document.kept = document.picture;
+    const bool opened = files.OpenPicture(app::TextFromPath(file));
+    ASSERT_EQ(document.picture.Bitmap[4000], opened ? 1 : 2);
+    ASSERT_EQ(document.picture.Bitmap[7999], opened ? 1 : 2);
+  }
+  done = true;
+  other_program.join();
+}
+
+TEST_F(DiskFaults, AClockSetBackLosesNoBackup) {
+  SavePainted(1);
+  SavePainted(2);
+  clock.time.tm_hour -= 1;
+  SavePainted(3);
+  clock.time.tm_year = 70;
+  SavePainted(4);
+  EXPECT_EQ(PaintedIn(folders.Backup() / "pic.kvp_2602030907.prg"), 1);
+  EXPECT_EQ(PaintedIn(folders.Backup() / "pic.kvp_2602030807.prg"), 2);
+  EXPECT_EQ(PaintedIn(folders.Backup() / "pic.kvp_7002030807.prg"), 3);
+  Paint(5);
+  files.New();
+  Paint(6);
+  document.file = SetFileParameters(app::TextFromPath(file));
+  files.New();  // the same minute again
+  EXPECT_EQ(PaintedIn(folders.Backup() / "pic.kvp_7002030807_unsaved.kvp"), 5);
+  EXPECT_EQ(PaintedIn(folders.Backup() / "pic.kvp_7002030807_unsaved_2.kvp"), 6);
+}
+
+TEST_F(DiskFaults, TwoProgramsOnOneFolderSaveAndLogWholly) {
+  constexpr int kRounds = 40;
+  const std::string long_line(20000, 'x');
+  std::array<pid_t, 2> programs{};
+  for (pid_t& program : programs) {
+    program = Start([&] {
+      for (std::uint8_t value = 1; value <= kRounds; ++value) {
+        SavePainted(value);
+        log.Write(long_line);
+      }
+    });
+  }
+  for (const pid_t program : programs) waitpid(program, nullptr, 0);
+  EXPECT_EQ(PaintedIn(file), kRounds);
+  EXPECT_NE(PaintedIn(folders.Snapshot()), -1);
+  EXPECT_NE(PaintedIn(folders.Backup() / "pic.kvp_2602030907.prg"), -1);
+  EXPECT_EQ(FilesIn(art), 1U);
+  std::string expected;
+  for (int line = 0; line < 2 * kRounds; ++line) expected += "260203 09:07:05 " + long_line + "\n";
+  EXPECT_TRUE(support::ReadText(folders.ErrorLogFile()) == expected);
+}
+
+}  // namespace
+}  // namespace kelvo::files
+#endif

@@ -1,0 +1,131 @@
+// What the program finds around it when it starts: settings full of nonsense, none at all, other programs in its
+// folder.
+#include <QCoreApplication>
+#include <QScreen>
+#include <QSettings>
+#include <optional>
+#include <random>
+
+#include "main_frame_fixture.h"
+#include "ui/program_slot.h"
+#include "ui/qt_settings.h"
+
+namespace kelvo::ui {
+namespace {
+
+namespace fs = std::filesystem;
+
+// The user's settings in a folder of the test's own.
+class SettingsFile : public testing::Test {
+ protected:
+  SettingsFile() {
+    QCoreApplication::setOrganizationName("Kelvo");
+    QCoreApplication::setApplicationName("Kelvo");
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, ToQt(app::TextFromPath(folder / "config")));
+  }
+  ~SettingsFile() override {
+    QCoreApplication::setOrganizationName({});
+    QCoreApplication::setApplicationName({});
+  }
+
+  support::TempFolder folder;
+  fs::path file = folder / "config/Kelvo/Kelvo.conf";
+};
+
+TEST_F(SettingsFile, WithGarbageReadsAsDefaultsAndCanBeWrittenAgain) {
+  std::mt19937 random(20260203);
+  std::string noise(100000, ' ');
+  for (char& c : noise) c = static_cast<char>(random());
+  create_directories(file.parent_path());
+  for (const std::string& text :
+       {std::string(), noise, std::string("[Settings\nMagnification"), std::string("[Settings]\nMagnification=@Rect(1"),
+        std::string("[Settings]\nMagnification=@Variant(\\0\\0\\0\\x7f)"), std::string(1 << 20, '['),
+        std::string("\0\0\0", 3), std::string("[Settings]\nMagnification=99999999999999999999\n")}) {
+    support::WriteText(file, text);
+    {
+      QtSettings settings;
+      EXPECT_EQ(app::ReadNumber(settings, app::kMagnification, 4, 8), 4) << text.substr(0, 60);
+      settings.Write(app::kMagnification, "8");
+    }
+    EXPECT_EQ(QtSettings().Read(app::kMagnification), "8") << text.substr(0, 60);
+  }
+}
+
+TEST_F(SettingsFile, WithoutAPlaceStillServesTheRunningProgram) {
+  support::WriteText(folder / "config", "a file where the folder should be");
+  QtSettings settings;
+  EXPECT_EQ(settings.Read(app::kGridColor), "9");
+  settings.Write(app::kGridColor, "3");
+  EXPECT_EQ(settings.Read(app::kGridColor), "3");
+}
+
+// Answers every question with the same.
+class StubbornSettings final : public app::SettingsStore {
+ public:
+  explicit StubbornSettings(std::string answer) : answer_(std::move(answer)) {}
+  std::string Read(const app::Setting&) const override { return answer_; }
+  void Write(const app::Setting&, std::string_view) override {}
+
+ private:
+  std::string answer_;
+};
+
+TEST_F(MainFrameTest, StartsWithAnyNonsenseInAllSettings) {
+  QTimer closes_boxes;  // the message about the VICE path, and the dialogs
+  QObject::connect(&closes_boxes, &QTimer::timeout, [] {
+    if (QWidget* box = QApplication::activeModalWidget()) box->close();
+  });
+  closes_boxes.start(0);
+  for (const std::string& nonsense :
+       {std::string("-1"), std::string("2147483647,2147483647,2147483647,2147483647,1"),
+        std::string("2147483647,2147483647,1"), std::string("-2147483648,-2147483648,2147483647,2147483647,2147483647"),
+        std::string("0,0,32767,32767,0"), std::string("-2147483648,5,7"), std::string("AAAA/wAAAAD9////"),
+        std::string("\xFF\xFE\0\x80", 4), std::string(100000, '9')}) {
+    SCOPED_TRACE(nonsense.substr(0, 60));
+    StubbornSettings stubborn(nonsense);
+    frame = std::make_unique<MainFrame>(folders, stubborn, clock);
+    frame->StartUp();
+    frame->show();
+    QApplication::processEvents();
+    EXPECT_TRUE(frame->isVisible());
+    EXPECT_TRUE(frame->screen()->virtualGeometry().intersects(frame->geometry()));
+    EXPECT_LE(frame->width(), 2000);
+    EXPECT_EQ(frame->Zoom().GridColor().Number(), 9);
+    for (const char* dialog : {"mnuPreferences", "mnuViceSettings", "mnuCodenetSettings"}) Action(dialog)->trigger();
+    frame.reset();
+  }
+}
+
+class ProgramSlotTest : public testing::Test {
+ protected:
+  support::TempFolder folder;
+  app::ProgramFolders folders{folder / "program"};
+};
+
+TEST_F(ProgramSlotTest, ProgramsOnOneFolderHaveNumbersOfTheirOwn) {
+  const ProgramSlot first(folders);
+  std::optional<ProgramSlot> second(std::in_place, folders);
+  const ProgramSlot third(folders);
+  EXPECT_EQ(first.Number(), 1);
+  EXPECT_EQ(second->Number(), 2);
+  EXPECT_EQ(third.Number(), 3);
+  EXPECT_FALSE(first.IsFree(2));
+  EXPECT_TRUE(first.IsFree(1) && first.IsFree(4));
+  second.reset();
+  EXPECT_TRUE(first.IsFree(2));
+  EXPECT_EQ(ProgramSlot(folders).Number(), 2);
+}
+
+TEST_F(ProgramSlotTest, ADeadProgramHoldsNoNumber) {
+  folders.Create();
+  support::WriteText(folders.System() / "running_1.lock", "2147483646\nkelvo\n\n\n\n");
+  EXPECT_EQ(ProgramSlot(folders).Number(), 1);
+  support::WriteText(folders.System() / "running_1.lock", "nonsense");
+  EXPECT_GE(ProgramSlot(folders).Number(), 1);
+  remove_all(folders.System());
+  support::WriteText(folders.System(), "a file where the folder should be");
+  EXPECT_EQ(ProgramSlot(folders).Number(), 1);
+}
+
+}  // namespace
+}  // namespace kelvo::ui
