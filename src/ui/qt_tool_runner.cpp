@@ -6,8 +6,9 @@
 #include "ui/qt_text.h"
 
 #ifndef Q_OS_WIN
-#include <signal.h>
 #include <unistd.h>
+
+#include <csignal>
 #endif
 
 namespace kelvo::ui {

@@ -7,9 +7,10 @@
 #include <utility>
 
 #ifndef Q_OS_WIN
-#include <signal.h>
 #include <sys/socket.h>
 #include <unistd.h>
+
+#include <csignal>
 #endif
 
 namespace kelvo::ui {
