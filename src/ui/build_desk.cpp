@@ -1,11 +1,14 @@
 #include "ui/build_desk.h"
 
+#include <QLockFile>
 #include <utility>
 
+#include "app/path_text.h"
 #include "app/text.h"
 #include "c64out/output_settings.h"
 #include "c64out/vice_folder.h"
 #include "ui/frm_vice_settings.h"
+#include "ui/qt_text.h"
 #include "ui/settings_dialog.h"
 
 namespace kelvo::ui {
@@ -27,16 +30,28 @@ void BuildDesk::BuildCompoPic(const c64out::CompoPicChoice& choice) {
       this, [this, next] { BuildCompoPic(next); }, Qt::QueuedConnection);
 }
 
-// The picture may change while tools are at work: the build has its own copy.
 void BuildDesk::Run(const c64out::CompoPicChoice& choice) {
   is_running_ = true;
   emit StateChanged();
-  const files::Document picture = with_.document;
-  const bool well = c64out::BuildCompoPic(
-      picture, choice, {with_.folders, with_.settings, with_.clock, with_.log, with_.messages, with_.prompt, runner_});
+  const bool well = BuildAlone(choice);
   is_running_ = false;
   emit StateChanged();
   emit Ended(well);
+}
+
+// Programs on one program folder build in the same work files. The picture may change while tools are at work: the
+// build has its own copy.
+bool BuildDesk::BuildAlone(const c64out::CompoPicChoice& choice) {
+  QLockFile lock(ToQt(app::TextFromPath(with_.folders.System() / "build.lock")));
+  lock.setStaleLockTime(0);
+  if (!lock.tryLock(0) && lock.error() == QLockFile::LockFailedError) {
+    with_.prompt.CommandPromptList("--> Another Kelvo is building in the same program folder.");
+    with_.prompt.CommandPromptList("--> [err 908]");
+    return false;
+  }
+  const files::Document picture = with_.document;
+  return c64out::BuildCompoPic(
+      picture, choice, {with_.folders, with_.settings, with_.clock, with_.log, with_.messages, with_.prompt, runner_});
 }
 
 void BuildDesk::Stop() {

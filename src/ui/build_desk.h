@@ -53,6 +53,7 @@ class BuildDesk : public QObject {
 
  private:
   void Run(const c64out::CompoPicChoice& choice);
+  bool BuildAlone(const c64out::CompoPicChoice& choice);
 
   BuildDeskSurroundings with_;
   QWidget* window_;

@@ -2,6 +2,7 @@
 #include <QDialog>
 #include <QLineEdit>
 #include <QListView>
+#include <QLockFile>
 #include <csignal>
 
 #include "c64out/output_settings.h"
@@ -210,6 +211,19 @@ TEST_F(C64OutputTest, AHangingToolCanBeStopped) {
   EXPECT_TRUE(Find("frmCommand")->isVisible());
   EXPECT_FALSE(exists(art / "pic.prg"));
   EXPECT_TRUE(Action("mnuCreatePRGCompopic")->isEnabled());
+}
+
+TEST_F(C64OutputTest, TwoProgramsDoNotBuildInEachOthersFiles) {
+  Open("pic.koa");
+  QLockFile other(ToQt(app::TextFromPath(folders.System() / "build.lock")));
+  ASSERT_TRUE(other.tryLock(0));
+  support::WriteText(folders.System() / "bmpshow.prg", "the other's");
+  Action("mnuCreatePRGCompopic")->trigger();
+  EXPECT_EQ(PromptLines().last(), "--> [err 908]");
+  EXPECT_EQ(support::ReadText(folders.System() / "bmpshow.prg"), "the other's");
+  other.unlock();
+  Action("mnuCreatePRGCompopic")->trigger();
+  EXPECT_EQ(PromptLines().last(), "--> PRG complete.");
 }
 
 TEST_F(C64OutputTest, ClosingEndsABuild) {
