@@ -16,11 +16,26 @@ bool CanWriteIn(const fs::path& folder) {
   return written;
 }
 
-void CopyFiles(const fs::path& from, const fs::path& to, fs::copy_options if_there) {
+constexpr const char* kStamp = "shipped.txt";  // what is shipped, by its contents
+
+std::string TextOf(const fs::path& file) {
+  std::ifstream stream(file, std::ios::binary);
+  return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
+}
+
+void CopyMissing(const fs::path& from, const fs::path& to) {
   std::error_code ignored;
   for (const fs::directory_entry& entry : fs::directory_iterator(from, ignored)) {
-    fs::copy(entry.path(), to / entry.path().filename(), if_there, ignored);
+    fs::copy(entry.path(), to / entry.path().filename(), fs::copy_options::skip_existing, ignored);
   }
+}
+
+// Makes room for a shipped file: one of that name that is different goes to a name of its own.
+void KeepOld(const fs::path& file, const fs::path& shipped) {
+  std::error_code ignored;
+  if (!fs::exists(file, ignored) || TextOf(file) == TextOf(shipped)) return;
+  fs::path old = file;
+  fs::rename(file, old += ".old", ignored);
 }
 
 }  // namespace
@@ -31,8 +46,16 @@ void ProgramFolders::Create() const {
 }
 
 void ProgramFolders::Seed(const fs::path& shipped) const {
-  CopyFiles(shipped / "SYSTEM", System(), fs::copy_options::update_existing);
-  CopyFiles(shipped / "GFX", Gfx(), fs::copy_options::skip_existing);
+  std::error_code ignored;
+  const fs::path stamp = shipped / "SYSTEM" / kStamp;
+  if (fs::exists(stamp, ignored) && TextOf(System() / kStamp) != TextOf(stamp)) {
+    for (const fs::directory_entry& entry : fs::directory_iterator(shipped / "SYSTEM", ignored)) {
+      KeepOld(System() / entry.path().filename(), entry.path());
+    }
+    fs::remove((System() / kStamp) += ".old", ignored);
+  }
+  CopyMissing(shipped / "SYSTEM", System());
+  CopyMissing(shipped / "GFX", Gfx());
 }
 
 std::filesystem::path ChooseProgramFolder(const fs::path& executable_folder, const fs::path& user_folder) {

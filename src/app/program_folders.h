@@ -21,8 +21,9 @@ class ProgramFolders {
   // Makes SYSTEM, BACKUP and GFX. Folders that are there already, or cannot be made, are no error.
   void Create() const;
 
-  // Copies what is shipped under `shipped`/SYSTEM and `shipped`/GFX to here. Pictures that are here already are left
-  // alone; tools and templates, which belong together, are replaced by newer ones.
+  // Copies what is shipped under `shipped`/SYSTEM and `shipped`/GFX to here. What is here already is left
+  // alone, but tools and templates belong together: when others are shipped than before, each that differs is renamed
+  // to end in ".old" and replaced.
   void Seed(const std::filesystem::path& shipped) const;
 
  private:

@@ -16,6 +16,8 @@ namespace {
 // The build ends here without having failed: the user has been told by a message box.
 struct BuildGivenUp {};
 
+constexpr std::uintmax_t kMostPrgBytes = 65538;  // load address and all of a C64's memory
+
 void RequireEmulator(const BuildJob& job) {
   const std::string folder = job.Setting(kVicePath);
   if (folder.empty()) job.With().messages.Warn("VICE path must be specified");
@@ -90,17 +92,32 @@ void AddDepacker(const BuildJob& job) {
   Remove(files.depacker_source);
 }
 
+// Many pictures are files called .prg too. One that is no program to be started by RUN is not lost to the new program.
+void KeepForeignFile(const BuildJob& job, const std::filesystem::path& prg) {
+  std::error_code error;
+  if (std::filesystem::file_size(prg, error) > kMostPrgBytes || error) return;
+  const app::Bytes bytes = app::ReadWholeFile(prg, kMostPrgBytes);
+  if (bytes.size() > 2 && bytes[0] == 0x01 && bytes[1] == 0x08) return;
+  const BuildSurroundings& with = job.With();
+  const std::string name = job.BaseName() + "_" + app::BackupStamp(with.clock.Now()) + "_replaced.prg";
+  app::CopyWholeFile(prg, with.folders.Backup() / app::PathFromText(name));
+}
+
 void KeepProgram(const BuildJob& job) {
-  app::CopyWholeFile(job.Files().program, job.BesidePicture(".prg"));
+  const std::filesystem::path prg = job.BesidePicture(".prg");
+  KeepForeignFile(job, prg);
+  app::CopyWholeFile(job.Files().program, prg);
   job.Print("--> PRG complete.");
 }
 
 void End(const BuildJob& job) {
   if (!job.Choice().MakePrg) return EndWithDisk(job);
   if (!job.Choice().ViaCodenet) return KeepProgram(job);
-  // An older program beside the picture goes and is not replaced, on purpose: it no longer is what the C64 shows.
-  Remove(job.BesidePicture(".prg"));
   EndWithCodenet(job);
+  // An older program beside the picture goes and is not replaced, on purpose: it no longer is what the C64 shows.
+  const std::filesystem::path prg = job.BesidePicture(".prg");
+  KeepForeignFile(job, prg);
+  Remove(prg);
 }
 
 void Build(const BuildJob& job) {
@@ -120,18 +137,24 @@ void Build(const BuildJob& job) {
 
 }  // namespace
 
-bool BuildCompoPic(const files::Document& document, const CompoPicChoice& choice, const BuildSurroundings& with) {
+BuildOutcome BuildCompoPic(const files::Document& document, const CompoPicChoice& choice,
+                           const BuildSurroundings& with) {
   const BuildJob job(document, choice, with);
   try {
-    return app::Guarded(
-        with.log, "modVICEandCodenet_BuildCompoPic", [&] { Build(job); },
-        [&](const std::exception& error) {
-          job.Files().RemoveAll();
-          job.Print("--> " + std::string(error.what()));
-          if (dynamic_cast<const BuildStopped*>(&error) == nullptr) job.Print("--> [err 908]");
-        });
+    Build(job);
+    return BuildOutcome::kDone;
   } catch (const BuildGivenUp&) {
-    return false;
+    return BuildOutcome::kFailed;
+  } catch (const BuildStopped& stop) {
+    job.Files().RemoveAll();
+    job.Print("--> " + std::string(stop.what()));
+    return BuildOutcome::kStopped;
+  } catch (const std::exception& error) {
+    with.log.Write("modVICEandCodenet_BuildCompoPic: " + std::string(error.what()));
+    job.Files().RemoveAll();
+    job.Print("--> " + std::string(error.what()));
+    job.Print("--> [err 908]");
+    return BuildOutcome::kFailed;
   }
 }
 

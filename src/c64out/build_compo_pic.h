@@ -5,11 +5,14 @@
 
 namespace kelvo::c64out {
 
+enum class BuildOutcome { kDone, kStopped, kFailed };
+
 // Builds what `choice` asks for out of `document`, which has a file: a PRG or a D64 beside the picture, or a transfer
-// to a C64. Lines in the prompt tell how far it is. Returns when it is done, failed or stopped; true when it is done.
+// to a C64. Lines in the prompt tell how far it is. Returns when it is done, failed or stopped by the user.
 //
 // A failure is one "--> " line that says what went wrong, then "--> [err 908]"; the work files are removed then, and an
 // older result beside the picture stays as it was. The picture, its name and the dialogs' folder stay as they are.
-bool BuildCompoPic(const files::Document& document, const CompoPicChoice& choice, const BuildSurroundings& with);
+BuildOutcome BuildCompoPic(const files::Document& document, const CompoPicChoice& choice,
+                           const BuildSurroundings& with);
 
 }  // namespace kelvo::c64out

@@ -68,7 +68,8 @@ void BuildJob::Run(RunMethod method, const fs::path& tool, std::vector<std::stri
   if (path.empty()) throw std::runtime_error(name + ": there is no " + app::TextFromPath(tool));
   const ToolResult result = (with_.runner.*method)({path, std::move(arguments)});
   if (result.stopped) throw BuildStopped();
-  if (!result.failure.empty()) throw std::runtime_error(name + ": " + result.failure);
+  if (result.failure.empty()) return;
+  throw std::runtime_error(result.failure.starts_with(name + ": ") ? result.failure : name + ": " + result.failure);
 }
 
 void BuildJob::Run(const fs::path& tool, std::vector<std::string> arguments) const {

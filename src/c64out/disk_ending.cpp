@@ -1,5 +1,7 @@
 #include "c64out/disk_ending.h"
 
+#include <algorithm>
+
 #include "app/path_text.h"
 #include "app/utf8.h"
 #include "app/whole_file.h"
@@ -13,9 +15,11 @@ namespace {
 
 constexpr std::size_t kNameCharacters = 16;
 
-void RequireNoOption(const std::string& name) {
-  if (!name.starts_with('-')) return;
-  throw std::runtime_error("c1541: takes a name that begins with - for a command; set a PRG name in the VICE settings");
+// Refuses what c1541 takes for a command, and what a C64's disk system acts upon or cannot write.
+void RequireDiskName(const std::string& name) {
+  const bool is_ascii = std::all_of(name.begin(), name.end(), [](char c) { return c >= ' ' && c <= '~'; });
+  if (is_ascii && name.find_first_of(":,=*?\"") == std::string::npos && name.find_first_of("-@$#&") != 0) return;
+  throw std::runtime_error("c1541: a disk cannot hold the name " + name + "; set a PRG name in the VICE settings");
 }
 
 }  // namespace
@@ -27,7 +31,7 @@ std::string NameOnDisk(std::string_view name) {
 void EndWithDisk(const BuildJob& job) {
   const std::filesystem::path image = job.BesidePicture(".d64");
   const std::string folder = job.Setting(kVicePath), name = NameOnDisk(job.DiskFileName(kVicePrgName));
-  RequireNoOption(name);
+  RequireDiskName(name);
   SetAside older(image);
   app::CopyWholeFile(job.System("empty.d64"), image);
   const std::string image_path = ShortPath(image);

@@ -18,11 +18,12 @@ std::string SendFile(const CodenetForm& form, const SendSurroundings& with) {
     return "Can't find CMD.EXE";
   }
   const ToolCommand command = SendCommand(form, with.folders);
-  const ToolResult result = command.tool.empty() ? ToolResult{.failure = "codenet is missing from the SYSTEM folder"}
-                                                 : with.runner.RunAndWait(command);
+  const ToolResult result = command.tool.empty()
+                                ? ToolResult{.failure = "codenet: it is missing from the SYSTEM folder"}
+                                : with.runner.RunAndWait(command);
   if (result.stopped) return "Transfer stopped.";
   if (result.failure.empty()) return "Transfer complete.";
-  with.prompt.CommandPromptList("--> codenet: " + result.failure);
+  with.prompt.CommandPromptList("--> " + result.failure);
   with.prompt.CommandPromptList(kFailed);
   return result.failure;
 }

@@ -1,5 +1,9 @@
 #include "c64out/set_aside.h"
 
+#include <stdexcept>
+
+#include "app/path_text.h"
+
 namespace kelvo::c64out {
 namespace {
 
@@ -16,6 +20,7 @@ fs::path FreeNameBeside(const fs::path& file) {
 
 SetAside::SetAside(const fs::path& file) : file_(file) {
   if (!fs::exists(file)) return;
+  if (!fs::is_regular_file(file)) throw std::runtime_error(app::TextFromPath(file) + ": this is no file");
   aside_ = FreeNameBeside(file);
   fs::rename(file, aside_);
 }

@@ -9,7 +9,7 @@ namespace kelvo::c64out {
 // name, unless it was dropped.
 class SetAside {
  public:
-  // Throws std::filesystem::filesystem_error when the file cannot be renamed.
+  // Throws std::runtime_error for a folder and the like, and when the file cannot be renamed.
   explicit SetAside(const std::filesystem::path& file);
   ~SetAside();
   SetAside(const SetAside&) = delete;

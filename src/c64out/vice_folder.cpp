@@ -46,7 +46,10 @@ std::string EmulatorOnPath(std::string_view search_path) {
 
 ViceFolderState CheckViceFolder(std::string_view typed) {
   if (typed.empty()) return ViceFolderState::kEmpty;
-  if (typed.ends_with(".exe")) return ViceFolderState::kExecutable;
+  std::error_code ignored;
+  if (typed.ends_with(".exe") || fs::is_regular_file(app::PathFromText(typed), ignored)) {
+    return ViceFolderState::kExecutable;
+  }
   return FindEmulator(typed) ? ViceFolderState::kCorrect : ViceFolderState::kIncorrect;
 }
 

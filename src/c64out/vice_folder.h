@@ -20,8 +20,8 @@ std::string EmulatorOnPath(std::string_view search_path);
 
 enum class ViceFolderState { kEmpty, kExecutable, kIncorrect, kCorrect };
 
-// What `typed`, trimmed, is: nothing, the path of a program instead of a folder (it ends in ".exe"), or a folder
-// without or with the emulator.
+// What `typed`, trimmed, is: nothing, the path of a program instead of a folder (a file, or any that ends in ".exe"),
+// or a folder without or with the emulator.
 ViceFolderState CheckViceFolder(std::string_view typed);
 
 }  // namespace kelvo::c64out

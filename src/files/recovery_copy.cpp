@@ -47,7 +47,7 @@ void RecoveryCopy::Keep(Time now) {
 }
 
 void RecoveryCopy::KeepNow() {
-  if (!document_.HasUnsavedWork()) return;
+  if (!document_.HasUnsavedWork()) return Remove();
   const std::string& path = document_.file.CurrentFilePath;
   app::WriteWholeFile(files_.name, {reinterpret_cast<const std::uint8_t*>(path.data()), path.size()}, kFlush);
   model::PictureImage signed_picture = document_.picture;

@@ -13,8 +13,9 @@
 
 namespace kelvo::ui {
 
-BuildDesk::BuildDesk(const BuildDeskSurroundings& with, QWidget* window) : with_(with), window_(window) {
-  connect(&runner_, &QtToolRunner::ShowingChanged, this, &BuildDesk::StateChanged);
+BuildDesk::BuildDesk(const BuildDeskSurroundings& with, QWidget* window)
+    : with_(with), window_(window), runner_(with.runner) {
+  connect(&runner_, &QtToolRunner::StateChanged, this, &BuildDesk::StateChanged);
 }
 
 void BuildDesk::BuildCompoPic(const c64out::CompoPicChoice& choice) {
@@ -22,7 +23,7 @@ void BuildDesk::BuildCompoPic(const c64out::CompoPicChoice& choice) {
     next_ = choice;
     return runner_.Stop();
   }
-  if (is_running_ || (!with_.document.file.HasFile() && !with_.files.SaveAs())) return;
+  if (!IsFree() || is_running_ || (!with_.document.file.HasFile() && !with_.files.SaveAs())) return;
   Run(choice);
   if (!next_) return;
   const c64out::CompoPicChoice next = *std::exchange(next_, std::nullopt);
@@ -33,21 +34,21 @@ void BuildDesk::BuildCompoPic(const c64out::CompoPicChoice& choice) {
 void BuildDesk::Run(const c64out::CompoPicChoice& choice) {
   is_running_ = true;
   emit StateChanged();
-  const bool well = BuildAlone(choice);
+  const c64out::BuildOutcome outcome = BuildAlone(choice);
   is_running_ = false;
   emit StateChanged();
-  emit Ended(well);
+  emit Ended(outcome);
 }
 
 // Programs on one program folder build in the same work files. The picture may change while tools are at work: the
 // build has its own copy.
-bool BuildDesk::BuildAlone(const c64out::CompoPicChoice& choice) {
+c64out::BuildOutcome BuildDesk::BuildAlone(const c64out::CompoPicChoice& choice) {
   QLockFile lock(ToQt(app::TextFromPath(with_.folders.System() / "build.lock")));
   lock.setStaleLockTime(0);
   if (!lock.tryLock(0) && lock.error() == QLockFile::LockFailedError) {
     with_.prompt.CommandPromptList("--> Another Kelvo is building in the same program folder.");
     with_.prompt.CommandPromptList("--> [err 908]");
-    return false;
+    return c64out::BuildOutcome::kFailed;
   }
   const files::Document picture = with_.document;
   return c64out::BuildCompoPic(

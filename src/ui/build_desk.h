@@ -20,6 +20,7 @@ struct BuildDeskSurroundings {
   app::PromptOutput& prompt;
   const files::Document& document;
   files::PictureFiles& files;
+  QtToolRunner& runner;
 };
 
 class BuildDesk : public QObject {
@@ -28,8 +29,8 @@ class BuildDesk : public QObject {
  public:
   BuildDesk(const BuildDeskSurroundings& with, QWidget* window);
 
-  // Passed over while another build is at work. A picture that has no file is saved under a name first. While the
-  // emulator is waited for another build may begin: it is left running then.
+  // Passed over while a build or a transfer is at work. A picture that has no file is saved under a name first. While
+  // the emulator is waited for another build may begin: it is left running then.
   void BuildCompoPic(const c64out::CompoPicChoice& choice);
 
   // Ends a build at work. The emulator is not a part of it.
@@ -37,6 +38,8 @@ class BuildDesk : public QObject {
   // The program ends: nothing is waited for any more.
   void LeaveAll();
   bool IsBuilding() const { return is_running_ && !runner_.IsShowing(); }
+  // Whether a build may begin.
+  bool IsFree() const { return !IsBuilding() && !runner_.IsBusy(); }
 
   // At start: looks where the settings say that VICE is, and tells when it is not there.
   void LookForVice();
@@ -48,16 +51,16 @@ class BuildDesk : public QObject {
  signals:
   // What can be chosen may have changed.
   void StateChanged();
-  // A build ended; where it failed, its lines in the prompt say why.
-  void Ended(bool well);
+  // Where a build failed, its lines in the prompt say why.
+  void Ended(c64out::BuildOutcome outcome);
 
  private:
   void Run(const c64out::CompoPicChoice& choice);
-  bool BuildAlone(const c64out::CompoPicChoice& choice);
+  c64out::BuildOutcome BuildAlone(const c64out::CompoPicChoice& choice);
 
   BuildDeskSurroundings with_;
   QWidget* window_;
-  QtToolRunner runner_;
+  QtToolRunner& runner_;
   bool is_running_ = false, is_vice_ready_ = false;
   std::optional<c64out::CompoPicChoice> next_;  // chosen while the emulator was waited for
 };

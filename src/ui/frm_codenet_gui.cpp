@@ -7,6 +7,7 @@
 #include <QGroupBox>
 #include <QRadioButton>
 #include <QTabWidget>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include "ui/qt_text.h"
@@ -22,6 +23,14 @@ QRadioButton* AddOption(QButtonGroup* group, int number, const QString& caption,
   option->setObjectName(QString("%1_%2").arg(name).arg(number));
   group->addButton(option, number);
   return option;
+}
+
+// The cursor stays where the user types.
+void TrimTo(QLineEdit& field, const QString& trimmed) {
+  if (field.text() == trimmed) return;
+  const int cursor = field.cursorPosition();
+  field.setText(trimmed);
+  field.setCursorPosition(cursor);
 }
 
 }  // namespace
@@ -144,7 +153,6 @@ QLayout* frmCodenetGUI::MakeSendRow() {
 QPushButton* frmCodenetGUI::MakeButton(const char* name, const QString& caption, void (frmCodenetGUI::*clicked)()) {
   auto* button = new QPushButton(caption);
   button->setObjectName(name);
-  button->setAutoDefault(false);
   connect(button, &QPushButton::clicked, this, clicked);
   return button;
 }
@@ -204,9 +212,9 @@ c64out::CodenetForm frmCodenetGUI::Form() const {
 void frmCodenetGUI::Compose() {
   if (is_loading_) return;
   const c64out::CodenetForm form = c64out::WithTrimmedFields(Form());
-  text_[kPort]->setText(ToQt(form.port));
-  text_[kDestination]->setText(ToQt(form.destination));
-  text_[kHost]->setText(ToQt(form.host));
+  TrimTo(*text_[kPort], ToQt(form.port));
+  TrimTo(*text_[kDestination], ToQt(form.destination));
+  TrimTo(*text_[kHost], ToQt(form.host));
   const c64out::ComposedOptions composed = c64out::ComposeOptions(form, QFileInfo::exists(ToQt(form.file)));
   text_[kPreview]->setText("codenet.exe " + ToQt(composed.options));
   QPalette colours = palette();
@@ -229,19 +237,29 @@ void frmCodenetGUI::Browse() {
 }
 
 void frmCodenetGUI::Send() {
-  if (std::exchange(is_sending_, true)) return;
+  if (with_.runner.IsShowing()) {  // the emulator is left running; once it is no longer waited for, it goes on here
+    with_.runner.Stop();
+    QTimer::singleShot(0, this, &frmCodenetGUI::Send);
+    return;
+  }
+  if (with_.runner.IsBusy()) return outcome_->setText("A build is at work.");
+  is_sending_ = true;
   outcome_->setText("Sending...");
   cmdSend_->setEnabled(false);
   cmdStop_->setEnabled(true);
   app::Guarded(
       with_.log, "frmCodenetGUI_cmdSend",
       [this] {
-        outcome_->setText(ToQt(c64out::SendFile(Form(), {with_.folders, with_.messages, with_.prompt, runner_})));
+        outcome_->setText(ToQt(c64out::SendFile(Form(), {with_.folders, with_.messages, with_.prompt, with_.runner})));
       },
       [this](const std::exception& error) { outcome_->setText(error.what()); });
   cmdSend_->setEnabled(true);
   cmdStop_->setEnabled(false);
   is_sending_ = false;
+}
+
+void frmCodenetGUI::Stop() {
+  if (is_sending_) with_.runner.Stop();
 }
 
 // Escape stops a transfer first, and closes only then.

@@ -26,11 +26,12 @@ class frmCodenetGUI : public QDialog {
     const app::ErrorLog& log;
     app::Messages& messages;
     app::PromptOutput& prompt;
+    QtToolRunner& runner;
   };
   frmCodenetGUI(const Surroundings& with, QWidget* parent);
 
   // Ends a transfer under way.
-  void Stop() { runner_.Stop(); }
+  void Stop();
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -56,7 +57,6 @@ class frmCodenetGUI : public QDialog {
   void Exit() { close(); }
 
   Surroundings with_;
-  QtToolRunner runner_;
   std::array<QLineEdit*, 7> text_{};
   QButtonGroup* opbStd_;
   QButtonGroup* opbExec_;

@@ -1,7 +1,7 @@
 #include "ui/frm_vice_settings.h"
 
-#include <QAction>
 #include <QFileDialog>
+#include <QPushButton>
 
 #include "c64out/output_settings.h"
 #include "c64out/vice_folder.h"
@@ -15,11 +15,10 @@ frmViceSettings::frmViceSettings(app::SettingsStore& settings, app::Messages& me
   AddText(c64out::kVicePrgName, "&PRG name");
   AddHint("A PRG name that is set overrides the picture's file name.");
   if (path_->text().isEmpty()) path_->setText(ToQt(c64out::EmulatorOnPath(FromQt(qEnvironmentVariable("PATH")))));
-  auto* browse = path_->addAction(QIcon(":/icons/open.svg"), QLineEdit::TrailingPosition);
+  auto* browse = new QPushButton("&Browse...");
   browse->setObjectName("browseVicePath");
-  browse->setText("Choose a folder");
-  browse->setToolTip("Choose a folder");
-  connect(browse, &QAction::triggered, this, &frmViceSettings::Browse);
+  AddBeside(*path_, browse);
+  connect(browse, &QPushButton::clicked, this, &frmViceSettings::Browse);
 }
 
 void frmViceSettings::Browse() {

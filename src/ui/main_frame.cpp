@@ -53,6 +53,7 @@ MainFrame::MainFrame(const app::ProgramFolders& folders, app::SettingsStore& set
       Toolbar1_(new PaintToolBar(this)),
       menu_(*this),
       panels_(statusBar()),
+      building_(new QLabel("Building... (Escape stops)", this)),
       Timer1_(new QTimer(this)),
       messages_(this),
       dialogs_(this),
@@ -62,7 +63,7 @@ MainFrame::MainFrame(const app::ProgramFolders& folders, app::SettingsStore& set
       desk_(document_, {views_, settings, messages_, events_, pointer_, log_},
             {*full_view_, *zoom_, *colors_, *pens_, *char_data_, *Toolbar1_}),
       animation_({settings, messages_, document_, files_}, *this, *full_view_, *zoom_),
-      builds_({folders, settings, clock, log_, messages_, prompt_, document_, files_}, this),
+      builds_({folders, settings, clock, log_, messages_, prompt_, document_, files_, runner_}, this),
       recovery_({folders, clock, log_, messages_, document_, files_}) {
   setObjectName("MDIFormMenu");
   area_->setObjectName("mdiArea");
@@ -156,18 +157,26 @@ void MainFrame::ConnectAnimation() {
 }
 
 void MainFrame::ConnectBuilds() {
-  connect(&builds_, &BuildDesk::StateChanged, this, &MainFrame::RefreshMenus);
-  connect(&builds_, &BuildDesk::StateChanged, statusBar(), &QStatusBar::clearMessage);
+  building_->setObjectName("pnlBuilding");
+  building_->hide();
+  statusBar()->addPermanentWidget(building_);
+  connect(&builds_, &BuildDesk::StateChanged, this, &MainFrame::ShowBuilding);
   connect(&builds_, &BuildDesk::Ended, this, &MainFrame::BuildEnded);
-  connect(&prompt_, &PromptLines::Added, this, [this](const QModelIndex& line) {
-    if (builds_.IsBuilding()) statusBar()->showMessage(line.data().toString() + "   (Escape stops the build)");
-  });
 }
 
-// The prompt is the build log: it comes forward when there is something to read in it.
-void MainFrame::BuildEnded(bool well) {
-  statusBar()->showMessage(well ? "Build complete" : "Build failed", kWordMilliseconds);
-  if (!well && !IsWindowShown(ChildWindowId::kPrompt)) ToggleWindow(ChildWindowId::kPrompt);
+void MainFrame::ShowBuilding() {
+  building_->setVisible(builds_.IsBuilding());
+  RefreshMenus();
+}
+
+// The prompt is the build log: it comes forward when there is something to read in it. The keyboard stays where it is.
+void MainFrame::BuildEnded(c64out::BuildOutcome outcome) {
+  constexpr std::array kWords{"Build complete", "Build stopped", "Build failed"};
+  statusBar()->showMessage(kWords.at(static_cast<std::size_t>(outcome)), kWordMilliseconds);
+  if (outcome != c64out::BuildOutcome::kFailed || IsWindowShown(ChildWindowId::kPrompt)) return;
+  QMdiSubWindow* active = area_->activeSubWindow();
+  ToggleWindow(ChildWindowId::kPrompt);
+  if (active != nullptr) area_->setActiveSubWindow(active);
 }
 
 void MainFrame::ProcessCommand(const QString& line) {
@@ -241,7 +250,7 @@ void MainFrame::ShowSpriteConverter() {
 
 void MainFrame::ShowCodenetGui() {
   if (codenet_gui_ == nullptr) {
-    codenet_gui_ = new frmCodenetGUI({folders_, settings_, log_, messages_, prompt_}, this);
+    codenet_gui_ = new frmCodenetGUI({folders_, settings_, log_, messages_, prompt_, runner_}, this);
   }
   codenet_gui_->show();
   codenet_gui_->raise();
@@ -289,12 +298,15 @@ bool MainFrame::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress) {
     const auto* press = static_cast<QKeyEvent*>(event);
     pressed_with_.insert(press->key(), press->modifiers());
+    if (press->key() == Qt::Key_Escape) {
+      escape_is_ours_ = QApplication::activePopupWidget() == nullptr && QApplication::activeModalWidget() == nullptr;
+    }
   }
   return QMainWindow::eventFilter(watched, event);
 }
 
 void MainFrame::keyReleaseEvent(QKeyEvent* event) {
-  if (event->key() == Qt::Key_Escape && builds_.IsBuilding()) return builds_.Stop();
+  if (event->key() == Qt::Key_Escape && escape_is_ours_ && builds_.IsBuilding()) return builds_.Stop();
   const QWidget* focus = focusWidget();
   const bool in_tool_window =
       colors_->isAncestorOf(focus) || char_data_->isAncestorOf(focus) || pens_->isAncestorOf(focus);

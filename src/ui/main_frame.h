@@ -105,7 +105,8 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   void MakeChildren();
   void ConnectAnimation();
   void ConnectBuilds();
-  void BuildEnded(bool well);
+  void ShowBuilding();
+  void BuildEnded(c64out::BuildOutcome outcome);
   void StopTools();
   void GiveFocusToPicture();
   void MakeChoiceMenus();
@@ -123,6 +124,7 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   PromptLines prompt_;
   QString last_command_;
   QHash<int, Qt::KeyboardModifiers> pressed_with_;  // by key: what was held when it was pressed
+  bool escape_is_ours_ = false;                     // it was pressed while no menu and no dialog was open
 
   QMdiArea* area_;
   frmBMPView* full_view_;
@@ -138,6 +140,7 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   ChoiceMenu* grid_menu_ = nullptr;
   ChoiceMenu* border_menu_ = nullptr;
   StatusPanels panels_;
+  QLabel* building_;  // to be seen while a build is at work
   QTimer* Timer1_;
 
   QtMessages messages_;
@@ -148,6 +151,7 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   files::PictureFiles files_;
   PaintingDesk desk_;
   AnimationDesk animation_;
+  QtToolRunner runner_;
   BuildDesk builds_;
   RecoveryDesk recovery_;
   frmBMP2SpriteMain* sprite_converter_ = nullptr;  // made when it is first asked for

@@ -50,7 +50,7 @@ constexpr MenuEntry BuildEntry(const char* key = "") {
           entry.tip,
           [](MainFrame& f) { f.Builds().BuildCompoPic(c64out::kCompoPicEntries[index].choice); },
           [](const MainFrame& f) {
-            return !f.Builds().IsBuilding() &&
+            return f.Builds().IsFree() &&
                    (f.Builds().IsViceReady() || c64out::kCompoPicEntries[index].choice.ViaCodenet);
           }};
 }

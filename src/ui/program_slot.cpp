@@ -24,8 +24,4 @@ std::unique_ptr<QLockFile> ProgramSlot::TryLock(int number) const {
   return lock->tryLock(0) ? std::move(lock) : nullptr;
 }
 
-bool ProgramSlot::IsFree(int number) const {
-  return number == number_ || TryLock(number) != nullptr;
-}
-
 }  // namespace kelvo::ui

@@ -20,12 +20,10 @@ class ProgramSlot {
 
   int Number() const { return number_; }
 
-  // True when no other program holds `number` now.
-  bool IsFree(int number) const;
-
- private:
+  // Holds `number` until the lock is destroyed; null when another program holds it.
   std::unique_ptr<QLockFile> TryLock(int number) const;
 
+ private:
   const app::ProgramFolders& folders_;
   std::unique_ptr<QLockFile> lock_;
   int number_ = 1;

@@ -79,7 +79,7 @@ bool QtToolRunner::CanRun() const {
 #endif
 }
 
-c64out::ToolResult QtToolRunner::Wait(QProcess& process, const c64out::ToolCommand& command) {
+c64out::ToolResult QtToolRunner::Wait(QProcess& process, const c64out::ToolCommand& command, State state) {
   QEventLoop wait;
   // cppcheck-suppress danglingLifetime ; this pointer knows when the loop is gone
   wait_ = &wait;
@@ -90,7 +90,9 @@ c64out::ToolResult QtToolRunner::Wait(QProcess& process, const c64out::ToolComma
   process.setStandardInputFile(QProcess::nullDevice());
   SetCommand(process, command);
   process.start();
+  SetState(state);
   if (process.state() != QProcess::NotRunning) wait.exec();
+  SetState(State::kIdle);
   return {.stopped = process.state() != QProcess::NotRunning, .failure = {}};
 }
 
@@ -102,7 +104,7 @@ c64out::ToolResult QtToolRunner::RunAndWait(const c64out::ToolCommand& command) 
     const QByteArray part = process.readAll();
     output += part.left(kMostOutput - output.size());
   });
-  c64out::ToolResult result = Wait(process, command);
+  c64out::ToolResult result = Wait(process, command, State::kWorking);
   if (result.stopped) {
     End(process);
   } else {
@@ -117,9 +119,7 @@ c64out::ToolResult QtToolRunner::ShowAndWait(const c64out::ToolCommand& command)
   Child process;
   process.setProcessChannelMode(QProcess::MergedChannels);
   if (output.open()) process.setStandardOutputFile(output.fileName());
-  SetShowing(true);
-  c64out::ToolResult result = Wait(process, command);
-  SetShowing(false);
+  c64out::ToolResult result = Wait(process, command, State::kShowing);
   if (result.stopped) {
     process.LeaveRunning();
   } else {
@@ -128,9 +128,9 @@ c64out::ToolResult QtToolRunner::ShowAndWait(const c64out::ToolCommand& command)
   return {.stopped = false, .failure = result.failure};
 }
 
-void QtToolRunner::SetShowing(bool showing) {
-  is_showing_ = showing;
-  emit ShowingChanged();
+void QtToolRunner::SetState(State state) {
+  state_ = state;
+  emit StateChanged();
 }
 
 void QtToolRunner::Stop() {

@@ -25,18 +25,21 @@ class QtToolRunner final : public QObject, public c64out::ToolRunner {
 
   // Ends the wait: a tool is ended with all that it started, a program that the user looks at is left running.
   void Stop();
-  bool IsShowing() const { return is_showing_; }
+
+  // A tool is at work, or a program that the user looks at is waited for.
+  bool IsBusy() const { return state_ == State::kWorking; }
+  bool IsShowing() const { return state_ == State::kShowing; }
 
  signals:
-  // A program is there for the user to look at, from now on or no longer.
-  void ShowingChanged();
+  void StateChanged();
 
  private:
-  void SetShowing(bool showing);
-  c64out::ToolResult Wait(QProcess& process, const c64out::ToolCommand& command);
+  enum class State { kIdle, kWorking, kShowing };
+  void SetState(State state);
+  c64out::ToolResult Wait(QProcess& process, const c64out::ToolCommand& command, State state);
 
   QPointer<QEventLoop> wait_;
-  bool is_showing_ = false;
+  State state_ = State::kIdle;
 };
 
 }  // namespace kelvo::ui

@@ -1,5 +1,7 @@
 #include "ui/recovery_desk.h"
 
+#include <QLockFile>
+
 #include "files/rescue_copy.h"
 
 namespace kelvo::ui {
@@ -31,7 +33,8 @@ bool RecoveryDesk::Offer() {
 bool RecoveryDesk::OfferCopyOf(int number) {
   const files::RecoveryFiles left(with_.folders, number);
   const auto document = left.Read();
-  if (!document || !slot_.IsFree(number)) return false;
+  const auto lock = number == slot_.Number() ? nullptr : slot_.TryLock(number);
+  if (!document || (lock == nullptr && number != slot_.Number())) return false;
   const std::string name = document->file.HasFile() ? document->file.CurrentFileName : "unnamed";
   const bool is_wanted =
       with_.messages.Ask("Kelvo ended without saving the picture " + name +

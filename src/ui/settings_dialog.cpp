@@ -38,8 +38,20 @@ QLineEdit* SettingsDialog::AddText(const app::Setting& setting, const QString& l
   line->setAccessibleName(QString(label).remove('&'));
   line->setToolTip(hint);
   form_->addRow(label, line);
+  if (fields_.empty()) line->setFocus();
   fields_.push_back({setting, [line] { return line->text().trimmed(); }});
   return line;
+}
+
+void SettingsDialog::AddBeside(QLineEdit& field, QAbstractButton* button) {
+  auto* row = new QHBoxLayout;
+  int place = 0;
+  QFormLayout::ItemRole role{};
+  form_->getWidgetPosition(&field, &place, &role);
+  form_->removeWidget(&field);
+  row->addWidget(&field);
+  row->addWidget(button);
+  form_->setLayout(place, role, row);
 }
 
 void SettingsDialog::AddHint(const QString& text) {

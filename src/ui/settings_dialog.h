@@ -1,6 +1,7 @@
 // A dialog that edits a few settings: fields are filled when it opens and stored by its button.
 #pragma once
 
+#include <QAbstractButton>
 #include <QCheckBox>
 #include <QDialog>
 #include <QFormLayout>
@@ -24,6 +25,9 @@ class SettingsDialog : public QDialog {
 
   // A text field, stored trimmed of surrounding blanks.
   QLineEdit* AddText(const app::Setting& setting, const QString& label, const QString& hint = {});
+
+  // A button that helps to fill a field, at its right.
+  void AddBeside(QLineEdit& field, QAbstractButton* button);
 
   // A line of explanation below the fields.
   void AddHint(const QString& text);

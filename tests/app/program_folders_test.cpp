@@ -27,22 +27,26 @@ TEST(ProgramFolders, AreSeededWithoutTouchingTheUsersFiles) {
   EXPECT_TRUE(std::filesystem::is_directory(folders.Backup()));
 }
 
-TEST(ProgramFolders, TakeNewerToolsAndTemplates) {
+TEST(ProgramFolders, TakeAllNewToolsAndTemplatesAndKeepTheOldOnes) {
   const support::TempFolder folder;
   std::filesystem::create_directories(folder / "shipped/SYSTEM");
   const ProgramFolders folders(folder / "program");
   folders.Create();
-  const auto now = std::filesystem::file_time_type::clock::now();
-  for (const char* name : {"newer", "older"}) {
-    support::WriteText(folder / "shipped/SYSTEM" / name, "shipped");
-    support::WriteText(folders.System() / name, "own");
-    last_write_time(folders.System() / name, now);
-  }
-  last_write_time(folder / "shipped/SYSTEM/newer", now + std::chrono::hours(1));
-  last_write_time(folder / "shipped/SYSTEM/older", now - std::chrono::hours(1));
-  folders.Seed(folder / "shipped");
-  EXPECT_EQ(support::ReadText(folders.System() / "newer"), "shipped");
-  EXPECT_EQ(support::ReadText(folders.System() / "older"), "own");
+  const auto ship = [&](std::string_view version) {
+    support::WriteText(folder / "shipped/SYSTEM/shipped.txt", version);
+    support::WriteText(folder / "shipped/SYSTEM/template", std::string("template ") + std::string(version));
+    folders.Seed(folder / "shipped");
+  };
+  const auto here = [&](const char* name) { return support::ReadText(folders.System() / name); };
+  ship("1");
+  EXPECT_EQ(here("template"), "template 1");
+  support::WriteText(folders.System() / "template", "the user's");
+  ship("1");
+  EXPECT_EQ(here("template"), "the user's");
+  ship("2");
+  EXPECT_EQ(here("template"), "template 2");
+  EXPECT_EQ(here("template.old"), "the user's");
+  EXPECT_EQ(here("shipped.txt"), "2");
 }
 
 TEST(ProgramFolders, LieBesideTheProgramOnlyWhereThatCanBeWritten) {

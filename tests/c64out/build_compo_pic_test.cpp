@@ -63,7 +63,8 @@ class BuildCompoPicTest : public testing::Test {
   }
 
   bool Build(const CompoPicChoice& choice) {
-    return BuildCompoPic(document, choice, {folders, settings, clock, log, messages, prompt, tools});
+    return BuildCompoPic(document, choice, {folders, settings, clock, log, messages, prompt, tools}) ==
+           BuildOutcome::kDone;
   }
   std::string System(std::string_view name) const { return app::TextFromPath(folders.System() / name); }
   Lines FilesIn(const std::filesystem::path& place) const {
@@ -133,6 +134,16 @@ TEST_F(BuildCompoPicTest, SendsToTheC64WithoutVice) {
   EXPECT_TRUE(messages.shown.empty());
 }
 
+TEST_F(BuildCompoPicTest, APrgThatIsNoProgramIsKeptInBackup) {
+  support::WriteText(folder / "art/My Pic.prg", "a picture");
+  EXPECT_TRUE(Build(kPrg));
+  ASSERT_EQ(FilesIn(folders.Backup()).size(), 1U);
+  EXPECT_EQ(support::ReadText(folders.Backup() / FilesIn(folders.Backup()).front()), "a picture");
+  support::WriteFile(folder / "art/My Pic.prg", {0x01, 0x08, 1, 2});
+  EXPECT_TRUE(Build(kPrg));
+  EXPECT_EQ(FilesIn(folders.Backup()).size(), 2U);  // the snapshot's backup alone came
+}
+
 TEST_F(BuildCompoPicTest, ANameWithoutADotGivesAnEmptyBaseName) {
   document.file = files::SetFileParameters(app::TextFromPath(folder / "art/picture"));
   EXPECT_TRUE(Build(kPrg));
@@ -196,6 +207,9 @@ TEST_F(BuildCompoPicTest, WhateverFailsIsToldAndLeavesTheOlderResult) {
       {"no blank disk", kD64, remove_tool("empty.d64"), "empty.d64"},
       {"disk tool fails", kD64, fail("c1541", {.failure = "ended with code 1"}), "c1541: ended with code 1"},
       {"emulator fails", kVice, fail("x64sc", {.failure = "no ROMs"}), "x64sc: no ROMs"},
+      {"no C64 that listens", kPreview, fail("codenet", {.failure = "nobody answers"}), "codenet: nobody answers"},
+      {"a name that disks cannot hold", kD64,
+       [this] { document.file = files::SetFileParameters(app::TextFromPath(folder / "art/a:b.kvp")); }, "c1541: "},
       {"a name like an option", kD64,
        [this] { document.file = files::SetFileParameters(app::TextFromPath(folder / "art/-format.kvp")); }, "c1541: "},
   };

@@ -49,7 +49,9 @@ app::Bytes BuildPictureProgram(const std::filesystem::path& folder, const model:
   const files::Document document{.picture = picture,
                                  .file = files::SetFileParameters(app::TextFromPath(folder / "picture.kvp"))};
   const c64out::CompoPicChoice choice{.MakePrg = true, .ViaCodenet = start == StartedBy::kNetwork};
-  if (!c64out::BuildCompoPic(document, choice, {folders, settings, clock, log, messages, prompt, tools})) return {};
+  const c64out::BuildOutcome outcome =
+      c64out::BuildCompoPic(document, choice, {folders, settings, clock, log, messages, prompt, tools});
+  if (outcome != c64out::BuildOutcome::kDone) return {};
   return start == StartedBy::kNetwork ? tools.sent : ReadFile(folder / "picture.prg");
 }
 

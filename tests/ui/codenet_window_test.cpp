@@ -108,6 +108,24 @@ TEST_F(CodenetWindowTest, SaysWhatIsWrongAndCanSendAgain) {
   EXPECT_EQ(Outcome(), "Transfer complete.");
 }
 
+TEST_F(CodenetWindowTest, IsFilledInByKeyboard) {
+  Open();
+  QLineEdit* host = Text(5);
+  host->setText("999.0.0.1");
+  host->setCursorPosition(0);
+  for (int key = 0; key < 3; ++key) QTest::keyClick(host, Qt::Key_Delete);
+  QTest::keyClicks(host, "127 ");
+  EXPECT_EQ(host->text(), "127 .0.0.1");
+  host->setCursorPosition(0);
+  QTest::keyClicks(host, " ");
+  EXPECT_EQ(host->text(), "127 .0.0.1");
+  Text(2)->setText(ToQt(File("a.prg", {0, 0xC0, 1})));
+  Control("cmdExit")->setFocus();
+  QTest::keyClick(Control("cmdExit"), Qt::Key_Return);  // presses this button, not the default one
+  EXPECT_FALSE(window->isVisible());
+  EXPECT_EQ(server.Machine().packets, 0);
+}
+
 TEST_F(CodenetWindowTest, ATransferCanBeStopped) {
   Open();
   const support::CodenetServer deaf({.vanishes_after = 1});
@@ -115,6 +133,7 @@ TEST_F(CodenetWindowTest, ATransferCanBeStopped) {
   Text(2)->setText(ToQt(File("long.prg", support::CountingBytes(2000))));
   QTimer::singleShot(300, window, [this] {
     EXPECT_FALSE(Control("cmdSend")->isEnabled());
+    EXPECT_FALSE(Action("mnuShowPreviewOnC64")->isEnabled());
     QTest::keyClick(window, Qt::Key_Escape);
   });
   Control("cmdSend")->click();

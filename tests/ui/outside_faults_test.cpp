@@ -1,6 +1,7 @@
 // What the program finds around it when it starts: settings full of nonsense, none at all, other programs in its
 // folder.
 #include <QCoreApplication>
+#include <QLockFile>
 #include <QScreen>
 #include <QSettings>
 #include <optional>
@@ -109,10 +110,10 @@ TEST_F(ProgramSlotTest, ProgramsOnOneFolderHaveNumbersOfTheirOwn) {
   EXPECT_EQ(first.Number(), 1);
   EXPECT_EQ(second->Number(), 2);
   EXPECT_EQ(third.Number(), 3);
-  EXPECT_FALSE(first.IsFree(2));
-  EXPECT_TRUE(first.IsFree(1) && first.IsFree(4));
+  EXPECT_EQ(first.TryLock(2), nullptr);
+  EXPECT_NE(first.TryLock(4), nullptr);
   second.reset();
-  EXPECT_TRUE(first.IsFree(2));
+  EXPECT_NE(first.TryLock(2), nullptr);
   EXPECT_EQ(ProgramSlot(folders).Number(), 2);
 }
 

@@ -1,0 +1,10 @@
+# Writes FOLDER/shipped.txt: the name and the contents' hash of each file there.
+file(GLOB files LIST_DIRECTORIES false ${FOLDER}/*)
+list(FILTER files EXCLUDE REGEX "/(shipped.txt|empty.d64)$")
+set(text "")
+foreach(file ${files})
+  cmake_path(GET file FILENAME name)
+  file(SHA256 ${file} hash)
+  string(APPEND text "${hash} ${name}\n")
+endforeach()
+file(WRITE ${FOLDER}/shipped.txt "${text}")
