@@ -137,7 +137,13 @@ class Monkey : public MainFrameTest {
     if (!frame->isVisible()) frame->show();
   }
 
+  // While frames play, the full view shows them instead.
+  void StopPlaying() {
+    auto* play = Find<QAbstractButton>("cmdPlay");
+    if (play != nullptr && play->text().contains("Stop")) play->click();
+  }
   void ExpectTheViewShowsThePicture() {
+    StopPlaying();
     QApplication::processEvents();
     model::Surface expected(model::kFullViewWidth, model::kFullViewHeight);
     app::NoProgress no_progress;
