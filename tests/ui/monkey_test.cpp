@@ -2,6 +2,7 @@
 // than the picture in memory. KELVO_MONKEY_EVENTS and KELVO_MONKEY_SEED say how long and which.
 #include <QAbstractButton>
 #include <QDialog>
+#include <QDir>
 #include <QDrag>
 #include <QLineEdit>
 #include <QWheelEvent>
@@ -27,6 +28,7 @@ class Monkey : public MainFrameTest {
  protected:
   Monkey() {
     settings.values["CodenetSettings/C64IP"] = settings.values["CodenetGUI/C64IP"] = "127.0.0.1";
+    QDir::setCurrent(ToQt(app::TextFromPath(folder.Path())));  // what it saves under bare names goes there
     Start();
     AnswerSoon();
   }
