@@ -4,10 +4,12 @@
 #include <QDialog>
 #include <QDir>
 #include <QDrag>
+#include <QFileDialog>
 #include <QLineEdit>
 #include <QWheelEvent>
 #include <random>
 
+#include "files/picture_format.h"
 #include "main_frame_fixture.h"
 #include "model/full_view.h"
 #include "ui/frm_bmp_view.h"
@@ -28,9 +30,21 @@ class Monkey : public MainFrameTest {
  protected:
   Monkey() {
     settings.values["CodenetSettings/C64IP"] = settings.values["CodenetGUI/C64IP"] = "127.0.0.1";
-    QDir::setCurrent(ToQt(app::TextFromPath(folder.Path())));  // what it saves under bare names goes there
+    QDir::setCurrent(OwnFolder());  // what it saves under bare names goes there
+    for (const int number : {1, 2, 4}) {
+      const auto name = "a000" + std::to_string(number) + ".kvp";
+      support::WriteFile(folder / name, files::Encode(support::RandomPicture(static_cast<unsigned>(number))));
+    }
+    OfferFrames();
     Start();
     AnswerSoon();
+  }
+
+  QString OwnFolder() const { return ToQt(app::TextFromPath(folder.Path())); }
+  // It types other texts into the settings than those under which there are frames.
+  void OfferFrames() {
+    settings.values["AnimProperties/Folder"] = FromQt(OwnFolder() + '/');
+    settings.values["AnimProperties/AnimPrefix"] = "a";
   }
 
   static int FromEnvironment(const char* name, int otherwise) {
@@ -114,6 +128,7 @@ class Monkey : public MainFrameTest {
     QDrag::cancel();
     auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
     if (dialog == nullptr) return;
+    if (qobject_cast<QFileDialog*>(dialog) != nullptr) return AnswerWithAFile(*dialog);
     const auto fields = dialog->findChildren<QLineEdit*>();
     const auto buttons = dialog->findChildren<QAbstractButton*>();
     switch (Random(4)) {
@@ -129,6 +144,15 @@ class Monkey : public MainFrameTest {
     }
   }
 
+  // Never anywhere but in its own folder: nothing of the machine's is at risk.
+  void AnswerWithAFile(QDialog& dialog) {
+    if (Random(2) == 0) return dialog.reject();
+    const QStringList here = QDir(OwnFolder()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
+    const QString name = here.isEmpty() || Random(2) == 0 ? QString("pic%1").arg(Random(4)) : OneOf(here);
+    dialog.findChild<QLineEdit*>("fileNameEdit")->setText(QDir(OwnFolder()).filePath(name));
+    QTest::keyClick(&dialog, Qt::Key_Return);
+  }
+
   void DoAnything() {
     const int kind = Random(100);
     if (kind < 55) return Mouse();
@@ -139,12 +163,14 @@ class Monkey : public MainFrameTest {
     if (!frame->isVisible()) frame->show();
   }
 
-  // While frames play, the full view shows them instead.
+  // While frames play, the full view shows them instead. A closed animation window may still be there beside a new one.
   void StopPlaying() {
-    auto* play = Find<QAbstractButton>("cmdPlay");
-    if (play != nullptr && play->text().contains("Stop")) play->click();
+    for (auto* play : frame->findChildren<QAbstractButton*>("cmdPlay")) {
+      if (play->text().contains("Stop")) play->click(), ++plays;
+    }
   }
   void ExpectTheViewShowsThePicture() {
+    OfferFrames();
     StopPlaying();
     QApplication::processEvents();
     model::Surface expected(model::kFullViewWidth, model::kFullViewHeight);
@@ -158,6 +184,7 @@ class Monkey : public MainFrameTest {
     }
   }
 
+  int plays = 0;
   std::mt19937 random_;
   QObject lifetime_;
 };
@@ -177,6 +204,7 @@ TEST_F(Monkey, NeitherCrashesNorHangsNorConfusesTheViews) {
     before = frame->Document().picture;
   }
   EXPECT_GT(changes, 0) << "it has not painted";
+  std::cout << changes << " changes and " << plays << " animations seen at the checks" << std::endl;
   frame->Files().New();  // nothing is left to be asked for
 }
 
