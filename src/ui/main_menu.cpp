@@ -12,6 +12,7 @@ MainMenu::MainMenu(MainFrame& frame) : frame_(frame) {
     auto* menu = new QMenu(row.text, &frame);
     menu->setObjectName(row.name);
     menu->setStatusTip(row.tip);
+    menu->setToolTipsVisible(true);  // what an entry lacks that cannot be chosen
     if (row.parent == nullptr) frame.menuBar()->addMenu(menu);
     menus_.insert(row.name, menu);
   }
@@ -42,7 +43,9 @@ void MainMenu::Refresh() const {
   for (const MenuEntry& entry : MenuEntries()) {
     QAction* action = actions_.value(entry.name);
     if (action == nullptr) continue;
-    action->setEnabled(entry.can == nullptr || entry.can(frame_));
+    const bool can = entry.can == nullptr || entry.can(frame_);
+    action->setEnabled(can);
+    action->setToolTip(can ? nullptr : entry.lack);
     if (entry.is_checked != nullptr) action->setChecked(entry.is_checked(frame_));
   }
 }

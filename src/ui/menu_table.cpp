@@ -52,7 +52,11 @@ constexpr MenuEntry BuildEntry(const char* key = "") {
           [](const MainFrame& f) {
             return f.Builds().IsFree() &&
                    (f.Builds().IsViceReady() || c64out::kCompoPicEntries[index].choice.ViaCodenet);
-          }};
+          },
+          nullptr,
+          nullptr,
+          entry.choice.ViaCodenet ? "Not while a build is at work"
+                                  : "It needs VICE, set in VICE settings, and no other build at work"};
 }
 
 constexpr MenuEntry Separator(const char* menu) {

@@ -25,6 +25,7 @@ struct MenuEntry {
   bool (*can)(const MainFrame&) = nullptr;         // null: always
   bool (*is_checked)(const MainFrame&) = nullptr;  // null: the entry carries no check mark
   const char* icon = nullptr;                      // its file's name; null: none
+  const char* lack = nullptr;                      // said while it cannot be chosen; null: nothing
 };
 
 std::span<const MenuRow> Menus();
