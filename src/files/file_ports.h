@@ -20,7 +20,7 @@ class FileDialogs {
   virtual ~FileDialogs() = default;
   // "Select file" with OpenFilter(), starting in `folder`.
   virtual std::optional<ChosenFile> SelectFile(const std::string& folder) = 0;
-  // "Save Kelvo-file", proposing `path`; the answer ends in ".kvp", added where the user typed no such ending.
+  // "Save Kelvo-file", proposing `path`. A file of just the answer's name may be replaced: the dialog has asked.
   virtual std::optional<std::string> SaveAs(const std::string& path) = 0;
 };
 

@@ -1,6 +1,7 @@
 #include "files/picture_files.h"
 
 #include "app/path_text.h"
+#include "app/utf8.h"
 #include "app/whole_file.h"
 #include "files/load_picture.h"
 #include "files/picture_format.h"
@@ -14,6 +15,14 @@ namespace fs = std::filesystem;
 bool IsThere(std::string_view path) {
   std::error_code ignored;
   return fs::exists(app::PathFromText(path), ignored);
+}
+
+constexpr std::size_t kExtensionSize = 4;  // with its dot
+
+// Saving replaces an extension of three characters. Another ending belongs to the name.
+std::string WithExtension(const std::string& path) {
+  const std::string extension = app::TextFromPath(app::PathFromText(path).extension());
+  return app::CharactersOf(extension).size() == kExtensionSize ? path : path + ".kvp";
 }
 
 // What a file that a person did not choose with a filter is read as.
@@ -81,9 +90,7 @@ bool PictureFiles::Reload() {
 
 bool PictureFiles::Save() {
   if (!document_.file.HasFile()) return SaveAs();
-  const std::string& path = document_.file.CurrentFilePath;
-  const std::string target = path.size() < 4 ? path : SavedName(path);
-  if (target != path && IsThere(target) && !with_.messages.Ask(target + " exists already. Replace it?")) return false;
+  if (!MayWrite(document_.file.CurrentFilePath, document_.file.CurrentFilePath)) return false;
   with_.prompt.CommandPromptList("SAVE " + document_.file.CurrentFileName);
   return SaveTo("");
 }
@@ -91,8 +98,16 @@ bool PictureFiles::Save() {
 bool PictureFiles::SaveAs() {
   const std::string proposal =
       document_.file.HasFile() ? document_.file.CurrentFilePath : FolderForDialogs() + "/unnamed.kvp";
-  const auto path = with_.dialogs.SaveAs(proposal);
-  return path && SaveTo(*path);
+  const auto chosen = with_.dialogs.SaveAs(proposal);
+  if (!chosen) return false;
+  const std::string path = WithExtension(*chosen);
+  return MayWrite(path, *chosen) && SaveTo(path);
+}
+
+// Saving under `path` may write another file than the one that was chosen: none is replaced unasked.
+bool PictureFiles::MayWrite(const std::string& path, const std::string& chosen) {
+  const std::string target = path.size() < kExtensionSize ? path : SavedName(path);
+  return target == chosen || !IsThere(target) || with_.messages.Ask(target + " exists already. Replace it?");
 }
 
 bool PictureFiles::SaveTo(std::string_view path) {

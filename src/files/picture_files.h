@@ -75,6 +75,7 @@ class PictureFiles {
   void TellFailedLoad(std::string_view path, const std::string& why, OnFailure on_failure);
   void TakeOver(const model::PictureImage& picture, const CurrentFile& file);
   bool MayThrowAwayPicture();
+  bool MayWrite(const std::string& path, const std::string& chosen);
   std::string FolderForDialogs() const;
 
   Document& document_;

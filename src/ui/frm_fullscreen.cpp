@@ -20,8 +20,8 @@ void frmFullscreen::paintEvent(QPaintEvent*) {
   QPainter(this).drawImage(rect(), picture_);  // nearest neighbour: pixels stay sharp
 }
 
-void frmFullscreen::keyPressEvent(QKeyEvent*) {
-  key_was_pressed_here_ = true;
+void frmFullscreen::keyPressEvent(QKeyEvent* event) {
+  if (!event->isAutoRepeat()) key_was_pressed_here_ = true;
 }
 
 void frmFullscreen::keyReleaseEvent(QKeyEvent* event) {

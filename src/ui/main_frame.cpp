@@ -70,7 +70,6 @@ MainFrame::MainFrame(const app::ProgramFolders& folders, app::SettingsStore& set
   setCentralWidget(area_);
   resize(kFirstSize);
   setAcceptDrops(true);
-  qApp->installEventFilter(this);
   addToolBar(Toolbar1_);
   MakeChildren();
   MakeChoiceMenus();
@@ -293,26 +292,14 @@ void MainFrame::Timer1_Timer() {
   recovery_.Tick();
 }
 
-// Notes every press, also one that a menu shortcut takes.
-bool MainFrame::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress) {
-    const auto* press = static_cast<QKeyEvent*>(event);
-    pressed_with_.insert(press->key(), press->modifiers());
-    if (press->key() == Qt::Key_Escape) {
-      escape_is_ours_ = QApplication::activePopupWidget() == nullptr && QApplication::activeModalWidget() == nullptr;
-    }
-  }
-  return QMainWindow::eventFilter(watched, event);
-}
-
 void MainFrame::keyReleaseEvent(QKeyEvent* event) {
-  if (event->key() == Qt::Key_Escape && escape_is_ours_ && builds_.IsBuilding()) return builds_.Stop();
+  if (event->key() == Qt::Key_Escape && builds_.IsBuilding()) return builds_.Stop();
   const QWidget* focus = focusWidget();
   const bool in_tool_window =
       colors_->isAncestorOf(focus) || char_data_->isAncestorOf(focus) || pens_->isAncestorOf(focus);
   if (event->key() == Qt::Key_Escape && in_tool_window) return GiveFocusToPicture();
   // Ctrl+R with Ctrl let go first is still Ctrl+R, not the pen of R.
-  const Qt::KeyboardModifiers modifiers = event->modifiers() | pressed_with_.take(event->key());
+  const Qt::KeyboardModifiers modifiers = event->modifiers() | keys_.HeldAtPress(event->key());
   if (!desk_.HandleKeyUp(event->key(), modifiers)) QMainWindow::keyReleaseEvent(event);
 }
 

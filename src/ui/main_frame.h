@@ -1,7 +1,6 @@
 // The main window: it holds the child windows and the menus, and turns what the user does into calls.
 #pragma once
 
-#include <QHash>
 #include <QMainWindow>
 #include <QTimer>
 #include <array>
@@ -24,6 +23,7 @@
 #include "ui/frm_command.h"
 #include "ui/frm_pens.h"
 #include "ui/frm_zoom.h"
+#include "ui/key_guard.h"
 #include "ui/main_menu.h"
 #include "ui/paint_tool_bar.h"
 #include "ui/painting_desk.h"
@@ -94,7 +94,6 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   void closeEvent(QCloseEvent* event) override;
   void keyReleaseEvent(QKeyEvent* event) override;
   void changeEvent(QEvent* event) override;
-  bool eventFilter(QObject* watched, QEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dropEvent(QDropEvent* event) override;
 
@@ -123,8 +122,7 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
 
   PromptLines prompt_;
   QString last_command_;
-  QHash<int, Qt::KeyboardModifiers> pressed_with_;  // by key: what was held when it was pressed
-  bool escape_is_ours_ = false;                     // it was pressed while no menu and no dialog was open
+  KeyGuard keys_;
 
   QMdiArea* area_;
   frmBMPView* full_view_;

@@ -8,6 +8,7 @@
 #include <array>
 #include <stdexcept>
 
+#include "ui/qt_messages.h"
 #include "ui/qt_text.h"
 
 namespace kelvo::ui {
@@ -17,21 +18,26 @@ struct ImageFormat {
   const char* caption;
   const char* pattern;
   const char* ending;
-  const char* qt_name;
 };
 
 constexpr std::array<ImageFormat, 3> kFormats{{
-    {"PNG image", "*.png", ".png", "PNG"},
-    {"JPEG image", "*.jpg *.jpeg", ".jpg", "JPG"},
-    {"BMP image", "*.bmp", ".bmp", "BMP"},
+    {"PNG image", "*.png", "png"},
+    {"JPEG image", "*.jpg *.jpeg", "jpg"},
+    {"BMP image", "*.bmp", "bmp"},
 }};
 
 constexpr std::array<int, 3> kSizes{1, 2, 4};
 constexpr int kBestQuality = 100;
 
-}  // namespace
+// What a filter's position in the dialog stands for.
+const ImageFormat& FormatOf(qsizetype filter) {
+  return kFormats.at(static_cast<std::size_t>(filter) / kSizes.size());
+}
+int SizeOf(qsizetype filter) {
+  return kSizes.at(static_cast<std::size_t>(filter) % kSizes.size());
+}
 
-QStringList ScreenshotFilters() {
+QStringList Filters() {
   QStringList filters;
   for (const ImageFormat& format : kFormats) {
     for (const int size : kSizes) {
@@ -41,13 +47,23 @@ QStringList ScreenshotFilters() {
   return filters;
 }
 
-void SaveScreenshot(const QImage& picture, const QString& path, qsizetype filter) {
-  const ImageFormat& format = kFormats.at(static_cast<std::size_t>(filter) / kSizes.size());
-  const int size = kSizes.at(static_cast<std::size_t>(filter) % kSizes.size());
-  QSaveFile file(QFileInfo(path).suffix().isEmpty() ? path + format.ending : path);
+bool MayReplace(const QString& path, QWidget* parent) {
+  return !QFileInfo::exists(path) || QtMessages(parent).Ask(FromQt(path + " exists already. Replace it?"));
+}
+
+}  // namespace
+
+QString WithImageEnding(const QString& path, const QString& ending) {
+  static const QStringList kKnown{"png", "jpg", "jpeg", "bmp"};
+  return kKnown.contains(QFileInfo(path).suffix(), Qt::CaseInsensitive) ? path : path + '.' + ending;
+}
+
+void SaveScreenshot(const QImage& picture, const QString& path, int size) {
+  QSaveFile file(path);
   QImage scaled(picture.size() * size, QImage::Format_RGB32);
   QPainter(&scaled).drawImage(scaled.rect(), picture);
-  if (!file.open(QIODevice::WriteOnly) || !scaled.save(&file, format.qt_name, kBestQuality) || !file.commit()) {
+  const QByteArray format = QFileInfo(path).suffix().toLatin1();
+  if (!file.open(QIODevice::WriteOnly) || !scaled.save(&file, format.constData(), kBestQuality) || !file.commit()) {
     throw std::runtime_error(FromQt(file.fileName() + ": it cannot be written: " + file.errorString()));
   }
 }
@@ -55,10 +71,16 @@ void SaveScreenshot(const QImage& picture, const QString& path, qsizetype filter
 void mnuSaveJPG(const QImage& picture, const QString& proposal, QWidget* parent) {
   QFileDialog dialog(parent, "Save picture as screenshot", QFileInfo(proposal).absolutePath());
   dialog.setAcceptMode(QFileDialog::AcceptSave);
-  dialog.setNameFilters(ScreenshotFilters());
+  dialog.setNameFilters(Filters());
+  const auto filter = [&dialog] { return dialog.nameFilters().indexOf(dialog.selectedNameFilter()); };
+  const auto take_ending = [&] { dialog.setDefaultSuffix(FormatOf(filter()).ending); };
+  QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, take_ending);
+  take_ending();
   dialog.selectFile(QFileInfo(proposal).completeBaseName());
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return;
-  SaveScreenshot(picture, dialog.selectedFiles().first(), dialog.nameFilters().indexOf(dialog.selectedNameFilter()));
+  const QString chosen = dialog.selectedFiles().first();  // the dialog has asked before a file of this name is replaced
+  const QString path = WithImageEnding(chosen, FormatOf(filter()).ending);
+  if (path == chosen || MayReplace(path, parent)) SaveScreenshot(picture, path, SizeOf(filter()));
 }
 
 }  // namespace kelvo::ui

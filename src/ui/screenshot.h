@@ -11,11 +11,11 @@ namespace kelvo::ui {
 // Asks for a name, a format and a size, and saves `picture` (320 x 200). Throws std::runtime_error when that fails.
 void mnuSaveJPG(const QImage& picture, const QString& proposal, QWidget* parent);
 
-// The formats and sizes of the dialog, as its filter texts: PNG, JPEG and BMP at 1x, 2x and 4x.
-QStringList ScreenshotFilters();
+// `path` where its ending is an image format's: png, jpg, jpeg or bmp; else with `.` and `ending` behind it.
+QString WithImageEnding(const QString& path, const QString& ending);
 
-// Saves `picture` as the filter at `filter` says, to `path`, whose ending is added where it has none. Throws
-// std::runtime_error when the file cannot be written.
-void SaveScreenshot(const QImage& picture, const QString& path, qsizetype filter);
+// Saves `picture` at `size` times its own to `path`, whose ending says the format. Throws std::runtime_error when the
+// file cannot be written.
+void SaveScreenshot(const QImage& picture, const QString& path, int size);
 
 }  // namespace kelvo::ui

@@ -4,6 +4,7 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <QWheelEvent>
+#include <algorithm>
 #include <cmath>
 
 namespace kelvo::ui {
@@ -25,7 +26,7 @@ SurfaceView::SurfaceView(model::Surface& surface, int unit, QWidget* parent)
 
 double SurfaceView::Scale() const {
   const double device = devicePixelRatioF();
-  return std::floor(device * unit_) / unit_ / device;
+  return std::max(std::floor(device * unit_), 1.0) / unit_ / device;
 }
 
 void SurfaceView::TakeScale() {

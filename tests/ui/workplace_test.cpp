@@ -1,6 +1,8 @@
 // The workplace: windows, menus, zoom by wheel, places, screenshots, and names for everything.
 #include <QAccessible>
 #include <QDragEnterEvent>
+#include <QFileDialog>
+#include <QImageReader>
 #include <QLineEdit>
 #include <QMdiSubWindow>
 #include <QMimeData>
@@ -128,17 +130,38 @@ TEST_F(WorkplaceTest, ScreenshotsHaveTheFormatAndSizeChosen) {
   QImage picture(320, 200, QImage::Format_RGB32);
   picture.fill(Qt::red);
   picture.setPixelColor(1, 0, Qt::blue);
-  for (qsizetype filter = 0; filter < ScreenshotFilters().size(); ++filter) {
-    const QString path = ToQt(app::TextFromPath(folder / ("shot" + std::to_string(filter))));
-    SaveScreenshot(picture, path, filter);
-    const QString ending = filter < 3 ? ".png" : filter < 6 ? ".jpg" : ".bmp";
-    const QImage saved(path + ending);
-    const int size = 1 << filter % 3;
-    EXPECT_EQ(saved.size(), picture.size() * size) << filter;
-    if (ending == ".jpg") continue;  // its colours are near ones
-    EXPECT_EQ(saved.pixelColor(2 * size - 1, size - 1), QColor(Qt::blue));
+  const QString name = ToQt(app::TextFromPath(folder / "castle.v2"));
+  const std::vector<std::pair<const char*, const char*>> kFormats{{"png", "png"}, {"jpg", "jpeg"}, {"bmp", "bmp"}};
+  for (const auto& [ending, format] : kFormats) {
+    const QString path = WithImageEnding(WithImageEnding(name, ending), "png");
+    SaveScreenshot(picture, path, 2);
+    QImageReader reader(name + '.' + ending);
+    EXPECT_EQ(reader.format(), format);
+    const QImage saved = reader.read();
+    EXPECT_EQ(saved.size(), picture.size() * 2);
+    const bool has_near_colours = QByteArray(format) == "jpeg";
+    EXPECT_TRUE(has_near_colours || saved.pixelColor(3, 1) == QColor(Qt::blue));
   }
-  EXPECT_THROW(SaveScreenshot(picture, "/gone/shot.png", 0), std::runtime_error);
+  EXPECT_THROW(SaveScreenshot(picture, "/gone/shot.png", 1), std::runtime_error);
+}
+
+// The dialogs ask about the name that was typed, which is not the name that is written here.
+TEST_F(WorkplaceTest, NoDialogReplacesAFileUnasked) {
+  support::WriteText(folder / "old.v2.png", "an older picture");
+  support::WriteText(folder / "old.kvp", "an older picture");
+  for (const auto& [entry, typed] : {std::pair{"mnuSaveJPG", "old.v2"}, std::pair{"mnuSaveAs", "old.txt"}}) {
+    QTimer::singleShot(0, [this, typed = typed] {
+      AnswerNext(QMessageBox::No);
+      auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+      dialog->findChild<QLineEdit*>("fileNameEdit")->setText(ToQt(app::TextFromPath(folder / typed)));
+      QTest::keyClick(dialog, Qt::Key_Return);
+    });
+    box_text.clear();
+    Action(entry)->trigger();
+    EXPECT_TRUE(box_text.endsWith("exists already. Replace it?")) << entry;
+  }
+  EXPECT_EQ(support::ReadText(folder / "old.v2.png"), "an older picture");
+  EXPECT_EQ(support::ReadText(folder / "old.kvp"), "an older picture");
 }
 
 TEST_F(WorkplaceTest, ADroppedFileIsOpened) {
