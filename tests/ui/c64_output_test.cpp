@@ -1,7 +1,4 @@
 // Builds from the menu of the real main window with the real tools: what comes out runs on a C64.
-#include <QDialog>
-#include <QLineEdit>
-#include <QListView>
 #include <QLockFile>
 #include <csignal>
 
@@ -34,7 +31,6 @@ class C64OutputTest : public MainFrameTest {
     if (!IsInstalled("64tass")) GTEST_SKIP() << "this needs 64tass";
     folders.Create();
     folders.Seed(KELVO_SHARE);
-    create_directories(art);
     create_directories(vice);
     if (IsInstalled("c1541")) support::RunTool("sh", {"-c", "ln -s $(command -v c1541) '" + vice.string() + "'"});
     Script(vice / "x64", "exit 0");
@@ -49,14 +45,9 @@ class C64OutputTest : public MainFrameTest {
     permissions(file, fs::perms::owner_all);
   }
   void Open(const std::string& name) {
+    create_directories(art);
     support::WriteFile(art / app::PathFromText(name), support::CountingBytes(10003));
     ASSERT_TRUE(frame->Files().OpenPicture(app::TextFromPath(art) + "/" + name));
-  }
-  QStringList PromptLines() const {
-    QStringList lines;
-    const auto* model = Find<QListView>("lstHistory")->model();
-    for (int row = 0; row < model->rowCount(); ++row) lines << model->index(row, 0).data().toString();
-    return lines;
   }
   void ExpectShows(const app::Bytes& prg) {
     support::C64Machine machine;
@@ -64,41 +55,34 @@ class C64OutputTest : public MainFrameTest {
     ASSERT_EQ(machine.Run(), support::C64Machine::Ending::kLoops);
     support::ExpectShows(machine, frame->Document().picture);
   }
-  // Does `work` once a build is under way, from within its event loop.
-  void WhileBuilding(std::function<void()> work) {
-    QTimer::singleShot(200, frame.get(), [this, work = std::move(work)] {
+  // Builds with a cruncher that hangs, and does `work` from within the event loop of that build.
+  template <typename Work>
+  void BuildHanging(Work work) {
+    Script(folders.System() / "crush", "sleep 60");
+    QTimer::singleShot(200, frame.get(), [this, work] {
       ASSERT_TRUE(frame->Builds().IsBuilding());
       work();
     });
+    Action("mnuCreatePRGCompopic")->trigger();
   }
 
   fs::path art = folder / "art", vice = folder / "vice";
 };
 
-TEST_F(C64OutputTest, MakesAProgramThatShowsThePicture) {
-  Open("my pic.koa");
-  Action("mnuCreatePRGCompopic")->trigger();
-  EXPECT_EQ(PromptLines().last(), "--> PRG complete.");
-  ExpectShows(support::ReadFile(art / "my pic.prg"));
+TEST_F(C64OutputTest, MakesAProgramThatShowsThePictureWhateverItsName) {
+  for (const std::string& name :
+       std::initializer_list<std::string>{"a b  c", "\"quoted\" 'too'", "$HOME", "a&b;touch x", "`touch y`",
+                                          "\u00e4\u00d6\u00fc", "*", "-rf", std::string(200, 'n')}) {
+    SCOPED_TRACE(name);
+    Open(name + ".koa");
+    Action("mnuCreatePRGCompopic")->trigger();
+    EXPECT_EQ(PromptLines().last(), "--> PRG complete.");
+    ExpectShows(support::ReadFile(art / app::PathFromText(name + ".prg")));
+    EXPECT_EQ(std::distance(fs::directory_iterator(art), {}), 2);
+    remove_all(art);
+  }
   EXPECT_TRUE(Action("mnuCreatePRGCompopic")->isEnabled());
   EXPECT_FALSE(Action("mnuStopBuild")->isEnabled());
-}
-
-TEST_F(C64OutputTest, TakesAnyNameOfAPicture) {
-  const std::string long_name(200, 'n');
-  for (const std::string& name :
-       {std::string("a b  c.koa"), std::string("\"quoted\" 'too'.koa"), std::string("$HOME.koa"),
-        std::string("a&b;touch x.koa"), std::string("`touch y`.koa"), std::string("\u00e4\u00d6\u00fc.koa"),
-        long_name + ".koa", std::string("*.koa"), std::string("-rf.koa")}) {
-    SCOPED_TRACE(name);
-    Open(name);
-    Action("mnuCreatePRGCompopic")->trigger();
-    const fs::path prg = art / app::PathFromText(name.substr(0, name.size() - 4) + ".prg");
-    EXPECT_GT(fs::file_size(prg), 1000U);
-    remove(prg);
-    remove(art / app::PathFromText(name));
-    EXPECT_TRUE(is_empty(art));
-  }
 }
 
 TEST_F(C64OutputTest, PutsTheProgramOnADiskAndShowsItInVice) {
@@ -189,23 +173,18 @@ TEST_F(C64OutputTest, AC64ShowsThePictureAndSavesIt) {
   EXPECT_EQ(c64.jumps, std::vector{0xCF00});
   support::C64Machine machine;
   support::KernalDisk disk(machine);
-  const std::string sys_line(
-      "\x01\x08\x0C\x08\x0A\0\x9E"
-      "52992\0\0\0",
-      15);
   machine.Load(memory(0x0801, end));
   machine.Load(memory(0xCF00, 0xD000));
-  machine.Load(app::Bytes(sys_line.begin(), sys_line.end()));
+  machine.Load(app::Bytes{1, 8, 12, 8, 10, 0, 0x9E, '5', '2', '9', '9', '2', 0, 0, 0});  // 10 SYS52992
   EXPECT_EQ(machine.Run(), support::C64Machine::Ending::kReturns);
   EXPECT_EQ(std::string(disk.name.begin(), disk.name.end()), "MY.PIC");
   EXPECT_EQ(disk.start, 0x0801);
   EXPECT_EQ(disk.end, end + 2);  // the program file's size counts its load address
 }
 
-TEST_F(C64OutputTest, AHangingToolCanBeStopped) {
+TEST_F(C64OutputTest, AHangingToolIsStoppedByEscapeOrTheEnd) {
   Open("pic.koa");
-  Script(folders.System() / "crush", "sleep 60");
-  WhileBuilding([this] {
+  BuildHanging([this] {
     QTest::keyPress(Box("frmZoom"), Qt::Key_Alt);
     Menu("mnuFile")->popup({});
     QTest::keyClick(Menu("mnuFile"), Qt::Key_Escape);  // closes the menu and no more
@@ -217,14 +196,19 @@ TEST_F(C64OutputTest, AHangingToolCanBeStopped) {
     Action("mnuCreateD64CompoPic")->trigger();  // an impatient click
     QTest::keyClick(Box("frmZoom"), Qt::Key_Escape);
   });
-  Action("mnuCreatePRGCompopic")->trigger();
   EXPECT_EQ(PromptLines().last(), "--> Build stopped.");
   EXPECT_FALSE(Find("frmCommand")->isVisible());
   EXPECT_FALSE(exists(art / "pic.prg"));
   EXPECT_TRUE(Action("mnuCreatePRGCompopic")->isEnabled());
+  BuildHanging([this] { frame->close(); });
+  EXPECT_FALSE(frame->isVisible());
+  EXPECT_EQ(PromptLines().filter("--> Build stopped.").size(), 2);
 }
 
 TEST_F(C64OutputTest, TwoProgramsDoNotBuildInEachOthersFiles) {
+  InNextDialog([](QDialog& dialog) { dialog.reject(); });
+  Action("mnuCreatePRGCompopic")->trigger();  // a picture without a file is saved first
+  EXPECT_FALSE(PromptLines().contains("CREATING PRG"));
   Open("pic.koa");
   QLockFile other(ToQt(app::TextFromPath(folders.System() / "build.lock")));
   ASSERT_TRUE(other.tryLock(0));
@@ -237,70 +221,33 @@ TEST_F(C64OutputTest, TwoProgramsDoNotBuildInEachOthersFiles) {
   EXPECT_EQ(PromptLines().last(), "--> PRG complete.");
 }
 
-TEST_F(C64OutputTest, ClosingEndsABuild) {
-  Open("pic.koa");
-  Script(folders.System() / "crush", "sleep 60");
-  WhileBuilding([this] { frame->close(); });
-  Action("mnuCreatePRGCompopic")->trigger();
-  EXPECT_FALSE(frame->isVisible());
-  EXPECT_EQ(PromptLines().last(), "--> Build stopped.");
-}
-
-TEST_F(C64OutputTest, APictureWithoutAFileIsSavedFirst) {
-  QTimer::singleShot(0, [] {
-    auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-    ASSERT_NE(dialog, nullptr);
-    dialog->reject();
-  });
-  Action("mnuCreatePRGCompopic")->trigger();
-  EXPECT_FALSE(PromptLines().contains("CREATING PRG"));
-}
-
-TEST_F(C64OutputTest, TheViceSettingsDecideWhatCanBeChosen) {
-  struct Case {
-    std::string typed;
-    const char* told;  // by a message box; the dialog stays then
-    bool is_enabled;
+TEST_F(C64OutputTest, TheSettingsDecideWhatCanBeChosen) {
+  // What is typed as VICE's path, what a message box tells (the dialog stays then), whether VICE can be chosen.
+  const std::tuple<std::string, QString, bool> cases[] = {
+      {"/usr/bin/x64.exe", "The caption spells PATH, not executable.", true},
+      {app::TextFromPath(art), "Incorrect VICE path", true},
+      {"", "", false},
+      {" " + app::TextFromPath(vice) + "/ ", "", true},
   };
-  const Case cases[] = {{"/usr/bin/x64.exe", "The caption spells PATH, not executable.", true},
-                        {app::TextFromPath(art), "Incorrect VICE path", true},
-                        {"", "", false},
-                        {" " + app::TextFromPath(vice) + "/ ", "", true}};
-  for (const Case& row : cases) {
-    SCOPED_TRACE(row.typed);
+  for (const auto& [typed, told, is_enabled] : cases) {
+    SCOPED_TRACE(typed);
     box_text.clear();
-    QTimer::singleShot(0, [&] {
-      auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-      ASSERT_EQ(dialog->objectName(), "frmViceSettings");
-      dialog->findChild<QLineEdit*>("VICEPath")->setText(ToQt(row.typed));
-      dialog->findChild<QLineEdit*>("PRGName")->setText(" name of " + ToQt(row.typed));
-      if (*row.told != 0) AnswerNext(QMessageBox::Ok);
-      dialog->findChild<QAbstractButton*>("cmdStd")->click();
-      EXPECT_EQ(dialog->isVisible(), *row.told != 0);
-      dialog->reject();
+    InNextDialog([&, path = ToQt(typed), stays = !told.isEmpty()](QDialog& dialog) {
+      EXPECT_EQ(dialog.objectName(), "frmViceSettings");
+      if (stays) AnswerNext(QMessageBox::Ok);
+      FillIn(dialog, {{"VICEPath", path}, {"PRGName", " name of " + path}});
+      EXPECT_EQ(dialog.isVisible(), stays);
+      dialog.reject();
     });
     Action("mnuViceSettings")->trigger();
-    EXPECT_EQ(box_text, row.told);
-    EXPECT_EQ(Action("mnuCreatePRGCompopic")->isEnabled(), row.is_enabled);
-    EXPECT_EQ(Action("mnuPreviewCompopicInVICE")->isEnabled(), row.is_enabled);
+    EXPECT_EQ(box_text, told);
+    EXPECT_EQ(Action("mnuCreatePRGCompopic")->isEnabled(), is_enabled);
+    EXPECT_EQ(Action("mnuPreviewCompopicInVICE")->isEnabled(), is_enabled);
     EXPECT_TRUE(Action("mnuShowPreviewOnC64")->isEnabled());
-    EXPECT_EQ(settings.Read(c64out::kVicePrgName), FromQt(QString("name of " + ToQt(row.typed)).trimmed()));
+    EXPECT_EQ(ToQt(settings.Read(c64out::kVicePrgName)), QString("name of " + ToQt(typed)).trimmed());
   }
   EXPECT_EQ(settings.Read(c64out::kVicePath), app::TextFromPath(vice) + "/");
-}
-
-TEST_F(MainFrameTest, CodenetSettingsAreKeptTrimmedAndUnchecked) {
-  Start();
-  QTimer::singleShot(0, [] {
-    auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-    ASSERT_EQ(dialog->objectName(), "frmCodenetSettings");
-    auto* address = dialog->findChild<QLineEdit*>("C64IP");
-    EXPECT_EQ(address->text(), ToQt(c64out::kDefaultC64Address));
-    address->setText("  no address ");
-    dialog->findChild<QLineEdit*>("PRGName")->setText(" a name ");
-    dialog->findChild<QAbstractButton*>("cmdStd")->click();
-    EXPECT_FALSE(dialog->isVisible());
-  });
+  InNextDialog([](QDialog& dialog) { FillIn(dialog, {{"C64IP", "  no address "}, {"PRGName", " a name "}}); });
   Action("mnuCodenetSettings")->trigger();
   EXPECT_EQ(settings.values["CodenetSettings/C64IP"], "no address");
   EXPECT_EQ(settings.values["CodenetSettings/PRGName"], "a name");

@@ -7,8 +7,11 @@
 #include <QAction>
 #include <QApplication>
 #include <QLabel>
+#include <QLineEdit>
+#include <QListView>
 #include <QMenu>
 #include <QMessageBox>
+#include <QMouseEvent>
 #include <QTest>
 #include <QTimer>
 
@@ -39,19 +42,49 @@ class MainFrameTest : public testing::Test {
   // The picture box of a child window.
   QWidget* Box(const char* form) const { return Find(form)->findChild<QWidget*>("picStd"); }
   QString Panel(const char* name) const { return Find<QLabel>(name)->text(); }
+  QPoint ZoomOrigin() const { return {frame->Zoom().Area().ZoomOriginX(), frame->Zoom().Area().ZoomOriginY()}; }
 
   std::string WriteKoala(const std::string& name) {
     support::WriteFile(folder / name, support::CountingBytes(10003));
     return app::TextFromPath(folder / name);
   }
 
+  // What the command prompt has answered.
+  QStringList PromptLines() const {
+    QStringList lines;
+    const auto* model = Find<QListView>("lstHistory")->model();
+    for (int row = 0; row < model->rowCount(); ++row) lines << model->index(row, 0).data().toString();
+    return lines;
+  }
+  bool PictureHasFocus() const {
+    return Find("frmZoom") == frame->focusWidget() || Find("frmZoom")->isAncestorOf(frame->focusWidget());
+  }
+
+  // QTest's own move tells no buttons.
+  static void MoveMouse(QWidget* widget, QPoint at, Qt::MouseButtons held) {
+    QMouseEvent move(QEvent::MouseMove, at, widget->mapToGlobal(at), Qt::NoButton, held, {});
+    QApplication::sendEvent(widget, &move);
+  }
+
+  // Does `work` with the next dialog, once it is open.
+  template <typename Dialog = QDialog, typename Work>
+  static void InNextDialog(Work work) {
+    QTimer::singleShot(0, [work] {
+      auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+      ASSERT_NE(dialog, nullptr);
+      work(*dialog);
+    });
+  }
+  // Types into fields of a settings dialog, which are named after their settings, and presses its button.
+  static void FillIn(const QDialog& dialog, const std::vector<std::pair<const char*, QString>>& fields) {
+    for (const auto& [name, text] : fields) dialog.findChild<QLineEdit*>(name)->setText(text);
+    dialog.findChild<QAbstractButton*>("cmdStd")->click();
+  }
   // Answers the next message box with `button` and keeps its text.
   void AnswerNext(QMessageBox::StandardButton button) {
-    QTimer::singleShot(0, [this, button] {
-      auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-      ASSERT_NE(box, nullptr);
-      box_text = box->text();
-      QTest::mouseClick(static_cast<QWidget*>(box->button(button)), Qt::LeftButton);
+    InNextDialog<QMessageBox>([this, button](QMessageBox& box) {
+      box_text = box.text();
+      QTest::mouseClick(box.button(button), Qt::LeftButton);
     });
   }
 

@@ -38,17 +38,17 @@ TEST_F(SettingsFile, WithGarbageReadsAsDefaultsAndCanBeWrittenAgain) {
   std::string noise(100000, ' ');
   for (char& c : noise) c = static_cast<char>(random());
   create_directories(file.parent_path());
-  for (const std::string& text :
-       {std::string(), noise, std::string("[Settings\nMagnification"), std::string("[Settings]\nMagnification=@Rect(1"),
-        std::string("[Settings]\nMagnification=@Variant(\\0\\0\\0\\x7f)"), std::string(1 << 20, '['),
-        std::string("\0\0\0", 3), std::string("[Settings]\nMagnification=99999999999999999999\n")}) {
+  for (const std::string& text : std::initializer_list<std::string>{
+           "", noise, "[Settings\nMagnification", "[Settings]\nMagnification=@Rect(1", std::string(1 << 20, '['),
+           "[Settings]\nMagnification=@Variant(\\0\\0\\0\\x7f)", "[Settings]\nMagnification=99999999999999999999\n"}) {
+    SCOPED_TRACE(text.substr(0, 60));
     support::WriteText(file, text);
     {
       QtSettings settings;
-      EXPECT_EQ(app::ReadNumber(settings, app::kMagnification, 4, 8), 4) << text.substr(0, 60);
+      EXPECT_EQ(app::ReadNumber(settings, app::kMagnification, 4, 8), 4);
       settings.Write(app::kMagnification, "8");
     }
-    EXPECT_EQ(QtSettings().Read(app::kMagnification), "8") << text.substr(0, 60);
+    EXPECT_EQ(QtSettings().Read(app::kMagnification), "8");
   }
 }
 
@@ -77,11 +77,10 @@ TEST_F(MainFrameTest, StartsWithAnyNonsenseInAllSettings) {
     if (QWidget* box = QApplication::activeModalWidget()) box->close();
   });
   closes_boxes.start(0);
-  for (const std::string& nonsense :
-       {std::string("-1"), std::string("2147483647,2147483647,2147483647,2147483647,1"),
-        std::string("2147483647,2147483647,1"), std::string("-2147483648,-2147483648,2147483647,2147483647,2147483647"),
-        std::string("0,0,32767,32767,0"), std::string("-2147483648,5,7"), std::string("AAAA/wAAAAD9////"),
-        std::string("\xFF\xFE\0\x80", 4), std::string(100000, '9')}) {
+  for (const std::string& nonsense : std::initializer_list<std::string>{
+           "-1", "2147483647,2147483647,2147483647,2147483647,1", "2147483647,2147483647,1",
+           "-2147483648,-2147483648,2147483647,2147483647,2147483647", "0,0,32767,32767,0", "-2147483648,5,7",
+           "AAAA/wAAAAD9////", "\xFF\xFE\x80", std::string(100000, '9')}) {
     SCOPED_TRACE(nonsense.substr(0, 60));
     StubbornSettings stubborn(nonsense);
     frame = std::make_unique<MainFrame>(folders, stubborn, clock);
@@ -92,34 +91,29 @@ TEST_F(MainFrameTest, StartsWithAnyNonsenseInAllSettings) {
     EXPECT_TRUE(frame->screen()->virtualGeometry().intersects(frame->geometry()));
     EXPECT_LE(frame->width(), 2000);
     EXPECT_EQ(frame->Zoom().GridColor().Number(), 9);
+    EXPECT_EQ(frame->Zoom().Area().Magnification(), 4);
     for (const char* dialog : {"mnuPreferences", "mnuViceSettings", "mnuCodenetSettings"}) Action(dialog)->trigger();
     frame.reset();
   }
 }
 
-class ProgramSlotTest : public testing::Test {
- protected:
-  support::TempFolder folder;
-  app::ProgramFolders folders{folder / "program"};
-};
-
-TEST_F(ProgramSlotTest, ProgramsOnOneFolderHaveNumbersOfTheirOwn) {
-  const ProgramSlot first(folders);
-  std::optional<ProgramSlot> second(std::in_place, folders);
-  const ProgramSlot third(folders);
-  EXPECT_EQ(first.Number(), 1);
-  EXPECT_EQ(second->Number(), 2);
-  EXPECT_EQ(third.Number(), 3);
-  EXPECT_EQ(first.TryLock(2), nullptr);
-  EXPECT_NE(first.TryLock(4), nullptr);
-  second.reset();
-  EXPECT_NE(first.TryLock(2), nullptr);
-  EXPECT_EQ(ProgramSlot(folders).Number(), 2);
-}
-
-TEST_F(ProgramSlotTest, ADeadProgramHoldsNoNumber) {
-  folders.Create();
-  support::WriteText(folders.System() / "running_1.lock", "2147483646\nkelvo\n\n\n\n");
+TEST(ProgramSlot, IsANumberOfItsOwnWhileTheProgramRuns) {
+  const support::TempFolder folder;
+  const app::ProgramFolders folders(folder / "program");
+  {
+    const ProgramSlot first(folders);
+    std::optional<ProgramSlot> second(std::in_place, folders);
+    const ProgramSlot third(folders);
+    EXPECT_EQ(first.Number(), 1);
+    EXPECT_EQ(second->Number(), 2);
+    EXPECT_EQ(third.Number(), 3);
+    EXPECT_EQ(first.TryLock(2), nullptr);
+    EXPECT_NE(first.TryLock(4), nullptr);
+    second.reset();
+    EXPECT_NE(first.TryLock(2), nullptr);
+    EXPECT_EQ(ProgramSlot(folders).Number(), 2);
+  }
+  support::WriteText(folders.System() / "running_1.lock", "2147483646\nkelvo\n\n\n\n");  // of a dead program
   EXPECT_EQ(ProgramSlot(folders).Number(), 1);
   support::WriteText(folders.System() / "running_1.lock", "nonsense");
   EXPECT_GE(ProgramSlot(folders).Number(), 1);

@@ -1,20 +1,12 @@
 // Painting with real mouse buttons and keys on the real main window, against what the core gives for the same actions.
-#include <QAbstractButton>
 #include <QCheckBox>
-#include <QDialog>
-#include <QPushButton>
 
 #include "editing/preferences.h"
 #include "main_frame_fixture.h"
 #include "support/painted.h"
-#include "ui/swatch_button.h"
 
 namespace kelvo::ui {
 namespace {
-
-using support::ColourAt;
-
-constexpr int kTickWait = 250;  // milliseconds: more than a tick of Timer1
 
 class PaintingWindowTest : public MainFrameTest {
  protected:
@@ -25,31 +17,22 @@ class PaintingWindowTest : public MainFrameTest {
     const model::Rect box = frame->Zoom().Area().PixelRect(x, y);
     return {box.x + box.width / 2, box.y + box.height / 2};
   }
-  void Press(int x, int y, Qt::MouseButton button = Qt::LeftButton) {
-    QTest::mousePress(Box("frmZoom"), button, {}, At(x, y));
-  }
-  void Release(int x, int y, Qt::MouseButton button = Qt::LeftButton) {
-    QTest::mouseRelease(Box("frmZoom"), button, {}, At(x, y));
-  }
+  void Press(int x, int y) { QTest::mousePress(Box("frmZoom"), Qt::LeftButton, {}, At(x, y)); }
+  void Release(int x, int y) { QTest::mouseRelease(Box("frmZoom"), Qt::LeftButton, {}, At(x, y)); }
   void Click(int x, int y, Qt::MouseButton button = Qt::LeftButton) {
-    Press(x, y, button);
-    Release(x, y, button);
+    QTest::mouseClick(Box("frmZoom"), button, {}, At(x, y));
   }
-  // QTest's own move tells no buttons.
-  void MoveTo(int x, int y, Qt::MouseButtons held) {
-    const QPoint at = At(x, y);
-    QMouseEvent move(QEvent::MouseMove, at, Box("frmZoom")->mapToGlobal(at), Qt::NoButton, held, {});
-    QApplication::sendEvent(Box("frmZoom"), &move);
-  }
+  void MoveTo(int x, int y, Qt::MouseButtons held) { MoveMouse(Box("frmZoom"), At(x, y), held); }
   void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) { QTest::keyClick(Box("frmZoom"), key, modifiers); }
-  const model::PictureImage& Picture() const { return frame->Document().picture; }
-  int Colour(int x, int y) const { return ColourAt(Picture(), x, y); }
-  SwatchButton* Swatch(int colour) const {
-    return Find<SwatchButton>(FromQt(QString("swatch_%1").arg(colour)).c_str());
+  bool IsToldSoon(const char* prompt) const {
+    return QTest::qWaitFor([&] { return Panel("pnlTool") == prompt; });
   }
+  const model::PictureImage& Picture() const { return frame->Document().picture; }
+  int Colour(int x, int y) const { return support::ColourAt(Picture(), x, y); }
+  QWidget* Swatch(int colour) const { return Find(("swatch_" + std::to_string(colour)).c_str()); }
 };
 
-TEST_F(PaintingWindowTest, EveryToolPaintsWithTheMouse) {
+TEST_F(PaintingWindowTest, ToolsPaintWithTheMouseAndAreUndone) {
   Key(Qt::Key_6);  // green
   Press(3, 3);
   MoveTo(40, 30, Qt::LeftButton);
@@ -63,29 +46,15 @@ TEST_F(PaintingWindowTest, EveryToolPaintsWithTheMouse) {
   Action("tool_line")->trigger();
   EXPECT_EQ(Panel("pnlTool"), "SET STARTING POINT");
   Click(1, 50);
-  QTest::qWait(kTickWait);
-  EXPECT_EQ(Panel("pnlTool"), "SET ENDING POINT");
+  EXPECT_TRUE(IsToldSoon("SET ENDING POINT"));
+  const QImage before = Box("frmZoom")->grab().toImage();
+  MoveTo(11, 55, Qt::NoButton);  // a preview, which is never written
+  EXPECT_NE(Box("frmZoom")->grab().toImage(), before);
+  EXPECT_EQ(Colour(5, 52), 0);
   Click(11, 50);
-  QTest::qWait(kTickWait);
-  EXPECT_EQ(Panel("pnlTool"), "SET STARTING POINT");
+  EXPECT_TRUE(IsToldSoon("SET STARTING POINT"));
   EXPECT_EQ(Colour(10, 50), 5);
   EXPECT_EQ(Colour(11, 50), 0);
-
-  Key(Qt::Key_C);
-  EXPECT_EQ(Panel("pnlTool"), "SET CENTER POINT");
-  Click(40, 80);
-  EXPECT_EQ(Panel("pnlTool"), "SET RADIUS POINT");
-  Click(50, 80);
-  QTest::qWait(kTickWait);
-  EXPECT_EQ(Colour(50, 80), 5);
-
-  Key(Qt::Key_B);
-  Click(70, 100, Qt::RightButton);
-  EXPECT_EQ(Colour(69, 97), 5);
-  Key(Qt::Key_M);
-  Click(70, 100, Qt::RightButton);
-  Click(6, 130);
-  EXPECT_EQ(Colour(5, 129), 5);
 
   Key(Qt::Key_F);
   Key(Qt::Key_3);
@@ -97,6 +66,14 @@ TEST_F(PaintingWindowTest, EveryToolPaintsWithTheMouse) {
   EXPECT_FALSE(Action("mnuUndo")->isEnabled());
   Key(Qt::Key_Escape);
   EXPECT_EQ(Panel("pnlTool"), "DRAW");
+
+  Press(10, 10);
+  frame->Desk().LoseFocus();  // ends the stroke
+  MoveTo(20, 10, Qt::LeftButton);
+  EXPECT_EQ(Colour(15, 10), 0);
+  EXPECT_TRUE(Action("mnuUndo")->isEnabled());
+  Action("mnuNew")->trigger();
+  EXPECT_FALSE(Action("mnuUndo")->isEnabled());
 }
 
 TEST_F(PaintingWindowTest, AFullCellIsRefusedOnlyWhenThePreferenceSaysSo) {
@@ -115,11 +92,10 @@ TEST_F(PaintingWindowTest, AFullCellIsRefusedOnlyWhenThePreferenceSaysSo) {
   Release(7, 1);
   EXPECT_EQ(Colour(7, 1), 4);
 
-  QTimer::singleShot(0, [this] {
-    QWidget* dialog = QApplication::activeModalWidget();
-    EXPECT_FALSE(dialog->findChild<QCheckBox*>("4thColReplaces")->isChecked());
-    dialog->findChild<QCheckBox*>("4thColReplaces")->setChecked(true);
-    dialog->findChild<QPushButton*>("cmdStd")->click();
+  InNextDialog([](QDialog& dialog) {
+    EXPECT_FALSE(dialog.findChild<QCheckBox*>("4thColReplaces")->isChecked());
+    dialog.findChild<QCheckBox*>("4thColReplaces")->setChecked(true);
+    FillIn(dialog, {});
   });
   Action("mnuPreferences")->trigger();
   Click(3, 1);
@@ -127,83 +103,55 @@ TEST_F(PaintingWindowTest, AFullCellIsRefusedOnlyWhenThePreferenceSaysSo) {
 }
 
 TEST_F(PaintingWindowTest, PensAndBackgroundAreChosenInTheColoursWindow) {
-  QTest::mouseClick(static_cast<QWidget*>(Swatch(7)), Qt::LeftButton);
-  QTest::mouseClick(static_cast<QWidget*>(Swatch(8)), Qt::RightButton);
+  QTest::mouseClick(Swatch(7), Qt::LeftButton);
+  QTest::mouseClick(Swatch(8), Qt::RightButton);
   Click(1, 1);
   Click(2, 1, Qt::RightButton);
   EXPECT_EQ(Colour(1, 1), 7);
   EXPECT_EQ(Colour(2, 1), 8);
   EXPECT_TRUE(Swatch(7)->accessibleName().startsWith("left pen"));
   EXPECT_TRUE(Swatch(7)->accessibleName().endsWith("07 Yellow"));
-  QTest::mouseClick(static_cast<QWidget*>(Swatch(14)), Qt::MiddleButton);
+  QTest::mouseClick(Swatch(14), Qt::MiddleButton);
   EXPECT_EQ(Picture().BackgroundColour.Number(), 14);
-  QTest::mouseClick(static_cast<QWidget*>(Swatch(6)), Qt::LeftButton, Qt::ShiftModifier);
+  QTest::mouseClick(Swatch(6), Qt::LeftButton, Qt::ShiftModifier);
   EXPECT_EQ(Picture().BackgroundColour.Number(), 6);
   EXPECT_TRUE(Menu("mnuBG")->actions()[6]->isChecked());
   QTest::mouseClick(Find("cmdSwap"), Qt::LeftButton);
   Click(3, 1);
   EXPECT_EQ(Colour(3, 1), 8);
   Swatch(12)->setFocus();
-  QTest::keyClick(static_cast<QWidget*>(Swatch(12)), Qt::Key_Space);
+  QTest::keyClick(Swatch(12), Qt::Key_Space);
   Click(1, 9);
   EXPECT_EQ(Colour(1, 9), 12);
-}
-
-TEST_F(PaintingWindowTest, KeysMoveTheZoomArea) {
-  struct Case {
-    Qt::Key key;
-    Qt::KeyboardModifiers modifiers;
-    int x, y;
-  };
-  for (const Case& c : {Case{Qt::Key_Left, {}, 0, 0},
-                        {Qt::Key_Right, {}, 8, 0},
-                        {Qt::Key_Down, {}, 8, 8},
-                        {Qt::Key_Right, Qt::ControlModifier, 88, 8},
-                        {Qt::Key_Down, Qt::ControlModifier, 88, 56},
-                        {Qt::Key_End, {}, 160, 56},
-                        {Qt::Key_Home, {}, 0, 56},
-                        {Qt::Key_PageUp, {}, 0, 0},
-                        {Qt::Key_PageDown, {}, 0, 56}}) {
-    Key(c.key, c.modifiers);
-    EXPECT_EQ(frame->Zoom().Area().ZoomOriginX(), c.x) << c.key;
-    EXPECT_EQ(frame->Zoom().Area().ZoomOriginY(), c.y) << c.key;
-  }
-}
-
-TEST_F(PaintingWindowTest, AShortcutsKeyIsNoPenAndNoToolWhenItsCtrlIsLetGoFirst) {
+  // A shortcut's key is no pen when its Ctrl is let go first.
   QTest::keyPress(Box("frmZoom"), Qt::Key_8, Qt::ControlModifier);
   QTest::keyRelease(Box("frmZoom"), Qt::Key_8, Qt::NoModifier);
-  EXPECT_TRUE(Swatch(1)->accessibleName().startsWith("left pen"));
+  EXPECT_TRUE(Swatch(12)->accessibleName().startsWith("left pen"));
   Key(Qt::Key_8);
   EXPECT_TRUE(Swatch(7)->accessibleName().startsWith("left pen"));
 }
 
-TEST_F(PaintingWindowTest, ThePointerShowsInStatusAndCellWindows) {
-  MoveTo(6, 10, Qt::NoButton);
-  QTest::qWait(50);
-  EXPECT_EQ(Panel("pnlPointer"), "x=6 y=10 col=2 row=2");
+TEST_F(PaintingWindowTest, KeysMoveTheZoomAreaAndThePointerShows) {
+  const std::tuple<Qt::Key, Qt::KeyboardModifiers, QPoint> presses[] = {
+      {Qt::Key_Left, {}, {0, 0}},
+      {Qt::Key_Right, {}, {8, 0}},
+      {Qt::Key_Down, {}, {8, 8}},
+      {Qt::Key_Right, Qt::ControlModifier, {88, 8}},
+      {Qt::Key_Down, Qt::ControlModifier, {88, 56}},
+      {Qt::Key_End, {}, {160, 56}},
+      {Qt::Key_Home, {}, {0, 56}},
+      {Qt::Key_PageUp, {}, {0, 0}},
+      {Qt::Key_PageDown, {}, {0, 56}},
+      {Qt::Key_Up, {}, {0, 48}},
+  };
+  for (const auto& [key, modifiers, origin] : presses) {
+    Key(key, modifiers);
+    EXPECT_EQ(ZoomOrigin(), origin) << key;
+  }
+  MoveTo(6, 58, Qt::NoButton);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Panel("pnlPointer") == "x=6 y=58 col=2 row=8"; }));
   EXPECT_EQ(Find("frmBMPView")->windowTitle(), " Full view (1:1)");
   EXPECT_EQ(Find<QLabel>("lblBits_2")->foregroundRole(), QPalette::Link);
-}
-
-TEST_F(PaintingWindowTest, AStrokeEndsWhenTheWindowLosesFocusAndUndoIsGoneWithThePicture) {
-  Press(10, 10);
-  frame->Desk().LoseFocus();
-  MoveTo(20, 10, Qt::LeftButton);
-  EXPECT_EQ(Colour(15, 10), 0);
-  Action("mnuNew")->trigger();
-  EXPECT_FALSE(Action("mnuUndo")->isEnabled());
-}
-
-TEST_F(PaintingWindowTest, APreviewIsNeverWritten) {
-  Key(Qt::Key_L);
-  Click(10, 10);
-  const QImage before = Box("frmZoom")->grab().toImage();
-  MoveTo(30, 20, Qt::NoButton);
-  EXPECT_NE(Box("frmZoom")->grab().toImage(), before);
-  EXPECT_EQ(Picture(), model::PictureImage());
-  Key(Qt::Key_Escape);
-  EXPECT_EQ(Picture(), model::PictureImage());
 }
 
 }  // namespace

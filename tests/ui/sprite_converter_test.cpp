@@ -2,7 +2,6 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QPlainTextEdit>
-#include <QPushButton>
 #include <QRadioButton>
 
 #include "main_frame_fixture.h"
@@ -26,11 +25,17 @@ class SpriteConverterTest : public MainFrameTest {
   }
 };
 
-TEST_F(SpriteConverterTest, CapturesWhereThePointerIsAndGenerates) {
+TEST_F(SpriteConverterTest, CapturesByMouseAndKeysAndGenerates) {
   CaptureAt(80, 100);
   const QString one = Generated();
   EXPECT_EQ(one.count(".byte"), 22);
   EXPECT_TRUE(one.contains("%"));
+  QTest::keyClick(Find("picSource"), Qt::Key_Right);
+  QTest::keyClick(Find("picSource"), Qt::Key_Space);
+  const QString moved = Generated();
+  EXPECT_NE(moved, one);
+  CaptureAt(81, 100);
+  EXPECT_EQ(Generated(), moved);
   Action("mnu2x2")->trigger();
   Find<QRadioButton>("opbOutput_1")->click();
   CaptureAt(80, 100);
@@ -39,7 +44,7 @@ TEST_F(SpriteConverterTest, CapturesWhereThePointerIsAndGenerates) {
   EXPECT_EQ(QGuiApplication::clipboard()->text().count("\r\n"), 32);
 }
 
-TEST_F(SpriteConverterTest, OptionsShowInTheStatusAndErasingSparesTheEditor) {
+TEST_F(SpriteConverterTest, ErasingSparesTheEditorAndWrongFilesAreRefused) {
   const model::PictureImage before = frame->Document().picture;
   EXPECT_EQ(Find<QLabel>("lblStatus")->text(), "Align to grid = OFF, Erase on capture = OFF");
   Action("mnuAlign")->trigger();
@@ -50,24 +55,19 @@ TEST_F(SpriteConverterTest, OptionsShowInTheStatusAndErasingSparesTheEditor) {
   CaptureAt(20, 30);  // nothing but background is left there
   EXPECT_NE(Generated(), first);
   EXPECT_EQ(Find<QComboBox>("cboCol1")->currentText(), "[none]");
-  EXPECT_EQ(frame->Document().picture, before);
-}
-
-TEST_F(SpriteConverterTest, KeysMoveAndCaptureAndWrongFilesAreRefused) {
-  Find("picSource")->setFocus();
-  QTest::keyClick(Find("picSource"), Qt::Key_Right);
-  QTest::keyClick(Find("picSource"), Qt::Key_Space);
-  EXPECT_EQ(Generated().count(".byte"), 22);
   AnswerNext(QMessageBox::Ok);
   qobject_cast<frmBMP2SpriteMain*>(Find("frmBMP2SpriteMain"))->OpenSource(ToQt(app::TextFromPath(folder / "p.koa")));
   EXPECT_EQ(box_text, "Felaktig filstorlek. Bitmap/PRG-fil ska vara 10050 eller 10241 bytes");
+  EXPECT_EQ(frame->Document().picture, before);
 }
 
 TEST_F(SpriteConverterTest, PassesKeepTheLookAndTellTheirRule) {
-  const QImage before = Box("frmBMPView")->grab().toImage();
+  const model::PictureImage before = frame->Document().picture;
+  const QImage look = Box("frmBMPView")->grab().toImage();
   Action("mnuOptimizeBackgroundColor")->trigger();
-  EXPECT_EQ(Box("frmBMPView")->grab().toImage(), before);
+  EXPECT_EQ(Box("frmBMPView")->grab().toImage(), look);
   const model::PictureImage optimised = frame->Document().picture;
+  EXPECT_NE(optimised, before);
   AnswerNext(QMessageBox::Ok);
   Action("mnuOptimizeForEORVector")->trigger();
   EXPECT_TRUE(box_text.endsWith("Do you want to continue?"));

@@ -18,14 +18,10 @@ std::vector<int> ColumnWidths(int unit) {
   SurfaceView view(surface, unit, nullptr);
   view.show();
   const QImage image = view.grab().toImage();
-  std::vector<int> widths{0};
-  QRgb last = image.pixel(0, 1);
-  for (int x = 0; x < image.width(); ++x) {
-    const QRgb pixel = image.pixel(x, 1);
-    if (pixel == qRgb(0, 0, 0)) break;
-    if (pixel != last) widths.push_back(0);
+  std::vector<int> widths;
+  for (int x = 0; x < image.width() && image.pixel(x, 1) != qRgb(0, 0, 0); ++x) {
+    if (x == 0 || image.pixel(x, 1) != image.pixel(x - 1, 1)) widths.push_back(0);
     ++widths.back();
-    last = pixel;
   }
   return widths;
 }
@@ -33,6 +29,7 @@ std::vector<int> ColumnWidths(int unit) {
 TEST(SurfaceView, EveryColumnOfOneWidthIsPaintedInOneWidth) {
   for (const int unit : {1, 4}) {
     const std::vector<int> widths = ColumnWidths(unit);
+    ASSERT_FALSE(widths.empty());
     EXPECT_EQ(widths, std::vector<int>(static_cast<std::size_t>(80 / unit), widths.front())) << "unit " << unit;
   }
 }

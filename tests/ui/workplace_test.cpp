@@ -1,12 +1,8 @@
-// The workplace: windows, menus, zoom by wheel, places, screenshots, and names for everything.
-#include <QAccessible>
-#include <QDragEnterEvent>
+// The workplace: child windows and their places, moving about in the picture, the whole screen, screenshots.
 #include <QFileDialog>
 #include <QImageReader>
 #include <QLineEdit>
 #include <QMdiSubWindow>
-#include <QMimeData>
-#include <QPushButton>
 #include <QWheelEvent>
 
 #include "main_frame_fixture.h"
@@ -20,9 +16,6 @@ class WorkplaceTest : public MainFrameTest {
   WorkplaceTest() { Start(); }
 
   QMdiSubWindow* Child(const char* form) const { return qobject_cast<QMdiSubWindow*>(Find(form)->parentWidget()); }
-  std::pair<int, int> Origin() const {
-    return {frame->Zoom().Area().ZoomOriginX(), frame->Zoom().Area().ZoomOriginY()};
-  }
   void Wheel(QPoint at, int steps, Qt::KeyboardModifiers modifiers = {}) {
     QWidget* box = Box("frmZoom");
     QWheelEvent event(at, box->mapToGlobal(at), {}, {0, steps * -120}, Qt::NoButton, modifiers, Qt::NoScrollPhase,
@@ -31,39 +24,36 @@ class WorkplaceTest : public MainFrameTest {
   }
 };
 
-constexpr std::pair<const char*, const char*> kShowEntries[] = {
-    {"mnuView_0", "frmBMPView"}, {"mnuView_1", "frmColors"}, {"mnuView_2", "frmCharData"},
-    {"mnuView_3", "frmCommand"}, {"mnuView_4", "frmZoom"},   {"mnuPens", "frmPens"}};
-
 TEST_F(WorkplaceTest, CheckMarksFollowTheWindows) {
+  constexpr std::pair<const char*, const char*> kShowEntries[] = {
+      {"mnuView_0", "frmBMPView"}, {"mnuView_1", "frmColors"}, {"mnuView_2", "frmCharData"},
+      {"mnuView_3", "frmCommand"}, {"mnuView_4", "frmZoom"},   {"mnuPens", "frmPens"}};
   for (const auto& [entry, form] : kShowEntries) {
     SCOPED_TRACE(entry);
-    EXPECT_EQ(Action(entry)->isChecked(), Child(form)->isVisible());
-    Action(entry)->trigger();
-    EXPECT_EQ(Action(entry)->isChecked(), Child(form)->isVisible());
+    for (int turn = 0; turn < 2; ++turn) {
+      EXPECT_EQ(Action(entry)->isChecked(), Child(form)->isVisible());
+      Action(entry)->trigger();
+    }
     if (!Child(form)->isVisible()) Action(entry)->trigger();
     Child(form)->close();
+    EXPECT_FALSE(Child(form)->isVisible());
     EXPECT_FALSE(Action(entry)->isChecked());
     Action(entry)->trigger();
     EXPECT_TRUE(Find(form)->isVisible());
   }
-}
-
-TEST_F(WorkplaceTest, EscapeInAToolWindowGivesTheFocusBack) {
   for (const char* name : {"swatch_3", "LeftPen", "txtCommand"}) {
     SCOPED_TRACE(name);
-    if (!Find(name)->isVisible()) Action("mnuView_3")->trigger();
     Find(name)->setFocus();
     QTest::keyClick(Find(name), Qt::Key_Escape);
-    EXPECT_TRUE(Find("frmZoom")->isAncestorOf(frame->focusWidget()) || Find("frmZoom") == frame->focusWidget());
+    EXPECT_TRUE(PictureHasFocus());
   }
 }
 
-TEST_F(WorkplaceTest, TheWheelScrollsAndZoomsAroundThePointer) {
+TEST_F(WorkplaceTest, TheWheelAndAMiddleDragMoveThePictureUnderThePointer) {
   Wheel({300, 300}, 2);
-  EXPECT_EQ(Origin(), std::pair(0, 16));
+  EXPECT_EQ(ZoomOrigin(), QPoint(0, 16));
   Wheel({300, 300}, 3, Qt::ShiftModifier);
-  EXPECT_EQ(Origin(), std::pair(24, 16));
+  EXPECT_EQ(ZoomOrigin(), QPoint(24, 16));
   const QPoint at(500, 400);
   const model::PixelPoint before = frame->Zoom().Area().PixelAt(at.x(), at.y());
   Wheel(at, -1, Qt::ControlModifier);
@@ -73,36 +63,27 @@ TEST_F(WorkplaceTest, TheWheelScrollsAndZoomsAroundThePointer) {
   EXPECT_LE(std::abs(after.y - before.y), 8);
   Wheel(at, 1, Qt::ControlModifier);
   EXPECT_TRUE(Action("mnuZoom_4X")->isChecked());
-}
 
-TEST_F(WorkplaceTest, AMiddleDragMovesThePicture) {
-  QWidget* box = Box("frmZoom");
-  QTest::mousePress(box, Qt::MiddleButton, {}, {300, 300});
-  QMouseEvent move(QEvent::MouseMove, {200, 230}, box->mapToGlobal(QPoint(200, 230)), Qt::NoButton, Qt::MiddleButton,
-                   {});
-  QApplication::sendEvent(box, &move);
-  EXPECT_EQ(Origin(), std::pair(24, 16));
+  const QPoint origin = ZoomOrigin();
+  QTest::mousePress(Box("frmZoom"), Qt::MiddleButton, {}, {300, 300});
+  MoveMouse(Box("frmZoom"), {200, 230}, Qt::MiddleButton);
+  EXPECT_EQ(ZoomOrigin() - origin, QPoint(24, 16));
   EXPECT_EQ(frame->Document().picture, model::PictureImage());
 }
 
-TEST_F(WorkplaceTest, FlashStepsWithTheTimer) {
-  Menu("mnuZB")->actions()[0]->trigger();
-  const auto border = [this] { return Box("frmZoom")->grab().toImage().pixelColor(2, 2); };
-  const QColor first = border();
-  QTest::qWait(250);
-  EXPECT_NE(border(), first);
-}
-
 TEST_F(WorkplaceTest, FullscreenClosesOnAKeyPressOrClick) {
-  for (int way = 0; way < 2; ++way) {
+  for (const bool by_key : {true, false}) {
     Action("mnuFullscreenView")->trigger();
-    QPointer<QWidget> view = frame->findChild<QWidget*>("frmFullscreen");
+    QPointer<QWidget> view = Find("frmFullscreen");
     ASSERT_TRUE(view);
     EXPECT_EQ(view->size(), view->screen()->size());
     QTest::keyRelease(view, Qt::Key_F11);  // the release of the key that opened it
     EXPECT_TRUE(view->isVisible());
-    if (way == 0) QTest::keyClick(view, Qt::Key_Space);
-    if (way == 1) QTest::mouseClick(view, Qt::LeftButton);
+    if (by_key) {
+      QTest::keyClick(view, Qt::Key_Space);
+    } else {
+      QTest::mouseClick(view, Qt::LeftButton);
+    }
     EXPECT_TRUE(view.isNull() || !view->isVisible());
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   }
@@ -162,36 +143,6 @@ TEST_F(WorkplaceTest, NoDialogReplacesAFileUnasked) {
   }
   EXPECT_EQ(support::ReadText(folder / "old.v2.png"), "an older picture");
   EXPECT_EQ(support::ReadText(folder / "old.kvp"), "an older picture");
-}
-
-TEST_F(WorkplaceTest, ADroppedFileIsOpened) {
-  QMimeData data;
-  data.setUrls({QUrl::fromLocalFile(ToQt(WriteKoala("dropped.koa")))});
-  QDragEnterEvent enter({9, 9}, Qt::CopyAction, &data, Qt::LeftButton, {});
-  QApplication::sendEvent(frame.get(), &enter);
-  EXPECT_TRUE(enter.isAccepted());
-  QDropEvent drop({9, 9}, Qt::CopyAction, &data, Qt::LeftButton, {});
-  QApplication::sendEvent(frame.get(), &drop);
-  EXPECT_EQ(Panel("pnlFile"), "dropped.koa");
-}
-
-TEST_F(WorkplaceTest, NothingThatCanBeUsedIsNameless) {
-  for (const auto& [entry, form] : kShowEntries) {
-    if (!Action(entry)->isChecked()) Action(entry)->trigger();
-  }
-  for (const QWidget* widget : frame->findChildren<QWidget*>()) {
-    if (!widget->isVisible() || (widget->focusPolicy() & Qt::TabFocus) == 0) continue;
-    QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(const_cast<QWidget*>(widget));
-    ASSERT_NE(accessible, nullptr);
-    EXPECT_FALSE(accessible->text(QAccessible::Name).isEmpty())
-        << widget->metaObject()->className() << " " << FromQt(widget->objectName()) << " in "
-        << FromQt(widget->parentWidget()->objectName());
-  }
-  for (const QAction* action : frame->findChildren<QAction*>()) {
-    if (!action->objectName().startsWith("mnu") || action->menu() != nullptr) continue;
-    EXPECT_FALSE(action->text().isEmpty()) << FromQt(action->objectName());
-    EXPECT_FALSE(action->statusTip().isEmpty()) << FromQt(action->objectName());
-  }
 }
 
 }  // namespace
