@@ -29,13 +29,6 @@ class Session : public ProgramTest {
   // The first cell is a yellow block: so the zoom window's place is found on the screen.
   Session() { support::SetCell(picture, 1, {255, 255, 255, 255, 255, 255, 255, 255}, 7, 0, 0); }
 
-  void SetUp() override {
-    ProgramTest::SetUp();
-    if (IsSkipped()) return;
-    core.document.picture = files::Decode(files::FormatOf(files::kOwnType), support::ReadFile(file), {});
-    FindZoomWindow();
-  }
-
   // Nothing else is as wide in yellow: a cell without its grid line is 31 pixels.
   void FindZoomWindow() {
     const std::uint32_t yellow = model::SurfaceColour(support::Colour(7));
@@ -81,11 +74,6 @@ class Session : public ProgramTest {
     Hands(std::string("key ") + key + " sleep 0.1");
     painting.PenColours().left = *editing::PenForKey(key);
   }
-  void Undo() {
-    Hands("key ctrl+z sleep 0.2");
-    painting.Undo();
-  }
-
   int left = 0, top = 0;
   support::Program core;
   NoEvents events;
@@ -94,6 +82,8 @@ class Session : public ProgramTest {
 };
 
 TEST_F(Session, SavesWhatTheCoreGives) {
+  FindZoomWindow();
+  ASSERT_TRUE(core.files.OpenPicture(file.string()));
   Pen('u');  // a light blue sky
   Tool('f', 2);
   Click({60, 20});
@@ -132,7 +122,8 @@ TEST_F(Session, SavesWhatTheCoreGives) {
   Tool('d', 1);
   Drag({40, 10}, {70, 40}, Button::kRight);
   Drag({5, 5}, {30, 5});
-  Undo();
+  Hands("key ctrl+z sleep 0.2");
+  painting.Undo();
 
   const std::string shot = std::string(KELVO_SCREENSHOTS) + "/session.png";
   Screenshot(shot);

@@ -60,19 +60,15 @@ TEST_F(MainFrameTest, ADroppedPictureShowsInBothWindows) {
   emit Menu("mnuRecent")->aboutToShow();
   ASSERT_EQ(Menu("mnuRecent")->actions().size(), 1);
   EXPECT_TRUE(Menu("mnuRecent")->actions()[0]->text().endsWith("castle.koa"));
-}
 
-TEST_F(MainFrameTest, AClickInTheFullViewMovesTheZoomArea) {
-  Start();
-  QWidget* box = Box("frmBMPView");
-  QTest::mouseMove(box, {160, 100});
-  QTest::mouseClick(box, Qt::LeftButton, {}, {160, 100});
-  EXPECT_EQ(Find("frmBMPView")->windowTitle(), " Full view (1:1) x=161, y=101, col=21, row=13");
-  EXPECT_EQ(ZoomOrigin(), QPoint(88, 24));
-  Action("mnuZoom_8X")->trigger();
-  EXPECT_EQ(ZoomOrigin(), QPoint(0, 0));
-  EXPECT_EQ(Find("frmZoom")->windowTitle(), " Zoom (8:1)");
-  EXPECT_FALSE(Action("mnuZoom_4X")->isChecked());
+  const model::PictureImage opened = frame->Document().picture;
+  const QImage look = Box("frmBMPView")->grab().toImage();
+  Action("mnuOptimizeBackgroundColor")->trigger();
+  EXPECT_NE(frame->Document().picture, opened);
+  EXPECT_EQ(Box("frmBMPView")->grab().toImage(), look);
+  AnswerNext(QMessageBox::Ok);
+  Action("mnuOptimizeForEORVector")->trigger();
+  EXPECT_TRUE(box_text.endsWith("Do you want to continue?"));
 }
 
 TEST_F(MainFrameTest, ColoursOfItsMenusAreShownAndKeptWhenItCloses) {

@@ -14,35 +14,21 @@
 namespace kelvo::ui {
 namespace {
 
-namespace fs = std::filesystem;
-
-// The user's settings in a folder of the test's own.
-class SettingsFile : public testing::Test {
- protected:
-  SettingsFile() {
-    QCoreApplication::setOrganizationName("Kelvo");
-    QCoreApplication::setApplicationName("Kelvo");
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, ToQt(app::TextFromPath(folder / "config")));
-  }
-  ~SettingsFile() override {
-    QCoreApplication::setOrganizationName({});
-    QCoreApplication::setApplicationName({});
-  }
-
-  support::TempFolder folder;
-  fs::path file = folder / "config/Kelvo/Kelvo.conf";
-};
-
-TEST_F(SettingsFile, WithGarbageReadsAsDefaultsAndCanBeWrittenAgain) {
+TEST(SettingsFile, WithGarbageOrWithoutAPlaceStillServesTheProgram) {
+  const support::TempFolder folder;
+  const auto config = folder / "config/Kelvo";
+  QCoreApplication::setOrganizationName("Kelvo");
+  QCoreApplication::setApplicationName("Kelvo");
+  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, ToQt(app::TextFromPath(folder / "config")));
   std::mt19937 random(20260203);
   std::string noise(100000, ' ');
   for (char& c : noise) c = static_cast<char>(random());
-  create_directories(file.parent_path());
+  create_directories(config);
   for (const std::string& text : std::initializer_list<std::string>{
            "", noise, "[Settings\nMagnification", "[Settings]\nMagnification=@Rect(1", std::string(1 << 20, '['),
            "[Settings]\nMagnification=@Variant(\\0\\0\\0\\x7f)", "[Settings]\nMagnification=99999999999999999999\n"}) {
     SCOPED_TRACE(text.substr(0, 60));
-    support::WriteText(file, text);
+    support::WriteText(config / "Kelvo.conf", text);
     {
       QtSettings settings;
       EXPECT_EQ(app::ReadNumber(settings, app::kMagnification, 4, 8), 4);
@@ -50,14 +36,13 @@ TEST_F(SettingsFile, WithGarbageReadsAsDefaultsAndCanBeWrittenAgain) {
     }
     EXPECT_EQ(QtSettings().Read(app::kMagnification), "8");
   }
-}
-
-TEST_F(SettingsFile, WithoutAPlaceStillServesTheRunningProgram) {
-  support::WriteText(folder / "config", "a file where the folder should be");
+  remove_all(config);
+  support::WriteText(config, "a file where the folder should be");
   QtSettings settings;
-  EXPECT_EQ(settings.Read(app::kGridColor), "9");
   settings.Write(app::kGridColor, "3");
   EXPECT_EQ(settings.Read(app::kGridColor), "3");
+  QCoreApplication::setOrganizationName({});
+  QCoreApplication::setApplicationName({});
 }
 
 // Answers every question with the same.

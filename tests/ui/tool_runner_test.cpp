@@ -1,7 +1,6 @@
 // Real child processes that behave and misbehave.
 #include <gtest/gtest.h>
 
-#include <QElapsedTimer>
 #include <QTest>
 #include <QTimer>
 
@@ -20,10 +19,10 @@ namespace fs = std::filesystem;
 class ToolRunnerTest : public testing::Test {
  protected:
   // A tool that is a shell script of these lines; it runs in a folder of the test's own.
-  c64out::ToolCommand Tool(const std::string& lines, std::vector<std::string> arguments = {}) {
+  c64out::ToolCommand Tool(const std::string& lines) {
     support::WriteText(tool, "#!/bin/sh\ncd '" + app::TextFromPath(folder.Path()) + "'\n" + lines + "\n");
     permissions(tool, fs::perms::owner_all);
-    return {app::TextFromPath(tool), std::move(arguments)};
+    return {app::TextFromPath(tool), {}};
   }
   std::string FailureOf(const std::string& lines) { return runner.RunAndWait(Tool(lines)).failure; }
   bool IsThereSoon(const char* name) {
@@ -40,14 +39,6 @@ class ToolRunnerTest : public testing::Test {
   fs::path tool = folder / "tool";
   QtToolRunner runner;
 };
-
-TEST_F(ToolRunnerTest, ArgumentsArriveAsTheyAre) {
-  const std::vector<std::string> odd{"a b", "\"q\"", "'", "$HOME", "&", ";ls", "", "\u00e4\u00f6", "*"};
-  EXPECT_EQ(runner.RunAndWait(Tool("printf '%s\\n' \"$@\" > out", odd)).failure, "");
-  std::string expected;
-  for (const std::string& argument : odd) expected += argument + "\n";
-  EXPECT_EQ(support::ReadText(folder / "out"), expected);
-}
 
 TEST_F(ToolRunnerTest, SaysWhyAToolFailed) {
   EXPECT_EQ(FailureOf("echo noise"), "");

@@ -49,7 +49,24 @@ TEST_F(WorkplaceTest, CheckMarksFollowTheWindows) {
   }
 }
 
-TEST_F(WorkplaceTest, TheWheelAndAMiddleDragMoveThePictureUnderThePointer) {
+TEST_F(WorkplaceTest, KeysWheelDragAndClickMoveTheZoomArea) {
+  const std::tuple<Qt::Key, Qt::KeyboardModifiers, QPoint> presses[] = {
+      {Qt::Key_Left, {}, {0, 0}},
+      {Qt::Key_Right, {}, {8, 0}},
+      {Qt::Key_Down, {}, {8, 8}},
+      {Qt::Key_Right, Qt::ControlModifier, {88, 8}},
+      {Qt::Key_Down, Qt::ControlModifier, {88, 56}},
+      {Qt::Key_End, {}, {160, 56}},
+      {Qt::Key_Home, {}, {0, 56}},
+      {Qt::Key_PageUp, {}, {0, 0}},
+      {Qt::Key_PageDown, {}, {0, 56}},
+      {Qt::Key_Up, {}, {0, 48}},
+      {Qt::Key_Up, Qt::ControlModifier, {0, 0}},
+  };
+  for (const auto& [key, modifiers, origin] : presses) {
+    QTest::keyClick(Box("frmZoom"), key, modifiers);
+    EXPECT_EQ(ZoomOrigin(), origin) << key;
+  }
   Wheel({300, 300}, 2);
   EXPECT_EQ(ZoomOrigin(), QPoint(0, 16));
   Wheel({300, 300}, 3, Qt::ShiftModifier);
@@ -68,6 +85,21 @@ TEST_F(WorkplaceTest, TheWheelAndAMiddleDragMoveThePictureUnderThePointer) {
   QTest::mousePress(Box("frmZoom"), Qt::MiddleButton, {}, {300, 300});
   MoveMouse(Box("frmZoom"), {200, 230}, Qt::MiddleButton);
   EXPECT_EQ(ZoomOrigin() - origin, QPoint(24, 16));
+  QTest::mouseRelease(Box("frmZoom"), Qt::MiddleButton);
+
+  QWidget* full_view = Box("frmBMPView");
+  QTest::mouseMove(full_view, {160, 100});
+  QTest::mouseClick(full_view, Qt::LeftButton, {}, {160, 100});
+  EXPECT_EQ(ZoomOrigin(), QPoint(88, 24));
+  EXPECT_EQ(Find("frmBMPView")->windowTitle(), " Full view (1:1) x=161, y=101, col=21, row=13");
+  MoveMouse(Box("frmZoom"), {8 + 4, 8 + 2}, Qt::NoButton);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Panel("pnlPointer") == "x=45 y=25 col=12 row=4"; }));
+  EXPECT_EQ(Find("frmBMPView")->windowTitle(), " Full view (1:1)");
+  EXPECT_EQ(Find<QLabel>("lblBits_1")->foregroundRole(), QPalette::Link);
+  Action("mnuZoom_8X")->trigger();
+  EXPECT_EQ(Find("frmZoom")->windowTitle(), " Zoom (8:1)");
+  EXPECT_FALSE(Action("mnuZoom_4X")->isChecked());
+  EXPECT_EQ(ZoomOrigin(), QPoint(0, 0));
   EXPECT_EQ(frame->Document().picture, model::PictureImage());
 }
 
