@@ -36,9 +36,14 @@ class Session : public ProgramTest {
     for (int pixel = 0; pixel < 31; ++pixel) {
       for (const int shift : {16, 8, 0}) block.push_back(static_cast<std::uint8_t>(yellow >> shift));
     }
-    Screenshot("rgb:" + (folder / "screen").string());
-    const app::Bytes screen = support::ReadFile(folder / "screen");
-    const auto found = std::search(screen.begin(), screen.end(), block.begin(), block.end());
+    app::Bytes screen;
+    auto found = screen.end();
+    for (int round = 0; round < 40 && found == screen.end(); ++round) {
+      Wait(250);
+      Screenshot("rgb:" + (folder / "screen").string());
+      screen = support::ReadFile(folder / "screen");
+      found = std::search(screen.begin(), screen.end(), block.begin(), block.end());
+    }
     ASSERT_NE(found, screen.end()) << "the zoom window is not to be seen";
     const auto pixel = (found - screen.begin()) / 3;
     left = static_cast<int>(pixel % kScreenWidth) - 1;  // the grid line

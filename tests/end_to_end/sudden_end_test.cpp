@@ -37,13 +37,15 @@ TEST_F(SuddenEnd, LeavesWorkThatIsOfferedAndSavedAtTheNextStart) {
 
   Start();
   Hands("key alt+y sleep 0.5");
+  EXPECT_EQ(BackgroundIn(copy_file), 1);  // it stays until the work is saved
+  ChangePicture();
   ChangePicture();  // within the minute that no copy is written in
   EndBy(SIGTERM);
-  EXPECT_EQ(BackgroundIn(copy_file), 2);
+  EXPECT_EQ(BackgroundIn(copy_file), 3);
 
   Start();
   Hands("key alt+y sleep 0.5 key ctrl+s sleep 0.5");
-  EXPECT_EQ(BackgroundIn(file), 2);
+  EXPECT_EQ(BackgroundIn(file), 3);
   EXPECT_FALSE(exists(copy_file));
 }
 

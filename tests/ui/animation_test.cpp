@@ -48,6 +48,7 @@ TEST_F(AnimationTest, FramesAreMadeVisitedSavedWhenLeftAndPlayed) {
   EXPECT_EQ(Number(), "2");
 
   const model::PictureImage before = frame->Document().picture;
+  const QImage look = Box("frmBMPView")->grab().toImage();
   Find<QSpinBox>("spnRate")->setValue(25);
   Press("cmdPlay");
   QSet<QRgb> seen;
@@ -57,6 +58,7 @@ TEST_F(AnimationTest, FramesAreMadeVisitedSavedWhenLeftAndPlayed) {
   }));
   Press("cmdPlay");
   EXPECT_EQ(frame->Document().picture, before);
+  EXPECT_EQ(Box("frmBMPView")->grab().toImage(), look);
   EXPECT_EQ(settings.values["AnimProperties/PlayRate"], "25");
 
   Find<QLineEdit>("txtFrame")->setText("3");

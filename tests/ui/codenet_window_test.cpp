@@ -89,6 +89,7 @@ TEST_F(CodenetWindowTest, IsFilledInByKeyboard) {
   host->setCursorPosition(0);
   QTest::keyClicks(host, " ");
   EXPECT_EQ(host->text(), "127 .0.0.1");
+  EXPECT_LE(host->cursorPosition(), 1);  // it stays where the user types
   Text(2)->setText(File("a.prg", {0, 0xC0, 1}));
   Control("cmdExit")->setFocus();
   QTest::keyClick(Control("cmdExit"), Qt::Key_Return);  // presses this button, not the default one

@@ -26,8 +26,9 @@ namespace kelvo::ui {
 
 class MainFrameTest : public testing::Test {
  protected:
-  void Start() {
-    frame = std::make_unique<MainFrame>(folders, settings, clock);
+  void Start() { StartWith(settings); }
+  void StartWith(app::SettingsStore& store) {
+    frame = std::make_unique<MainFrame>(folders, store, clock);
     frame->StartUp();
     frame->show();
     QApplication::processEvents();

@@ -68,10 +68,7 @@ TEST_F(MainFrameTest, StartsWithAnyNonsenseInAllSettings) {
            "AAAA/wAAAAD9////", "\xFF\xFE\x80", std::string(100000, '9')}) {
     SCOPED_TRACE(nonsense.substr(0, 60));
     StubbornSettings stubborn(nonsense);
-    frame = std::make_unique<MainFrame>(folders, stubborn, clock);
-    frame->StartUp();
-    frame->show();
-    QApplication::processEvents();
+    StartWith(stubborn);
     EXPECT_TRUE(frame->isVisible());
     EXPECT_TRUE(frame->screen()->virtualGeometry().intersects(frame->geometry()));
     EXPECT_LE(frame->width(), 2000);
