@@ -39,7 +39,7 @@ TEST_F(MainFrameTest, FirstStartMakesFoldersAndShowsDefaults) {
   EXPECT_FALSE(Action("mnuReload")->isEnabled());
 }
 
-TEST_F(MainFrameTest, ADroppedPictureShowsInBothWindows) {
+TEST_F(MainFrameTest, ADroppedPictureIsShownAndItsLookOutlivesThePasses) {
   Start();
   QMimeData data;
   data.setUrls({QUrl::fromLocalFile(ToQt(WriteKoala("castle.koa")))});
