@@ -1,4 +1,4 @@
-// The processor of a C64 for tests: every documented opcode, with the cycles that the real one takes.
+// The processor of a C64 for tests: every documented opcode but BRK, with the cycles that the real one takes.
 //
 // Decimal mode is left out: the flag is kept, but ADC and SBC always count in binary. Interrupts come from outside.
 #pragma once
@@ -15,7 +15,7 @@ class Bus {
   virtual std::uint8_t Read(std::uint16_t address) = 0;
   virtual void Write(std::uint16_t address, std::uint8_t value) = 0;
   // A byte of an instruction.
-  virtual std::uint8_t Fetch(std::uint16_t address) { return Read(address); }
+  virtual std::uint8_t Fetch(std::uint16_t address) = 0;
 };
 
 // A program did what no sound program does. The message says what and where.
@@ -37,9 +37,9 @@ class Cpu6502 {
     kNegative = 128
   };
 
-  explicit Cpu6502(Bus& bus) : bus_(bus) {}
+  explicit Cpu6502(Bus& reached) : bus(reached) {}
 
-  // Runs one instruction. Throws MachineFault on an opcode that is not documented.
+  // Runs one instruction. Throws MachineFault on an opcode that no sound program has.
   void Step();
   // Pushes pc and status and goes on at the address that `vector` ($FFFA, $FFFE) holds.
   void Interrupt(std::uint16_t vector);
@@ -51,18 +51,15 @@ class Cpu6502 {
   bool Has(Flag flag) const { return (status & flag) != 0; }
   void Set(Flag flag, bool on) { status = static_cast<std::uint8_t>(on ? status | flag : status & ~flag); }
 
-  std::uint8_t a = 0, x = 0, y = 0, stack = 0xFF, status = kUnused;
-  std::uint16_t pc = 0;
-  std::uint64_t cycles = 0;
-
- private:
-  friend struct Instructions;
-
-  std::uint8_t FetchByte() { return bus_.Fetch(pc++); }
+  // What follows an opcode, and an address in memory.
+  std::uint8_t FetchByte() { return bus.Fetch(pc++); }
   std::uint16_t FetchWord();
   std::uint16_t ReadWord(std::uint16_t low, std::uint16_t high);
 
-  Bus& bus_;
+  Bus& bus;
+  std::uint8_t a = 0, x = 0, y = 0, stack = 0xFF, status = kUnused;
+  std::uint16_t pc = 0;
+  std::uint64_t cycles = 0;
 };
 
 }  // namespace kelvo::support
