@@ -6,23 +6,20 @@
 #include <cstdint>
 #include <limits>
 #include <mutex>
-#include <random>
 #include <thread>
-#include <vector>
 
 #include "sockets.h"
 #include "support/codenet_machine.h"
 
 namespace kelvo::support {
 
-// How bad the network in front of it is. Of the packets, both ways, that share is lost, held back until up to four
-// later ones have passed, doubled, reordered, damaged (lost by its checksum, or with damage that shows), or given the
-// sequence number of an earlier packet.
+// The network in front of it, and its pace.
 struct Network {
-  double disturbed = 0;
-  unsigned seed = 1;
-  std::chrono::microseconds answers_after{0};            // what the machine takes for a packet
-  int vanishes_after = std::numeric_limits<int>::max();  // packets, of which the server then hears no more
+  static constexpr int kNever = std::numeric_limits<int>::max();
+
+  std::chrono::microseconds answers_after{0};  // what the machine takes for a packet
+  int vanishes_after = kNever;                 // packets, of which the server then hears no more
+  int loses_every = kNever;                    // so many packets, one does not arrive
 };
 
 class CodenetServer {
@@ -39,31 +36,13 @@ class CodenetServer {
   CodenetMachine Machine() const;
 
  private:
-  enum class Way { kToMachine, kToClient };
-
-  // A packet that waits until `overtakers` later ones have come, or until the network is quiet.
-  struct Held {
-    Way way;
-    app::Bytes packet;
-    int overtakers;
-  };
-
   void Serve();
-  void Arrive(const app::Bytes& packet, const sockaddr_in& client);
-  void Pass(Way way, app::Bytes packet);
-  void Disturb(Way way, app::Bytes packet);
-  void Damage(app::Bytes& packet);
-  void Deliver(Way way, const app::Bytes& packet);
-  void LetGo(int overtakers);
-  int Random(int below);
+  app::Bytes AnswerTo(CodenetMachine::Packet packet);
 
   codenet::NetworkUse network_use_;
   Network network_;
-  std::mt19937 random_;
   codenet::SocketHandle socket_ = codenet::kNoSocket;
   std::uint16_t port_ = 0;
-  sockaddr_in client_{};
-  std::vector<Held> held_;
   int arrived_ = 0;
   mutable std::mutex mutex_;  // guards machine_
   CodenetMachine machine_;

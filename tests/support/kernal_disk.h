@@ -3,7 +3,6 @@
 
 #include <string>
 
-#include "app/whole_file.h"
 #include "support/c64_machine.h"
 
 namespace kelvo::support {
@@ -11,7 +10,16 @@ namespace kelvo::support {
 class KernalDisk {
  public:
   // Takes the calls of `machine`, which must live as long as this.
-  explicit KernalDisk(C64Machine& machine);
+  explicit KernalDisk(C64Machine& machine) : machine_(machine) {
+    machine.Poke(kStatus, 0);
+    machine.Trap(0xFFBD, [this](Cpu6502& cpu) { SetName(cpu); });
+    machine.Trap(0xFFBA, [this](Cpu6502& cpu) { device = cpu.x; });  // SETLFS
+    machine.Trap(0xFFD8, [this](Cpu6502& cpu) { Save(cpu); });
+    machine.Trap(0xFFB4, [this](Cpu6502& cpu) { Talk(cpu); });
+    machine.Trap(0xFF96, [this](Cpu6502& cpu) { on_channel_15_ = cpu.a == 0x6F; });  // TKSA
+    machine.Trap(0xFFA5, [this](Cpu6502& cpu) { NextOfMessage(cpu); });              // ACPTR
+    machine.Trap(0xFFAB, [this](Cpu6502&) { on_channel_15_ = false; });              // UNTLK
+  }
 
   // What the drive will do: whether it is there at all, and what it then says on its channel 15.
   bool present = true;
@@ -19,13 +27,41 @@ class KernalDisk {
 
   // What it was told to save, in the C64's memory up to `end`, which is not saved itself.
   int saves = 0;
-  app::Bytes name;
+  std::string name;
   int device = 0, start = 0, end = 0;
 
  private:
-  void Save(Cpu6502& cpu);
-  void Talk(Cpu6502& cpu);
-  void NextOfMessage(Cpu6502& cpu);
+  static constexpr std::uint16_t kStatus = 0x90;
+
+  void SetName(const Cpu6502& cpu) {
+    name.clear();
+    for (int i = 0; i < cpu.a; ++i) {
+      name += static_cast<char>(machine_.Read(static_cast<std::uint16_t>((cpu.x | cpu.y << 8) + i)));
+    }
+  }
+
+  // The KERNAL reports an error of its own in the carry, with its number in A.
+  void Save(Cpu6502& cpu) {
+    constexpr std::uint8_t kDeviceNotPresent = 5, kMissingFileName = 8;
+    ++saves;
+    start = machine_.Read(cpu.a) | machine_.Read(static_cast<std::uint16_t>(cpu.a + 1)) << 8;
+    end = cpu.x | cpu.y << 8;
+    cpu.a = name.empty() ? kMissingFileName : kDeviceNotPresent;
+    cpu.Set(Cpu6502::kCarry, name.empty() || !present);
+    cpu.Set(Cpu6502::kInterruptsOff, false);
+  }
+
+  void Talk(const Cpu6502& cpu) {
+    if (cpu.a != device) throw MachineFault("another drive is asked than the one that saved");
+    read_ = 0;
+  }
+
+  void NextOfMessage(Cpu6502& cpu) {
+    constexpr std::uint8_t kEnd = 0x40;
+    if (!on_channel_15_) throw MachineFault("nothing talks");
+    cpu.a = static_cast<std::uint8_t>(read_ < message.size() ? message[read_] : '\r');
+    if (++read_ >= message.size()) machine_.Poke(kStatus, kEnd);
+  }
 
   C64Machine& machine_;
   std::size_t read_ = 0;

@@ -15,10 +15,14 @@ class SimulatedLine final : public c64out::DatagramSocket, public c64out::Transf
  public:
   using Microseconds = std::chrono::microseconds;
 
-  // What becomes of one packet and its answers. Delays count from the moment of sending.
+  // What becomes of a datagram on its way: when each copy of it is there, and what it has turned into.
+  struct Way {
+    std::vector<Microseconds> delays{Microseconds(10)};
+    std::function<void(app::Bytes& copy)> damage = [](app::Bytes&) {};
+  };
+  // What becomes of a packet, and then of each answer to it.
   struct Fate {
-    std::vector<Microseconds> copies{Microseconds(10)};   // when each copy reaches the C64
-    std::vector<Microseconds> answers{Microseconds(10)};  // when each copy of each answer is back, after that
+    Way there{}, back{};
   };
 
   void Send(std::span<const std::uint8_t> datagram) override {
@@ -26,7 +30,11 @@ class SimulatedLine final : public c64out::DatagramSocket, public c64out::Transf
     sent.push_back(packet);
     sent_at.push_back(Elapsed());
     const Fate fate = fate_of(static_cast<int>(sent.size()) - 1, packet);
-    for (const Microseconds delay : fate.copies) At(delay, [=, this] { return Reach(packet, fate.answers); });
+    Pass(fate.there, packet, [this, back = fate.back](const app::Bytes& copy) {
+      const app::Bytes answer = machine.Handle(copy);
+      if (!answer.empty()) Pass(back, answer, [](const app::Bytes& bytes) { return bytes; });
+      return app::Bytes();
+    });
   }
 
   app::Bytes Receive(Microseconds wait) override {
@@ -57,22 +65,20 @@ class SimulatedLine final : public c64out::DatagramSocket, public c64out::Transf
   std::vector<Microseconds> sent_at;
 
  private:
-  using Event = std::function<app::Bytes()>;  // gives what reaches the sender then
+  using Arrival = std::function<app::Bytes(const app::Bytes&)>;  // gives what reaches the sender by it
 
   static constexpr Time kStart = Time(std::chrono::hours(1));
 
-  void At(Microseconds delay, Event event) { events_.emplace(now_ + delay, std::move(event)); }
-
-  app::Bytes Reach(const app::Bytes& packet, const std::vector<Microseconds>& delays) {
-    const app::Bytes answer = machine.Handle(packet);
-    if (!answer.empty()) {
-      for (const Microseconds delay : delays) At(delay, [answer] { return answer; });
+  void Pass(const Way& way, const app::Bytes& datagram, const Arrival& arrival) {
+    for (const Microseconds delay : way.delays) {
+      app::Bytes copy = datagram;
+      way.damage(copy);
+      events_.emplace(now_ + delay, [=] { return arrival(copy); });
     }
-    return {};
   }
 
   Time now_ = kStart;
-  std::multimap<Time, Event> events_;
+  std::multimap<Time, std::function<app::Bytes()>> events_;
 };
 
 }  // namespace kelvo::support
