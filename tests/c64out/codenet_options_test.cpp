@@ -53,19 +53,23 @@ TEST(CodenetOptions, ComposesWhatTheToolUnderstands) {
   }
 }
 
-// An empty or short address is red exactly where the command holds it, and is sent all the same.
-TEST(CodenetOptions, MarksIncompleteCommands) {
+// A control is there for what the command holds. An empty or short address is red exactly then, and sent all the same.
+TEST(CodenetOptions, AreIncompleteAndOpenWhereTheyHaveASay) {
   for (const Choice& choice : kChoices) {
     SCOPED_TRACE(choice.options);
     const CodenetForm form = Form(choice.type, choice.set_destination, choice.execute);
     const std::string options = choice.options;
+    const bool prg = choice.type == FileType::kPrg, has_destination = options.find("$C000") != std::string::npos,
+               has_execute_address = options.find("$cf00") != std::string::npos;
+    EXPECT_EQ(EnabledControls(form),
+              (CodenetControls{prg, has_destination, prg && !choice.set_destination, prg, prg, has_execute_address}));
     for (const char* address : {"", "C00", "C0000", "\xC3\xA9\xC3\xA9"}) {
       CodenetForm bad = form;
       bad.destination = address;
-      EXPECT_EQ(ComposeOptions(bad, true).incomplete, options.find("$C000") != std::string::npos);
+      EXPECT_EQ(ComposeOptions(bad, true).incomplete, has_destination);
       bad = form;
       bad.execute_address = address;
-      EXPECT_EQ(ComposeOptions(bad, true).incomplete, options.find("$cf00") != std::string::npos);
+      EXPECT_EQ(ComposeOptions(bad, true).incomplete, has_execute_address);
     }
     EXPECT_TRUE(ComposeOptions(form, false).incomplete);
     CodenetForm nowhere = form;
@@ -74,54 +78,26 @@ TEST(CodenetOptions, MarksIncompleteCommands) {
   }
 }
 
-TEST(CodenetOptions, TrimsThreeFieldsAndKeepsTheRestAsTyped) {
+TEST(CodenetOptions, TrimThreeFieldsAndKeepTheRestAsTyped) {
   CodenetForm form = Form(FileType::kPrg, true, ExecuteChoice::kExecuteAddress);
   form.host = " 127.0.0.1 ";
   form.port = " 6000 ";
   form.destination = " C00 ";
   form.execute_address = "1; a";
-  const ComposedOptions composed = ComposeOptions(form, true);
-  EXPECT_EQ(composed.options, " -n 127.0.0.1 -p 6000 -wa [FILE] $C00 -e $1; a");
-  EXPECT_TRUE(composed.incomplete);
+  EXPECT_EQ(ComposeOptions(form, true).options, " -n 127.0.0.1 -p 6000 -wa [FILE] $C00 -e $1; a");
   EXPECT_EQ(CodenetArgumentList(form, "x").back(), "$1; a");
-  CodenetForm nowhere;
-  nowhere.host = "";
-  EXPECT_EQ(ComposeOptions(nowhere, true).options, " -n  -w [FILE]");
 }
 
-TEST(CodenetOptions, EnablesOnlyWhatHasASay) {
-  for (const Choice& choice : kChoices) {
-    SCOPED_TRACE(choice.options);
-    const CodenetForm form = Form(choice.type, choice.set_destination, choice.execute);
-    const std::string options = choice.options;
-    const CodenetControls controls = EnabledControls(form);
-    EXPECT_EQ(controls.destination, options.find("$C000") != std::string::npos);
-    EXPECT_EQ(controls.execute_address, options.find("$cf00") != std::string::npos);
-    const auto options_with = [&](ExecuteChoice execute) {
-      return ComposeOptions(Form(choice.type, choice.set_destination, execute), true).options;
-    };
-    const std::string transfer_only = options_with(ExecuteChoice::kTransferOnly);
-    EXPECT_EQ(controls.execute, options_with(ExecuteChoice::kExecute) != transfer_only);
-    EXPECT_EQ(controls.execute_at_address, options_with(ExecuteChoice::kExecuteAddress) != transfer_only);
-    EXPECT_EQ(controls.set_destination, choice.type == FileType::kPrg);
-  }
-}
-
-TEST(CodenetSettings, KeepTheForm) {
+TEST(CodenetSettings, KeepTheFormInTheirOwnForms) {
   support::MapSettings settings;
   EXPECT_EQ(LoadCodenetForm(settings), CodenetForm());
   for (const Choice& choice : kChoices) {
     CodenetForm form = Form(choice.type, choice.set_destination, choice.execute);
     form.file = "a b.prg";
     form.port = "6000";
-    form.prg_name = "PIC";
     SaveCodenetForm(settings, form);
     EXPECT_EQ(LoadCodenetForm(settings), form);
   }
-}
-
-TEST(CodenetSettings, AreStoredInTheirOwnForms) {
-  support::MapSettings settings;
   CodenetForm form = Form(FileType::kBinary, true, ExecuteChoice::kExecute);
   form.host = " 127.0.0.2 ";
   form.prg_name = " PIC ";

@@ -195,6 +195,7 @@ TEST(CodenetStart, NeverStartsAProgramTwice) {
            Case{"the order is lost", {kLost, kLost, Fate()}, true, "", 1},
            Case{"the answer is lost", {kAnswerLost}, true, written + may_run, 1},
            Case{"the answer is slower than the ping's", {{.back = {.delays = {milliseconds(300)}}}}, false, "", 1},
+           Case{"its answer comes late, and no ping's", {{.back = {.delays = {milliseconds(300)}}}}, true, "", 1},
            Case{"every order is lost", {}, true, written + unconfirmed, 0},
        }) {
     SCOPED_TRACE(start.what);

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "support/kernal_disk.h"
+#include "support/picture_program.h"
 #include "support/pictures.h"
 #include "support/run_tool.h"
 #include "support/temp_folder.h"
@@ -54,7 +55,7 @@ TEST(SaverTemplate, FillsOneKindOfPlaceholderInEachLine) {
 class SaverOnTheC64 : public testing::Test {
  protected:
   void SetUp() override {
-    if (support::RunTool("64tass", {"--version"}).exit_code != 0) GTEST_SKIP() << "64tass is not installed";
+    if (!support::HasAssembler()) GTEST_SKIP() << "64tass is not installed";
   }
 
   app::Bytes Assemble(const std::string& name, std::uintmax_t program_size = 7000) const {
@@ -95,7 +96,7 @@ TEST_F(SaverOnTheC64, SavesUpToTheEndAddressOnTheLastDrive) {
   machine_.Poke(0xBA, 9);
   Run(Assemble("pic1.x"));
   EXPECT_EQ(disk_.saves, 1);
-  EXPECT_EQ(std::string(disk_.name.begin(), disk_.name.end()), "PIC1.X");
+  EXPECT_EQ(disk_.name, "PIC1.X");
   EXPECT_EQ(disk_.device, 9);
   EXPECT_EQ(disk_.start, 0x0801);
   EXPECT_EQ(disk_.end, 0x2359);
@@ -117,7 +118,7 @@ TEST_F(SaverOnTheC64, TakesEveryByteInANameAndCutsItToSixteen) {
     EXPECT_EQ(std::string(saver.end() - static_cast<std::ptrdiff_t>(expected.size()), saver.end()), expected);
   }
   Run(Assemble("BGBG;"));
-  EXPECT_EQ(std::string(disk_.name.begin(), disk_.name.end()), "\"'\"'\x1B");
+  EXPECT_EQ(disk_.name, "\"'\"'\x1B");
 }
 
 TEST_F(SaverOnTheC64, ShowsRedWhenTheFileIsNotOnTheDisk) {
@@ -126,15 +127,13 @@ TEST_F(SaverOnTheC64, ShowsRedWhenTheFileIsNotOnTheDisk) {
   EXPECT_EQ(Border(), kRed);
 }
 
-TEST_F(SaverOnTheC64, ShowsRedWithoutADrive) {
+TEST_F(SaverOnTheC64, ShowsRedWithoutADriveOrAName) {
   disk_.present = false;
   machine_.Poke(0xBA, 1);
   Run(Assemble("a"));
   EXPECT_EQ(disk_.device, 8);
   EXPECT_EQ(Border(), kRed);
-}
-
-TEST_F(SaverOnTheC64, ShowsRedWithoutAName) {
+  disk_.present = true;
   Run(Assemble(""));
   EXPECT_EQ(Border(), kRed);
 }
