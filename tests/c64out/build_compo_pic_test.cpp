@@ -117,22 +117,23 @@ TEST_F(BuildCompoPicTest, MakesADiskAndShowsIt) {
 TEST_F(BuildCompoPicTest, SendsToTheC64WithoutVice) {
   settings.Write(kVicePath, "/gone");
   settings.Write(kCodenetC64Ip, " 127.0.0.1 ");
-  support::WriteText(folder / "art/My Pic.prg", "older");
+  support::WriteText(folder / "art/My Pic.prg", "\x01 older");
   EXPECT_TRUE(Build(kPreview));
   EXPECT_EQ(prompt.lines, (Lines{"CODENET", "--> Compiling source", "--> Crushing source", "--> Adding depacker",
                                  "--> Sending to 127.0.0.1", "--> Transfer complete"}));
   EXPECT_EQ(tools.commands.back(), "codenet -x bmpshow.prg -n 127.0.0.1");
   EXPECT_EQ(tools.sources.front(), "show " + System("temp.kvp") + "\r\n colour 0B\r\n net\r\n");
   EXPECT_TRUE(FilesIn(folder / "art").empty());
-  EXPECT_EQ(support::ReadText(folders.Backup() / FilesIn(folders.Backup()).front()), "older");  // it is no program
+  ASSERT_EQ(FilesIn(folders.Backup()).size(), 1U);  // it was no program
+  EXPECT_EQ(support::ReadText(folders.Backup() / FilesIn(folders.Backup()).front()), "\x01 older");
   EXPECT_TRUE(messages.shown.empty());
 }
 
 TEST_F(BuildCompoPicTest, KeepsAPrgThatIsNoProgramInBackup) {
-  support::WriteText(folder / "art/My Pic.prg", "a picture");
+  support::WriteText(folder / "art/My Pic.prg", "a\x08 picture");
   EXPECT_TRUE(Build(kPrg));
   ASSERT_EQ(FilesIn(folders.Backup()).size(), 1U);
-  EXPECT_EQ(support::ReadText(folders.Backup() / FilesIn(folders.Backup()).front()), "a picture");
+  EXPECT_EQ(support::ReadText(folders.Backup() / FilesIn(folders.Backup()).front()), "a\x08 picture");
   support::WriteFile(folder / "art/My Pic.prg", {0x01, 0x08, 1, 2});
   EXPECT_TRUE(Build(kPrg));
   EXPECT_EQ(FilesIn(folders.Backup()).size(), 2U);  // the snapshot's backup alone came

@@ -1,31 +1,23 @@
 #include "support/c64_machine.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <string>
+
+#include "model/number_text.h"
 
 namespace kelvo::support {
 namespace {
 
 constexpr std::uint16_t kBasicLine = 0x0801, kBackInBasic = 0xE147, kIrqHandler = 0xEA31, kNmiHandler = 0xFE47;
-constexpr std::uint8_t kRts = 0x60, kSys = 0x9E;
+constexpr std::uint8_t kSys = 0x9E;
 constexpr std::uint64_t kJiffy = 16421;
 
 // Zero page bytes that a program may change and still return to BASIC, or be stopped by STOP and RESTORE.
-struct Range {
-  int first, last;
-};
-constexpr Range kFreeZeroPage[] = {{0x00, 0x06}, {0x22, 0x2A}, {0x57, 0x72}, {0x8B, 0x8F}, {0xFB, 0xFF}};
+constexpr std::pair<int, int> kFreeZeroPage[] = {{0x00, 0x06}, {0x22, 0x2A}, {0x57, 0x72}, {0x8B, 0x8F}, {0xFB, 0xFF}};
 
-bool IsFree(std::uint16_t address) {
+bool IsFree(int address) {
   return std::any_of(std::begin(kFreeZeroPage), std::end(kFreeZeroPage),
-                     [address](Range free) { return address >= free.first && address <= free.last; });
-}
-
-std::string Hex(std::uint16_t value) {
-  char text[8];
-  std::snprintf(text, sizeof text, "$%04X", static_cast<unsigned>(value));
-  return text;
+                     [=](auto range) { return address >= range.first && address <= range.second; });
 }
 
 }  // namespace
@@ -39,12 +31,12 @@ C64Machine::C64Machine() {
   for (const auto& [vector, handler] : vectors) {
     Poke(vector, static_cast<std::uint8_t>(handler));
     Poke(static_cast<std::uint16_t>(vector + 1), static_cast<std::uint8_t>(handler >> 8));
+    traps_[handler] = nullptr;
   }
   const std::pair<std::size_t, std::uint8_t> registers[] = {{0x11, 0x1B},  {0x16, 0xC8},  {0x18, 0x15},
                                                             {0x15, 0xFF},  {0x20, 14},    {0x21, 6},
                                                             {0xC0D, 0x81}, {0xD00, 0x97}, {0xD02, 0x3F}};
   for (const auto& [index, value] : registers) io_[index] = value;
-  for (const std::uint16_t handler : {kIrqHandler, kNmiHandler}) traps_[handler] = nullptr;
 }
 
 void C64Machine::Poke(std::uint16_t address, std::uint8_t value) {
@@ -136,14 +128,8 @@ C64Machine::Area C64Machine::Chip(std::uint16_t address) const {
 }
 
 std::uint8_t C64Machine::Read(std::uint16_t address) {
-  switch (Chip(address)) {
-    case Area::kRam:
-      return ram_[address];
-    case Area::kIo:
-      return ReadIo(address);
-    case Area::kRom:
-      break;
-  }
+  const Area area = Chip(address);
+  if (area != Area::kRom) return area == Area::kRam ? ram_[address] : ReadIo(address);
   // The KERNAL's interrupt entries go on through their vectors in RAM.
   if (address == 0xFFFE || address == 0xFFFF) return ram_[address - 0xFFFE + 0x0314];
   if (address == 0xFFFA || address == 0xFFFB) return ram_[address - 0xFFFA + 0x0318];
@@ -176,14 +162,12 @@ std::uint8_t C64Machine::ReadIo(std::uint16_t address) {
 
 void C64Machine::WriteIo(std::uint16_t address, std::uint8_t value) {
   const std::size_t index = address - 0xD000U;
-  const bool interrupt_mask = index == 0xC0D || index == 0xD0D;
-  if (!interrupt_mask) {
+  if (index != 0xC0D && index != 0xD0D) {
     io_[index] = value;
-  } else if ((value & 0x80) != 0) {
-    io_[index] |= value & 0x1F;
-  } else {
-    io_[index] &= static_cast<std::uint8_t>(~value);
+    return;
   }
+  const int sources = value & 0x1F;  // of interrupts, to be let through or masked
+  io_[index] = static_cast<std::uint8_t>((value & 0x80) != 0 ? io_[index] | sources : io_[index] & ~sources);
 }
 
 bool C64Machine::IsShown(std::uint16_t address) const {
@@ -201,24 +185,21 @@ std::uint16_t C64Machine::BankBase() const {
   return static_cast<std::uint16_t>((3 - lines) * 0x4000);
 }
 
-std::vector<std::uint8_t> C64Machine::Block(int offset, int size) const {
-  const auto begin = ram_.begin() + BankBase() + offset;
-  return {begin, begin + size};
-}
-
 C64Machine::Shown C64Machine::Show() const {
   Shown shown{BankBase() / 0x4000, io_[0x11], io_[0x16], io_[0x18], io_[0x20], io_[0x21], io_[0x15], {}, {}, {}};
   shown.border &= 0x0F;
   shown.background &= 0x0F;
-  shown.bitmap = Block((shown.memory & 8) << 10, 8000);
-  shown.screen = Block((shown.memory & 0xF0) << 6, 1000);
+  const auto bitmap = ram_.begin() + BankBase() + ((shown.memory & 8) << 10);
+  const auto screen = ram_.begin() + BankBase() + ((shown.memory & 0xF0) << 6);
+  shown.bitmap.assign(bitmap, bitmap + 8000);
+  shown.screen.assign(screen, screen + 1000);
   for (std::size_t i = 0; i < 1000; ++i) shown.colours.push_back(io_[0x800 + i] & 0x0F);
   return shown;
 }
 
 void C64Machine::Fault(const std::string& what, std::uint16_t address) const {
-  throw MachineFault(what + ": " + Hex(address) + ", program counter " + Hex(cpu_.pc) + " after " +
-                     std::to_string(cpu_.cycles) + " cycles");
+  throw MachineFault(what + ": $" + model::ToHex(address, 4) + ", program counter $" + model::ToHex(cpu_.pc, 4) +
+                     " after " + std::to_string(cpu_.cycles) + " cycles");
 }
 
 }  // namespace kelvo::support

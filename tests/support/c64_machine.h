@@ -10,7 +10,6 @@
 #include <cstdint>
 #include <functional>
 #include <map>
-#include <optional>
 #include <span>
 #include <vector>
 
@@ -25,9 +24,8 @@ class C64Machine final : public Bus {
 
   // What the VIC shows. The blocks are what it reads through its bank, the colours low nibbles.
   struct Shown {
-    int bank = 0;  // 0..3, each 16 KB
-    std::uint8_t control1 = 0, control2 = 0, memory = 0, border = 0, background = 0,
-                 sprites = 0;  // $D011, $D016, $D018
+    int bank;                                                              // 0..3, each 16 KB
+    std::uint8_t control1, control2, memory, border, background, sprites;  // $D011, $D016, $D018, ...
     std::vector<std::uint8_t> bitmap, screen, colours;
   };
 
@@ -68,7 +66,6 @@ class C64Machine final : public Bus {
   bool IsShown(std::uint16_t address) const;
   std::uint16_t BankBase() const;
   std::uint16_t SysAddress() const;
-  std::vector<std::uint8_t> Block(int offset, int size) const;
   void Interrupts();
   void CallTrap();
   [[noreturn]] void Fault(const std::string& what, std::uint16_t address) const;

@@ -8,18 +8,8 @@ namespace {
 
 using Cpu = Cpu6502;
 
-// Bits 2 to 4 of an opcode, in this order; but see ModeOf().
-enum Mode {
-  kPointerX,
-  kZeroPage,
-  kImmediate,
-  kAbsolute,
-  kPointerY,
-  kZeroPageIndexed,
-  kAbsoluteY,
-  kAbsoluteIndexed,
-  kAccumulator
-};
+// Bits 2 to 4 of an opcode, in this order; but see ModeOf(). LDX and STX have Y for X.
+enum Mode { kPointerX, kZeroPage, kImmediate, kAbsolute, kPointerY, kZeroPageX, kAbsoluteY, kAbsoluteX, kAccumulator };
 
 // What an instruction does with its operand decides its cycles.
 enum class Access { kRead, kStore, kModify };
@@ -117,8 +107,10 @@ std::uint16_t Indexed(Cpu& cpu, int base, int index, Access access) {
   return static_cast<std::uint16_t>(address);
 }
 
+// A pointer's high byte comes from the same page, even where the pointer lies at its end.
 std::uint16_t PointerAt(Cpu& cpu, int place) {
-  return cpu.ReadWord(static_cast<std::uint16_t>(place & 0xFF), static_cast<std::uint16_t>((place + 1) & 0xFF));
+  return cpu.ReadWord(static_cast<std::uint16_t>(place),
+                      static_cast<std::uint16_t>((place & 0xFF00) | ((place + 1) & 0xFF)));
 }
 
 Mode ModeOf(int opcode) {
@@ -133,7 +125,7 @@ std::uint16_t Locate(Cpu& cpu, Mode mode, const Family& family) {
   cpu.cycles += kReadCycles[mode];
   switch (mode) {
     case kPointerX:
-      return PointerAt(cpu, cpu.FetchByte() + cpu.x);
+      return PointerAt(cpu, static_cast<std::uint8_t>(cpu.FetchByte() + cpu.x));
     case kZeroPage:
       return cpu.FetchByte();
     case kImmediate:
@@ -142,11 +134,11 @@ std::uint16_t Locate(Cpu& cpu, Mode mode, const Family& family) {
       return cpu.FetchWord();
     case kPointerY:
       return Indexed(cpu, PointerAt(cpu, cpu.FetchByte()), cpu.y, family.access);
-    case kZeroPageIndexed:
+    case kZeroPageX:
       return static_cast<std::uint8_t>(cpu.FetchByte() + cpu.*family.index);
     case kAbsoluteY:
       return Indexed(cpu, cpu.FetchWord(), cpu.y, family.access);
-    case kAbsoluteIndexed:
+    case kAbsoluteX:
       return Indexed(cpu, cpu.FetchWord(), cpu.*family.index, family.access);
     default:
       return 0;
@@ -188,17 +180,6 @@ void Call(Cpu& cpu) {
   cpu.pc = target;
 }
 
-// The high byte comes from the same page, even where the pointer lies at its end.
-void JumpThroughPointer(Cpu& cpu) {
-  const int low = cpu.FetchWord();
-  cpu.pc =
-      cpu.ReadWord(static_cast<std::uint16_t>(low), static_cast<std::uint16_t>((low & 0xFF00) | ((low + 1) & 0xFF)));
-}
-
-void PullStatus(Cpu& cpu) {
-  cpu.status = static_cast<std::uint8_t>((cpu.Pull() | Cpu::kUnused) & ~Cpu::kBreak);
-}
-
 struct Single {
   std::uint8_t opcode;
   std::uint64_t cycles;
@@ -210,11 +191,11 @@ constexpr Single kSingles[] = {
     {0x60, 6, [](Cpu& cpu) { cpu.ReturnFromSubroutine(); }},
     {0x40, 6, [](Cpu& cpu) { cpu.ReturnFromInterrupt(); }},
     {0x4C, 3, [](Cpu& cpu) { cpu.pc = cpu.FetchWord(); }},
-    {0x6C, 5, JumpThroughPointer},
+    {0x6C, 5, [](Cpu& cpu) { cpu.pc = PointerAt(cpu, cpu.FetchWord()); }},
     {0x48, 3, [](Cpu& cpu) { cpu.Push(cpu.a); }},
-    {0x08, 3, [](Cpu& cpu) { cpu.Push(cpu.status | Cpu::kBreak); }},
+    {0x08, 3, [](Cpu& cpu) { cpu.Push(cpu.status); }},
     {0x68, 4, [](Cpu& cpu) { cpu.a = Judged(cpu, cpu.Pull()); }},
-    {0x28, 4, PullStatus},
+    {0x28, 4, [](Cpu& cpu) { cpu.status = cpu.Pull(); }},
     {0x9A, 2, [](Cpu& cpu) { cpu.stack = cpu.x; }},
     {0xBA, 2, [](Cpu& cpu) { cpu.x = Judged(cpu, cpu.stack); }},
     {0xAA, 2, [](Cpu& cpu) { cpu.x = Judged(cpu, cpu.a); }},
@@ -235,22 +216,19 @@ constexpr Single kSingles[] = {
     {0xEA, 2, [](Cpu&) {}},
 };
 
-bool PerformSingle(Cpu& cpu, int opcode) {
-  const auto* const single =
-      std::find_if(std::begin(kSingles), std::end(kSingles), [=](const Single& one) { return one.opcode == opcode; });
-  if (single == std::end(kSingles)) return false;
-  cpu.cycles += single->cycles;
-  single->perform(cpu);
-  return true;
-}
-
 }  // namespace
 
 void Cpu6502::Step() {
   const std::uint16_t at = pc;
   const std::uint8_t opcode = FetchByte();
-  if (Branch(*this, opcode) || UseOperand(*this, opcode) || PerformSingle(*this, opcode)) return;
-  throw MachineFault("opcode " + std::to_string(opcode) + " at " + std::to_string(at) + " is not documented");
+  if (Branch(*this, opcode) || UseOperand(*this, opcode)) return;
+  const auto* const single =
+      std::find_if(std::begin(kSingles), std::end(kSingles), [=](const Single& one) { return one.opcode == opcode; });
+  if (single == std::end(kSingles)) {
+    throw MachineFault("opcode " + std::to_string(opcode) + " at " + std::to_string(at) + " is not documented");
+  }
+  cycles += single->cycles;
+  single->perform(*this);
 }
 
 void Cpu6502::Interrupt(std::uint16_t vector) {
@@ -267,7 +245,7 @@ void Cpu6502::ReturnFromSubroutine() {
 }
 
 void Cpu6502::ReturnFromInterrupt() {
-  PullStatus(*this);
+  status = Pull();
   const int low = Pull();
   pc = static_cast<std::uint16_t>(low | Pull() << 8);
 }

@@ -26,16 +26,7 @@ class MachineFault : public std::runtime_error {
 
 class Cpu6502 {
  public:
-  enum Flag : std::uint8_t {
-    kCarry = 1,
-    kZero = 2,
-    kInterruptsOff = 4,
-    kDecimal = 8,
-    kBreak = 16,
-    kUnused = 32,
-    kOverflow = 64,
-    kNegative = 128
-  };
+  enum Flag : std::uint8_t { kCarry = 1, kZero = 2, kInterruptsOff = 4, kDecimal = 8, kOverflow = 64, kNegative = 128 };
 
   explicit Cpu6502(Bus& reached) : bus(reached) {}
 
@@ -57,7 +48,7 @@ class Cpu6502 {
   std::uint16_t ReadWord(std::uint16_t low, std::uint16_t high);
 
   Bus& bus;
-  std::uint8_t a = 0, x = 0, y = 0, stack = 0xFF, status = kUnused;
+  std::uint8_t a = 0, x = 0, y = 0, stack = 0xFF, status = 0;
   std::uint16_t pc = 0;
   std::uint64_t cycles = 0;
 };
