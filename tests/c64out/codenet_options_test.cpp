@@ -9,23 +9,14 @@
 namespace kelvo::c64out {
 namespace {
 
-CodenetForm Form(FileType type, bool set_destination, ExecuteChoice execute) {
-  CodenetForm form;
-  form.file_type = type;
-  form.set_destination = set_destination;
-  form.execute = execute;
-  form.host = "127.0.0.1";
-  form.destination = "C000";
-  form.execute_address = "cf00";
-  return form;
-}
-
 struct Choice {
   FileType type;
   bool set_destination;
   ExecuteChoice execute;
   const char* options;
   FileMode mode;  // as the tool understands it
+
+  CodenetForm Form() const { return {"a b.prg", type, set_destination, "C000", execute, "cf00", "127.0.0.1", "", ""}; }
 };
 
 constexpr Choice kChoices[] = {
@@ -43,11 +34,11 @@ constexpr Choice kChoices[] = {
 TEST(CodenetOptions, ComposesWhatTheToolUnderstands) {
   for (const Choice& choice : kChoices) {
     SCOPED_TRACE(choice.options);
-    const CodenetForm form = Form(choice.type, choice.set_destination, choice.execute);
+    const CodenetForm form = choice.Form();
     const ComposedOptions composed = ComposeOptions(form, true);
     EXPECT_EQ(composed.options, choice.options);
     EXPECT_FALSE(composed.incomplete);
-    const CodenetArguments parsed = ParseCodenetArguments(CodenetArgumentList(form, "a b.prg"));
+    const CodenetArguments parsed = ParseCodenetArguments(CodenetArgumentList(form, form.file));
     EXPECT_EQ(parsed.mode, choice.mode);
     EXPECT_EQ(parsed.file, "a b.prg");
   }
@@ -57,7 +48,7 @@ TEST(CodenetOptions, ComposesWhatTheToolUnderstands) {
 TEST(CodenetOptions, AreIncompleteAndOpenWhereTheyHaveASay) {
   for (const Choice& choice : kChoices) {
     SCOPED_TRACE(choice.options);
-    const CodenetForm form = Form(choice.type, choice.set_destination, choice.execute);
+    const CodenetForm form = choice.Form();
     const std::string options = choice.options;
     const bool prg = choice.type == FileType::kPrg, has_destination = options.find("$C000") != std::string::npos,
                has_execute_address = options.find("$cf00") != std::string::npos;
@@ -79,7 +70,7 @@ TEST(CodenetOptions, AreIncompleteAndOpenWhereTheyHaveASay) {
 }
 
 TEST(CodenetOptions, TrimThreeFieldsAndKeepTheRestAsTyped) {
-  CodenetForm form = Form(FileType::kPrg, true, ExecuteChoice::kExecuteAddress);
+  CodenetForm form = Choice{FileType::kPrg, true, ExecuteChoice::kExecuteAddress, "", {}}.Form();
   form.host = " 127.0.0.1 ";
   form.port = " 6000 ";
   form.destination = " C00 ";
@@ -92,32 +83,30 @@ TEST(CodenetSettings, KeepTheFormInTheirOwnForms) {
   support::MapSettings settings;
   EXPECT_EQ(LoadCodenetForm(settings), CodenetForm());
   for (const Choice& choice : kChoices) {
-    CodenetForm form = Form(choice.type, choice.set_destination, choice.execute);
-    form.file = "a b.prg";
-    form.port = "6000";
-    SaveCodenetForm(settings, form);
-    EXPECT_EQ(LoadCodenetForm(settings), form);
+    SaveCodenetForm(settings, choice.Form());
+    EXPECT_EQ(LoadCodenetForm(settings), choice.Form());
   }
-  CodenetForm form = Form(FileType::kBinary, true, ExecuteChoice::kExecute);
+  CodenetForm form = kChoices[7].Form();
   form.host = " 127.0.0.2 ";
+  form.port = "6000";
   form.prg_name = " PIC ";
   SaveCodenetForm(settings, form);
   const std::map<std::string, std::string> expected{
-      {"CodenetGUI/SendFile", ""},          {"CodenetGUI/FileType", "BIN"},
+      {"CodenetGUI/SendFile", "a b.prg"},   {"CodenetGUI/FileType", "BIN"},
       {"CodenetGUI/SetDestAddress", "1"},   {"CodenetGUI/DestAddress", "C000"},
       {"CodenetGUI/SetExecute", "True"},    {"CodenetGUI/SetExecuteAddress", "False"},
       {"CodenetGUI/TransferOnly", "False"}, {"CodenetGUI/ExecuteAddress", "cf00"},
-      {"CodenetGUI/C64IP", "127.0.0.2"},    {"CodenetGUI/Port", ""},
+      {"CodenetGUI/C64IP", "127.0.0.2"},    {"CodenetGUI/Port", "6000"},
       {"CodenetGUI/PRGName", "PIC"},
   };
   EXPECT_EQ(settings.values, expected);
   settings.values["CodenetGUI/FileType"] = "?";
   settings.values["CodenetGUI/SetDestAddress"] = "x";
   settings.values["CodenetGUI/SetExecute"] = "perhaps";
-  const CodenetForm loaded = LoadCodenetForm(settings);
-  EXPECT_EQ(loaded.file_type, FileType::kPrg);
-  EXPECT_FALSE(loaded.set_destination);
-  EXPECT_EQ(loaded.execute, ExecuteChoice::kTransferOnly);
+  const CodenetForm loaded = LoadCodenetForm(settings), none;
+  EXPECT_EQ(loaded.file_type, none.file_type);
+  EXPECT_EQ(loaded.set_destination, none.set_destination);
+  EXPECT_EQ(loaded.execute, none.execute);
 }
 
 }  // namespace

@@ -17,11 +17,10 @@ using Words = std::vector<std::string>;
 
 class CodenetTool : public testing::Test {
  protected:
-  // The arguments that say where the C64 is, with `more` behind them.
-  Words Arguments(const Words& more) const {
-    Words all{"-n", "127.0.0.1", "-p", std::to_string(server_.Port())};
-    all.insert(all.end(), more.begin(), more.end());
-    return all;
+  // The tool with the options that say where the C64 is, and with `words` in front of them.
+  support::ToolRun Send(Words words) const {
+    words.insert(words.end(), {"-n", "127.0.0.1", "-p", std::to_string(server_.Port())});
+    return support::RunTool(KELVO_CODENET, words);
   }
 
   std::string File(const char* name, const app::Bytes& bytes) const {
@@ -29,8 +28,8 @@ class CodenetTool : public testing::Test {
     return (folder_ / name).string();
   }
 
-  void ExpectSuccess(const Words& more) const {
-    const support::ToolRun run = support::RunTool(KELVO_CODENET, Arguments(more));
+  void ExpectSuccess(const Words& words) const {
+    const support::ToolRun run = Send(words);
     EXPECT_EQ(run.errors, "");
     EXPECT_EQ(run.exit_code, 0);
   }
@@ -70,23 +69,22 @@ TEST_F(CodenetTool, SendsAndStartsWhatItsOptionsSay) {
 }
 
 TEST_F(CodenetTool, TellsWhatIsWrongAndSendsNothing) {
-  const std::string good = File("good.prg", {1, 8, 0});
   struct Wrong {
     Words words;
     int exit_code;
     const char* complaint;
   };
   for (const Wrong& wrong : {
-           Wrong{{"-n", "127.0.0.1; true", "-w", good}, 2, "is no host"},
-           Wrong{Arguments({"-w", (folder_ / "missing").string()}), 1, "there is no such file"},
-           Wrong{Arguments({"-w", folder_.Path().string()}), 1, "this is a folder"},
-           Wrong{Arguments({"-wb", File("empty", {}), "$1000"}), 1, "the file is empty"},
-           Wrong{Arguments({"-wa", File("two", {1, 8}), "$1000"}), 1, "this is no PRG"},
-           Wrong{Arguments({"-w", File("long", {0xFF, 0xFF, 1, 2})}), 1, "2 bytes at $FFFF would run past $FFFF"},
-           Wrong{Arguments({"-wb", File("longer", app::Bytes(0x10001)), "$0"}), 1, "would run past $FFFF"},
+           Wrong{{"-w", File("good.prg", {1, 8, 0}), "--no-option"}, 2, "is no option"},
+           Wrong{{"-w", (folder_ / "missing").string()}, 1, "there is no such file"},
+           Wrong{{"-w", folder_.Path().string()}, 1, "this is a folder"},
+           Wrong{{"-wb", File("empty", {}), "$1000"}, 1, "the file is empty"},
+           Wrong{{"-wa", File("two", {1, 8}), "$1000"}, 1, "this is no PRG"},
+           Wrong{{"-w", File("long", {0xFF, 0xFF, 1, 2})}, 1, "2 bytes at $FFFF would run past $FFFF"},
+           Wrong{{"-wb", File("longer", app::Bytes(0x10001)), "$0"}, 1, "would run past $FFFF"},
        }) {
     SCOPED_TRACE(wrong.complaint);
-    const support::ToolRun run = support::RunTool(KELVO_CODENET, wrong.words);
+    const support::ToolRun run = Send(wrong.words);
     EXPECT_EQ(run.exit_code, wrong.exit_code);
     EXPECT_NE(run.errors.find(wrong.complaint), std::string::npos) << run.errors;
   }
@@ -94,13 +92,8 @@ TEST_F(CodenetTool, TellsWhatIsWrongAndSendsNothing) {
 }
 
 TEST_F(CodenetTool, TellsAtOnceWhenNothingListens) {
-  std::uint16_t free_port = 0;
-  {
-    const support::CodenetServer gone;
-    free_port = gone.Port();
-  }
-  const support::ToolRun run =
-      support::RunTool(KELVO_CODENET, {"-n", "127.0.0.1", "-p", std::to_string(free_port), "-e", "$c000"});
+  const std::string free_port = std::to_string(support::CodenetServer().Port());
+  const support::ToolRun run = support::RunTool(KELVO_CODENET, {"-n", "127.0.0.1", "-p", free_port, "-e", "$c000"});
   EXPECT_EQ(run.exit_code, 1);
   EXPECT_NE(run.errors.find("nothing listens"), std::string::npos) << run.errors;
 }

@@ -28,16 +28,9 @@ model::PictureImage PaintedPicture(unsigned seed) {
 // Upright stripes and level ones: the first pack better in columns, the second in rows of cells.
 model::PictureImage StripedPicture(bool upright) {
   model::PictureImage picture{.BackgroundColour = Colour(0)};
-  std::mt19937 random(9);
-  std::array<std::uint8_t, 40> stripes{};
-  for (std::uint8_t& stripe : stripes) stripe = static_cast<std::uint8_t>(random());
-  for (int cell = 1; cell <= 1000; ++cell) {
-    const auto number = static_cast<std::size_t>(upright ? (cell - 1) % 40 : (cell - 1) / 40);
-    const std::uint8_t byte = stripes[number];
-    const auto turned = static_cast<std::uint8_t>(byte << 3 | byte >> 5);
-    std::array<std::uint8_t, 8> lines{byte, turned, byte, byte, turned, turned, byte, turned};
-    if (upright) lines.fill(byte);
-    SetCell(picture, cell, lines, 1, 2, 3);
+  const auto stripes = RandomPicture(9).Bitmap;
+  for (std::size_t i = 0; i < 8000; ++i) {
+    picture.Bitmap[i + 1] = stripes[upright ? i / 8 % 40 + 1 : i / 320 * 3 + i % 3 + 1];
   }
   return picture;
 }

@@ -29,22 +29,17 @@ TEST(SaverTemplate, ConvertsNames) {
 }
 
 TEST(SaverTemplate, FillsOneKindOfPlaceholderInEachLine) {
-  const std::string source =
-      "lda #$[filenamelen]\n"
-      "[filename] [filename]\r\n"
-      "[end_low] [filename] [end_high]\n"
-      "[end_high] [end_low]\n"
-      "[FILENAME] [file\n"
-      "\n"
-      "[end_high]";
-  EXPECT_EQ(FilledSaver(source, "abcdefghijklmnopqrst", 7000),
-            "lda #$10\r\n"
-            "ABCDEFGHIJKLMNOPQRST ABCDEFGHIJKLMNOPQRST\r\n"
-            "[end_low] ABCDEFGHIJKLMNOPQRST [end_high]\r\n"
-            "[end_high] 59\r\n"
-            "[FILENAME] [file\r\n"
-            "\r\n"
-            "23\r\n");
+  const std::string name = "abcdefghijklmnopqrst", upper = "ABCDEFGHIJKLMNOPQRST";
+  for (const auto& [line, filled] : {
+           std::pair{"lda #$[filenamelen]"s, "lda #$10"s},
+           {"[filename] [filename]", upper + " " + upper},
+           {"[end_low] [filename] [end_high]", "[end_low] " + upper + " [end_high]"},
+           {"[end_high] [end_low]", "[end_high] 59"},
+           {"[FILENAME] [file", "[FILENAME] [file"},
+           {"a\r\n\n[end_high]\n", "a\r\n\r\n23"},
+       }) {
+    EXPECT_EQ(FilledSaver(line, name, 7000), filled + "\r\n");
+  }
   EXPECT_EQ(FilledSaver("[end_high]\n[end_low]\n[filenamelen]", "", 100), "08\r\n65\r\n00\r\n");
   EXPECT_EQ(FilledSaver("[filenamelen]", "\xC3\xA9t\xC3\xA9", 100), "03\r\n");
   EXPECT_EQ(FilledSaver("[end_high]", "a", 0xFFFF - 2049), "FF\r\n");
