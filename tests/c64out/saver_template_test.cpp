@@ -129,6 +129,7 @@ TEST_F(SaverOnTheC64, ShowsRedWithoutADriveOrAName) {
   EXPECT_EQ(disk_.device, 8);
   EXPECT_EQ(Border(), kRed);
   disk_.present = true;
+  machine_.Write(0xD020, kGreen);
   Run(Assemble(""));
   EXPECT_EQ(Border(), kRed);
 }
