@@ -62,7 +62,8 @@ class SaverOnTheC64 : public testing::Test {
     return support::ReadFile(program);
   }
 
-  // Calls it by SYS from BASIC. Anything that it leaves changed behind it shows as a fault.
+  // Calls it by SYS, after a program that left decimal mode on. Anything that it leaves changed behind it shows as a
+  // fault.
   void Run(const app::Bytes& saver) {
     ASSERT_GT(saver.size(), 2U);
     EXPECT_EQ(saver[0] | saver[1] << 8, 0xCF00);
@@ -70,6 +71,7 @@ class SaverOnTheC64 : public testing::Test {
     const std::string line = "\x01\x08\x0C\x08\x0A\0\x9E"s + "52992\0\0\0"s;
     machine_.Load(app::Bytes(line.begin(), line.end()));
     machine_.Load(saver);
+    machine_.LeaveUnclean();
     machine_.Poke(0xFB, 0x12);
     machine_.Poke(0xFC, 0x34);
     EXPECT_EQ(machine_.Run(), support::C64Machine::Ending::kReturns);

@@ -110,6 +110,7 @@ void C64Machine::CallTrap() {
   const auto trap = traps_.find(cpu_.pc);
   if (trap == traps_.end()) Fault("jump into a ROM", cpu_.pc);
   if (trap->second) {
+    if (cpu_.Has(Cpu6502::kDecimal)) Fault("calling the KERNAL in decimal mode", cpu_.pc);
     trap->second(cpu_);
     cpu_.ReturnFromSubroutine();
     return;
@@ -150,14 +151,11 @@ void C64Machine::Write(std::uint16_t address, std::uint8_t value) {
 }
 
 std::uint8_t C64Machine::ReadIo(std::uint16_t address) {
-  const std::size_t index = address - 0xD000U;
+  if (address < 0xD800) Fault("reading the VIC or the SID, which can only be written here", address);
+  const std::uint8_t value = io_[address - 0xD000U];
+  if (address >= 0xDC00) return value;
   open_bus_ = static_cast<std::uint8_t>(open_bus_ * 5 + 0x70);
-  if (index >= 0x800 && index < 0xC00) return static_cast<std::uint8_t>((io_[index] & 0x0F) | (open_bus_ & 0xF0));
-  if (index >= 0x400 && index < 0x800) return 0;  // the SID tells nothing of what was written
-  const auto line = static_cast<unsigned>(cpu_.cycles / 63 % 312);
-  if (index == 0x12) return static_cast<std::uint8_t>(line);
-  if (index == 0x11) return static_cast<std::uint8_t>((io_[0x11] & 0x7F) | (line >= 256 ? 0x80 : 0));
-  return index >= 0x20 && index < 0x30 ? io_[index] | 0xF0 : io_[index];
+  return static_cast<std::uint8_t>((value & 0x0F) | (open_bus_ & 0xF0));
 }
 
 void C64Machine::WriteIo(std::uint16_t address, std::uint8_t value) {

@@ -1,9 +1,9 @@
 // A C64 that runs a program and tells what it shows.
 //
-// It has the processor with $01 banking, RAM, colour RAM, the VIC's registers and the VIC's bank, and the 60 Hz
-// interrupt. There are no ROMs: a KERNAL routine is a trap that a test sets, and what must not happen is a
-// MachineFault: executing what nobody wrote, reading ROM as data, calling a routine without a trap, writing a zero page
-// byte that BASIC and KERNAL keep, changing what a shown bitmap consists of, running on without an end.
+// It has the processor with $01 banking, RAM, colour RAM, the VIC's registers, which can only be written, the VIC's
+// bank, and the 60 Hz interrupt. There are no ROMs: a KERNAL routine is a trap that a test sets, and what must not
+// happen is a MachineFault: executing what nobody wrote, reading ROM as data, calling a routine without a trap, writing
+// a zero page byte that BASIC and KERNAL keep, changing what a shown bitmap consists of, running on without an end.
 #pragma once
 
 #include <array>
@@ -77,7 +77,7 @@ class C64Machine final : public Bus {
   std::map<std::uint16_t, std::function<void(Cpu6502&)>> traps_;
   std::uint8_t stack_at_start_ = 0;
   std::uint64_t next_jiffy_ = 0, next_restore_ = 0, restore_every_ = 0;
-  std::uint8_t open_bus_ = 0;
+  std::uint8_t open_bus_ = 0;  // what colour RAM's missing half reads as, ever something else
   bool unclean_ = false;
 };
 
