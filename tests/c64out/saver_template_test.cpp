@@ -80,7 +80,7 @@ class SaverOnTheC64 : public testing::Test {
     EXPECT_EQ(machine_.Ram(0xFB) | machine_.Ram(0xFC) << 8, 0x3412);
   }
 
-  int Border() const { return machine_.Show().border; }
+  int Border() const { return machine_.Io(0xD020) & 0x0F; }
 
   static constexpr int kGreen = 5, kRed = 2;
 

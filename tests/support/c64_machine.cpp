@@ -173,26 +173,14 @@ bool C64Machine::IsShown(std::uint16_t address) const {
     return (address >= 0xD800 && address < 0xDBE8) || address == 0xD016 || address == 0xD018 || address == 0xD021 ||
            address == 0xDD00 || address == 0xDD02;
   }
-  const int offset = address - BankBase();
+  const int offset = address - VicBank();
   const int bitmap = (io_[0x18] & 8) << 10, screen = (io_[0x18] & 0xF0) << 6;
   return (offset >= bitmap && offset < bitmap + 8000) || (offset >= screen && offset < screen + 1000);
 }
 
-std::uint16_t C64Machine::BankBase() const {
+int C64Machine::VicBank() const {
   const int lines = (io_[0xD00] | ~io_[0xD02]) & 3;  // lines that are no outputs are pulled up
-  return static_cast<std::uint16_t>((3 - lines) * 0x4000);
-}
-
-C64Machine::Shown C64Machine::Show() const {
-  Shown shown{BankBase() / 0x4000, io_[0x11], io_[0x16], io_[0x18], io_[0x20], io_[0x21], io_[0x15], {}, {}, {}};
-  shown.border &= 0x0F;
-  shown.background &= 0x0F;
-  const auto bitmap = ram_.begin() + BankBase() + ((shown.memory & 8) << 10);
-  const auto screen = ram_.begin() + BankBase() + ((shown.memory & 0xF0) << 6);
-  shown.bitmap.assign(bitmap, bitmap + 8000);
-  shown.screen.assign(screen, screen + 1000);
-  for (std::size_t i = 0; i < 1000; ++i) shown.colours.push_back(io_[0x800 + i] & 0x0F);
-  return shown;
+  return (3 - lines) * 0x4000;
 }
 
 void C64Machine::Fault(const std::string& what, std::uint16_t address) const {

@@ -11,7 +11,6 @@
 #include <functional>
 #include <map>
 #include <span>
-#include <vector>
 
 #include "support/cpu6502.h"
 
@@ -21,13 +20,6 @@ class C64Machine final : public Bus {
  public:
   // How a program ends: it jumps to itself for ever, or returns to BASIC.
   enum class Ending { kLoops, kReturns };
-
-  // What the VIC shows. The blocks are what it reads through its bank, the colours low nibbles.
-  struct Shown {
-    int bank;                                                              // 0..3, each 16 KB
-    std::uint8_t control1, control2, memory, border, background, sprites;  // $D011, $D016, $D018, ...
-    std::vector<std::uint8_t> bitmap, screen, colours;
-  };
 
   // A machine after power-on whose RAM holds leftovers of an earlier program.
   C64Machine();
@@ -44,12 +36,14 @@ class C64Machine final : public Bus {
   // Starts the program from the SYS of its BASIC line, as RUN does. Throws MachineFault.
   Ending Run(std::uint64_t most_cycles = 20'000'000);
 
-  Shown Show() const;
+  // Where the VIC's bank of 16 KB begins, and what was written into I/O ($D000-$DFFF, colour RAM from $D800 on).
+  int VicBank() const;
+  std::uint8_t Io(int address) const { return io_[static_cast<std::size_t>(address - 0xD000)]; }
   // I/O can be reached, so that the VIC can be written.
   bool IoVisible() const { return Chip(0xD000) == Area::kIo; }
   const Cpu6502& Cpu() const { return cpu_; }
   std::uint8_t StackAtStart() const { return stack_at_start_; }
-  std::uint8_t Ram(std::uint16_t address) const { return ram_[address]; }
+  std::uint8_t Ram(int address) const { return ram_[static_cast<std::size_t>(address)]; }
   void Poke(std::uint16_t address, std::uint8_t value);
 
   std::uint8_t Read(std::uint16_t address) override;
@@ -64,7 +58,6 @@ class C64Machine final : public Bus {
   void WriteIo(std::uint16_t address, std::uint8_t value);
   bool ShowsBitmap() const { return (io_[0x11] & 0x30) == 0x30; }
   bool IsShown(std::uint16_t address) const;
-  std::uint16_t BankBase() const;
   std::uint16_t SysAddress() const;
   void Interrupts();
   void CallTrap();
