@@ -5,7 +5,6 @@
 #include "editing/pixel_plot.h"
 #include "editing/set_data.h"
 #include "support/painted.h"
-#include "support/pictures.h"
 
 namespace kelvo::editing {
 namespace {
@@ -19,23 +18,21 @@ using support::PictureWithCell;
 constexpr int kCell = 42, kX = 5, kY = 9;  // cell 42 begins at x 5, y 9
 
 TEST(SetData, TouchesOneSlotAndOnePixel) {
-  for (const BitPair pair : {BitPair::k00, BitPair::k01, BitPair::k10, BitPair::k11}) {
+  struct Case {
+    BitPair pair;
+    int c11, c10, c01;  // the cell's colours after it
+  };
+  for (const Case& c :
+       {Case{BitPair::k00, 1, 2, 3}, {BitPair::k01, 1, 2, 12}, {BitPair::k10, 1, 12, 3}, {BitPair::k11, 12, 2, 3}}) {
     for (int x = kX; x < kX + 4; ++x) {
-      const PictureImage before = support::RandomPicture(5);
-      PictureImage after = before;
+      PictureImage picture = PictureWithCell(kCell, kAllSlots, 1, 2, 3, 0);
+      PictureImage expected = PictureWithCell(kCell, kAllSlots, c.c11, c.c10, c.c01, 0);
       const model::PixelPlace place = model::LookUpPixel(x, kY + 3);
-      SetData(after, place.byte, place.position, pair, place.cell, Colour(12));
-      EXPECT_EQ(model::GetPixelData(after, x, kY + 3).pair, pair);
-      EXPECT_EQ(support::ColourAt(after, x, kY + 3), pair == BitPair::k00 ? before.BackgroundColour.Number() : 12);
-      PictureImage expected = before;
-      expected.Bitmap[static_cast<std::size_t>(place.byte)] = after.Bitmap[static_cast<std::size_t>(place.byte)];
-      expected.ScreenMemory[kCell] = after.ScreenMemory[kCell];
-      expected.ColourMemory[kCell] = after.ColourMemory[kCell];
-      EXPECT_EQ(after, expected);
-      for (const BitPair other : {BitPair::k01, BitPair::k10, BitPair::k11}) {
-        if (other == pair) continue;
-        EXPECT_EQ(model::ColourInCell(after, kCell, other), model::ColourInCell(before, kCell, other));
-      }
+      SetData(picture, place.byte, place.position, c.pair, place.cell, Colour(12));
+      EXPECT_EQ(model::GetPixelData(picture, x, kY + 3).pair, c.pair);
+      const auto byte = static_cast<std::size_t>(place.byte);
+      expected.Bitmap[byte] = model::WithPairAt(expected.Bitmap[byte], x - kX + 1, c.pair);
+      EXPECT_EQ(picture, expected);
     }
   }
   PictureImage picture;
@@ -92,20 +89,11 @@ const SlotCase kSlotCases[] = {
     {"full", kAllSlots, 1, 2, 3, 0, std::nullopt, std::nullopt},
 };
 
-TEST(CellSlots, AFillsColourTakesSameThenUnusedThenBackgroundSlots) {
-  for (const SlotCase& c : kSlotCases) {
-    SCOPED_TRACE(c.what);
-    const PictureImage picture = PictureWithCell(kCell, c.lines, c.c11, c.c10, c.c01, c.background);
-    EXPECT_EQ(GetColorBinForChar(picture, Colour(5), kCell, model::BaseOfCell(kCell)), c.fill);
-  }
-  PictureImage junk = PictureWithCell(kCell, kAllSlots, 0xF5, 2, 3, 0);
-  EXPECT_EQ(GetColorBinForChar(junk, Colour(5), kCell, model::BaseOfCell(kCell)), BitPair::k11);
-}
-
-TEST(PlotPixel, FollowsItsOwnOrderAndRefusesAFullCell) {
+TEST(CellSlots, AColourTakesItsSlotInTheOrderOfFillsOrOfPlots) {
   for (const SlotCase& c : kSlotCases) {
     SCOPED_TRACE(c.what);
     const PictureImage before = PictureWithCell(kCell, c.lines, c.c11, c.c10, c.c01, c.background);
+    EXPECT_EQ(GetColorBinForChar(before, Colour(5), kCell, model::BaseOfCell(kCell)), c.fill);
     PictureImage after = before;
     const PlotResult result = PlotPixel(after, kX + 1, kY + 4, Colour(5), FullCell::kRefuse);
     EXPECT_EQ(result, c.plot ? PlotResult::kPlotted : PlotResult::kCellFull);
@@ -136,19 +124,10 @@ TEST(PlotPixel, RecoloursTheClickedSlotOfAFullCell) {
 TEST(PlotPixel, KeepsWhatAFileHasInTheHighNibbleOfAColourByte) {
   PictureImage picture = PictureWithCell(kCell, kAllSlots, 0xF5, 2, 3, 0);
   PictureImage expected = picture;
+  EXPECT_EQ(GetColorBinForChar(picture, Colour(5), kCell, model::BaseOfCell(kCell)), BitPair::k11);
   EXPECT_EQ(PlotPixel(picture, kX, kY, Colour(5), FullCell::kRefuse), PlotResult::kPlotted);
   expected.Bitmap[static_cast<std::size_t>(model::BaseOfCell(kCell)) + 1] = 0xDB;
   EXPECT_EQ(picture, expected);
-}
-
-TEST(PlotPixel, TakesFreeSlotsInOrder) {
-  PictureImage picture = PictureWithCell(kCell, {}, 0, 0, 0, 0);
-  for (const auto& [x, colour, pair] :
-       {std::tuple{kX, 7, BitPair::k11}, {kX + 1, 8, BitPair::k10}, {kX + 2, 9, BitPair::k01}}) {
-    PlotPixel(picture, x, kY, Colour(colour), FullCell::kRefuse);
-    EXPECT_EQ(model::GetPixelData(picture, x, kY).pair, pair);
-  }
-  EXPECT_EQ(PlotPixel(picture, kX + 3, kY, Colour(10), FullCell::kRefuse), PlotResult::kCellFull);
 }
 
 }  // namespace

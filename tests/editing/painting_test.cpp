@@ -22,34 +22,25 @@ using support::ColourAt;
 
 enum Tools { kDraw = 1, kFill, kLine, kContinuousLine, kCircle, kMouseCopy, kBlockFill };
 
-// A message box that lets events through while it is open.
-class NestedMessages final : public app::Messages {
+// What an action may stop at, so that events come in between; and the wait pointer, "<" when it is shown, ">" when not.
+class Surroundings final : public app::Messages, public app::ProcessEvents, public app::WaitPointer {
  public:
   void Inform(std::string_view text) override {
     texts.emplace_back(text);
-    if (while_open) while_open();
+    Process();
   }
   void Warn(std::string_view) override {}
   void Tell(std::string_view) override {}
   bool Ask(std::string_view) override { return false; }
   app::UnsavedAnswer AskUnsaved(std::string_view) override { return app::UnsavedAnswer::kCancel; }
-  support::Lines texts;
-  std::function<void()> while_open;
-};
-
-class CountingPointer final : public app::WaitPointer {
- public:
-  void Show() override { ++shown; }
-  void Hide() override { ++hidden; }
-  int shown = 0, hidden = 0;
-};
-
-class NestedEvents final : public app::ProcessEvents {
- public:
   void Process() override {
-    if (while_processing) while_processing();
+    if (meanwhile) meanwhile();
   }
-  std::function<void()> while_processing;
+  void Show() override { waits += '<'; }
+  void Hide() override { waits += '>'; }
+  support::Lines texts;
+  std::string waits;
+  std::function<void()> meanwhile;
 };
 
 class PaintingTest : public testing::Test {
@@ -66,6 +57,17 @@ class PaintingTest : public testing::Test {
     painting.Move(to, true);
     painting.Release();
   }
+  // All that a user may do while an action is at work.
+  void Meddle() {
+    EXPECT_TRUE(painting.IsBusy());
+    painting.Move({50, 50}, true);
+    Press({60, 60}, Button::kRight);
+    painting.Undo();
+    painting.ChooseTool(kBlockFill);
+    painting.Escape();
+    painting.Tick();
+    painting.Release();
+  }
   int CountOf(int colour) const {
     int count = 0;
     for (int y = 1; y <= 200; ++y) {
@@ -77,13 +79,11 @@ class PaintingTest : public testing::Test {
   PictureImage picture;
   support::RecordingViews views;
   support::MapSettings settings;
-  NestedMessages messages;
-  NestedEvents events;
-  CountingPointer pointer;
+  Surroundings around;
   support::TempFolder folder;
   support::FixedClock clock;
   app::ErrorLog log{folder / "log.txt", clock};
-  Painting painting{picture, {views, settings, messages, events, pointer, log}};
+  Painting painting{picture, {views, settings, around, around, around, log}};
 };
 
 TEST_F(PaintingTest, AFastStrokeHasNoHolesAndIsOneUndoStep) {
@@ -92,14 +92,12 @@ TEST_F(PaintingTest, AFastStrokeHasNoHolesAndIsOneUndoStep) {
   EXPECT_EQ(views.cells.size(), 200U);
   Drag({160, 1}, {160, 50}, Button::kRight);
   EXPECT_EQ(CountOf(2), 50);
-  EXPECT_EQ(painting.UndoData().Caption(), "Undo draw");
-  painting.Undo();
-  EXPECT_EQ(CountOf(2), 0);
-  EXPECT_EQ(CountOf(5), 200);
-  EXPECT_FALSE(painting.UndoData().CanUndo());
-  EXPECT_EQ(painting.UndoData().Caption(), "Undo");
-  painting.Undo();
-  EXPECT_EQ(CountOf(5), 200);
+  for (int press = 0; press < 2; ++press) {  // the second one finds nothing
+    painting.Undo();
+    EXPECT_EQ(CountOf(2), 0);
+    EXPECT_EQ(CountOf(5), 200);
+    EXPECT_EQ(painting.UndoData().Caption(), "Undo");
+  }
 }
 
 TEST_F(PaintingTest, AStrokeEndsWithItsButton) {
@@ -117,6 +115,7 @@ TEST_F(PaintingTest, AStrokeEndsWithItsButton) {
   EXPECT_EQ(ColourAt(picture, 160, 5), 5);
   EXPECT_EQ(ColourAt(picture, 159, 8), 5);
   Press({20, 100});  // the same button again: its release was lost
+  painting.Undo();   // in mid-stroke: passed over
   EXPECT_EQ(CountOf(5), 10);
   painting.ChooseTool(kBlockFill);
   painting.Move({30, 100}, true);
@@ -131,10 +130,8 @@ TEST_F(PaintingTest, PreferencesDecideWhatAFullCellDoes) {
     int at_press, beside;  // the colours after it
   };
   for (const Case& c : {Case{k4thColReplaces, kDraw, "", 5, 1},
-                        {k4thColReplaces, kDraw, "1", 5, 1},
                         {k4thColReplaces, kDraw, "0", 2, 1},
                         {kReplaceLeastUsedColWhenFilling, kFill, "", 0, 1},
-                        {kReplaceLeastUsedColWhenFilling, kFill, "0", 0, 1},
                         {kReplaceLeastUsedColWhenFilling, kFill, "1", 5, 5}}) {
     SCOPED_TRACE(testing::Message() << c.tool << " with " << c.stored);
     settings.values.clear();
@@ -148,42 +145,40 @@ TEST_F(PaintingTest, PreferencesDecideWhatAFullCellDoes) {
   }
 }
 
-TEST_F(PaintingTest, AStillPointerIsToldOnce) {
+TEST_F(PaintingTest, ARefusalIsToldOncePerEventAndEndsNoMoreThanItMust) {
   settings.Write(k4thColReplaces, "0");
-  support::SetCell(picture, 1, support::kAllSlots, 1, 2, 3);
-  Press({5, 1});
-  for (int i = 0; i < 3; ++i) painting.Move({1, 1}, true);
-  painting.Move({2, 1}, true);
-  EXPECT_EQ(messages.texts.size(), 2U);
-  Press({1, 1});  // its release was lost, and the new press is refused: no stroke is left
-  painting.Move({9, 1}, true);
-  EXPECT_EQ(CountOf(5), 1);
-}
-
-TEST_F(PaintingTest, ARefusalIsToldOncePerEventAndNothingPlotsMeanwhile) {
-  settings.Write(k4thColReplaces, "0");
-  support::SetCell(picture, 1, support::kAllSlots, 1, 2, 3);
+  for (const int cell : {1, 4}) support::SetCell(picture, cell, support::kAllSlots, 1, 2, 3);
   const PictureImage before = picture;
-  messages.while_open = [this] {
-    painting.Move({50, 50}, true);
-    Press({60, 60});
-    painting.Tick();
-    painting.Release();
-  };
+  around.meanwhile = [this] { Meddle(); };
   Press({1, 1});
   painting.Move({40, 40}, true);  // the press was refused: no stroke
   EXPECT_EQ(picture, before);
-  EXPECT_EQ(messages.texts, support::Lines{"Not possible - all colors used"});
+  EXPECT_EQ(around.texts, support::Lines{"Not possible - all colors used"});
   Press({5, 1});
   painting.Move({1, 1}, true);
-  EXPECT_EQ(messages.texts.size(), 2U);
   painting.Move({20, 1}, true);  // the button was released while the box was open
+  EXPECT_EQ(around.texts.size(), 2U);
   EXPECT_EQ(CountOf(5), 1);
+
+  around.meanwhile = nullptr;
+  Press({5, 1});
+  for (int i = 0; i < 3; ++i) painting.Move({1, 1}, true);  // a still pointer is told once
+  painting.Move({2, 1}, true);
+  EXPECT_EQ(around.texts.size(), 4U);
+  Press({1, 1});  // its release was lost, and the new press is refused: no stroke is left
+  painting.Move({9, 1}, true);
+  EXPECT_EQ(CountOf(5), 1);
+
+  painting.ChooseTool(kLine);
+  Click({1, 1});
+  Click({21, 1});
+  painting.Tick();
+  EXPECT_EQ(around.texts.size(), 6U);  // once for both full cells
+  EXPECT_EQ(CountOf(5), 12);
 }
 
-TEST_F(PaintingTest, LinesAreDrawnAtTheNextTickAndChainInOneStep) {
+TEST_F(PaintingTest, ShapesAreDrawnWithTheLeftPenAtTheTickAfterTheirLastPoint) {
   painting.ChooseTool(kLine);
-  EXPECT_EQ(painting.Prompt(), "SET STARTING POINT");
   Click({10, 10}, Button::kRight);
   EXPECT_EQ(painting.Prompt(), "SET STARTING POINT");
   painting.Tick();
@@ -194,9 +189,8 @@ TEST_F(PaintingTest, LinesAreDrawnAtTheNextTickAndChainInOneStep) {
   Click({90, 10});  // before the tick: both points are set
   EXPECT_EQ(CountOf(5), 0);
   painting.Tick();
-  EXPECT_EQ(CountOf(5), 3);  // with the left pen, whatever the button
+  EXPECT_EQ(CountOf(5), 3);
   EXPECT_EQ(painting.Prompt(), "SET STARTING POINT");
-  EXPECT_EQ(painting.UndoData().Caption(), "Undo line");
 
   painting.ChooseTool(kContinuousLine);
   for (const PixelPoint at : {PixelPoint{20, 20}, {30, 20}, {30, 30}}) {
@@ -206,13 +200,10 @@ TEST_F(PaintingTest, LinesAreDrawnAtTheNextTickAndChainInOneStep) {
   }
   EXPECT_EQ(painting.Prompt(), "SET ENDING POINT");
   EXPECT_EQ(CountOf(5), 23);
-  painting.Undo();
+  painting.Undo();  // all its lines are one step
   EXPECT_EQ(CountOf(5), 3);
-}
 
-TEST_F(PaintingTest, CirclesAskForCentreThenRadius) {
   painting.ChooseTool(kCircle);
-  EXPECT_EQ(painting.Prompt(), "SET CENTER POINT");
   Click({80, 100});
   EXPECT_EQ(painting.Prompt(), "SET RADIUS POINT");
   const Points preview = painting.Preview({80, 110});
@@ -220,54 +211,46 @@ TEST_F(PaintingTest, CirclesAskForCentreThenRadius) {
   Click({1, 1});
   painting.Tick();
   EXPECT_EQ(painting.Prompt(), "SET CENTER POINT");
-  EXPECT_EQ(painting.UndoData().Caption(), "Undo circle");
   for (const PixelPoint& point : preview) EXPECT_EQ(ColourAt(picture, point.x, point.y), 5);
   EXPECT_EQ(ColourAt(picture, 80, 110), 5);
 }
 
-TEST_F(PaintingTest, AShapeThroughFullCellsTellsItOnceAndPlotsTheRest) {
-  settings.Write(k4thColReplaces, "0");
-  for (const int cell : {2, 4}) support::SetCell(picture, cell, support::kAllSlots, 1, 2, 3);
-  painting.ChooseTool(kLine);
-  Click({1, 1});
-  Click({21, 1});
-  painting.Tick();
-  EXPECT_EQ(messages.texts.size(), 1U);
-  EXPECT_EQ(CountOf(5), 12);
-}
-
-TEST_F(PaintingTest, EscapeTakesBackAnUnfinishedShape) {
-  for (const int tool : {kLine, kContinuousLine, kCircle}) {
-    painting.ChooseTool(tool);
-    Click({10, 10});
-    painting.Escape();
-    EXPECT_EQ(painting.ToolIndex(), kDraw);
-    painting.ChooseTool(tool);
-    Click({20, 10});
-    painting.Tick();
-    EXPECT_EQ(CountOf(5), 0);
+TEST_F(PaintingTest, AnUnfinishedShapeGoesWithEscapeUndoAndThePicture) {
+  using Way = void (Painting::*)();
+  for (const Way way : {&Painting::Escape, &Painting::Undo, &Painting::Forget}) {
+    for (const int tool : {kLine, kContinuousLine, kCircle}) {
+      painting.ChooseTool(tool);
+      Click({10, 10});
+      (painting.*way)();
+      EXPECT_EQ(painting.ToolIndex(), way == &Painting::Escape ? kDraw : tool);
+      EXPECT_EQ(painting.UndoData().CanUndo(), way == &Painting::Escape);
+      painting.ChooseTool(tool);
+      Click({20, 10});
+      painting.Tick();
+      EXPECT_EQ(CountOf(5), 0);
+    }
   }
   painting.ChooseTool(kLine);
   Click({10, 10});
   Click({20, 10});
-  painting.ChooseTool(kFill);  // both points were set: the line is drawn
+  painting.ChooseTool(kDraw);  // both points were set: the line is drawn
   EXPECT_EQ(CountOf(5), 10);
+  Press({1, 1});
+  painting.Forget();
+  painting.Move({9, 1}, true);
+  EXPECT_EQ(CountOf(5), 11);
 }
 
 TEST_F(PaintingTest, CellsAreCopiedAndPastedAlongADrag) {
   support::SetCell(picture, 1, support::kAllSlots, 1, 2, 3);
-  const PictureImage before = picture;
+  PictureImage expected = picture;
   painting.ChooseTool(kMouseCopy);
   Click({2, 2}, Button::kRight);
   EXPECT_FALSE(painting.UndoData().CanUndo());
   Drag({41, 1}, {52, 1});
-  PictureImage expected = before;
   for (const int cell : {11, 12, 13}) support::SetCell(expected, cell, support::kAllSlots, 1, 2, 3);
   EXPECT_EQ(picture, expected);
   EXPECT_EQ(views.cells, (std::vector{1, 11, 12, 13}));
-  EXPECT_EQ(painting.UndoData().Caption(), "Undo copy");
-  painting.Undo();
-  EXPECT_EQ(picture, before);
 }
 
 TEST_F(PaintingTest, BlockFillTakesTheLeftPenWithEitherButton) {
@@ -277,23 +260,24 @@ TEST_F(PaintingTest, BlockFillTakesTheLeftPenWithEitherButton) {
   PictureImage expected;
   for (const int cell : {1, 41}) support::SetCell(expected, cell, {255, 255, 255, 255, 255, 255, 255, 255}, 5, 0, 0);
   EXPECT_EQ(picture, expected);
-  EXPECT_EQ(painting.UndoData().Caption(), "Undo block fill");
-  painting.PenColours() = {};
+  painting.PenColours().left = Colour(1);
   Drag({1, 9}, {-9, 9});  // the same cell in another stroke, and out of the picture
   expected.ColourMemory[41] = 1;
   EXPECT_EQ(picture, expected);
 }
 
-TEST_F(PaintingTest, FillsTakeThePenOfTheButtonAndShowTheirEnd) {
+TEST_F(PaintingTest, FillsTakeThePenOfTheButtonAndLetNothingElseStart) {
   painting.ChooseTool(kFill);
-  for (int colour = 15; colour > 8; --colour) {
-    painting.PenColours() = {Colour(3), Colour(colour)};
-    Click({80, 100}, Button::kRight);
-    EXPECT_EQ(CountOf(colour), 32000);
-  }
-  EXPECT_EQ(pointer.shown, 7);
-  EXPECT_EQ(pointer.hidden, 7);
-  EXPECT_EQ(views.pictures, 7);
+  around.meanwhile = [this] { Meddle(); };
+  Click({80, 100}, Button::kRight);
+  EXPECT_EQ(CountOf(2), 32000);
+  Click({80, 100});
+  EXPECT_EQ(CountOf(5), 32000);
+  EXPECT_EQ(painting.ToolIndex(), kFill);
+  painting.Move({20, 20}, true);  // a fill begins no stroke
+  EXPECT_EQ(CountOf(5), 32000);
+  EXPECT_EQ(around.waits, "<><>");
+  EXPECT_EQ(views.pictures, 2);
   EXPECT_FALSE(std::filesystem::exists(folder / "log.txt"));
 }
 
@@ -304,33 +288,14 @@ TEST_F(PaintingTest, AFillThatOutgrowsItsQueueIsLoggedAndCanBeUndone) {
   Click({80, 100});
   EXPECT_GT(CountOf(5), 8000);
   EXPECT_EQ(views.pictures, 1);
-  const app::Bytes log_bytes = support::ReadFile(folder / "log.txt");
-  EXPECT_NE(std::string(log_bytes.begin(), log_bytes.end()).find("MDIFormMenu_FloodFill"), std::string::npos);
+  EXPECT_NE(support::ReadText(folder / "log.txt").find("MDIFormMenu_FloodFill"), std::string::npos);
   painting.Undo();
   EXPECT_EQ(picture, before);
 }
 
-TEST_F(PaintingTest, NothingElseStartsInsideAFill) {
-  painting.ChooseTool(kFill);
-  bool was_busy = false;
-  events.while_processing = [&] {
-    was_busy = painting.IsBusy();
-    Press({1, 1}, Button::kRight);
-    painting.Undo();
-    painting.ChooseTool(kDraw);
-    painting.Escape();
-    painting.Tick();
-  };
-  Click({80, 100});
-  EXPECT_TRUE(was_busy);
-  EXPECT_EQ(painting.ToolIndex(), kFill);
-  EXPECT_EQ(CountOf(5), 32000);
-  EXPECT_EQ(painting.UndoData().Caption(), "Undo fill");
-  painting.Move({20, 20}, true);  // a fill begins no stroke
-  EXPECT_EQ(CountOf(5), 32000);
-}
-
 TEST_F(PaintingTest, UndoRestoresEveryByteButTheBackground) {
+  constexpr const char* kCaptions[] = {"Undo draw",   "Undo fill", "Undo line",      "Undo line",
+                                       "Undo circle", "Undo copy", "Undo block fill"};
   std::mt19937 random(4);
   const auto at = [&] {
     return PixelPoint{static_cast<int>(random() % 160) + 1, static_cast<int>(random() % 200) + 1};
@@ -350,6 +315,7 @@ TEST_F(PaintingTest, UndoRestoresEveryByteButTheBackground) {
     PictureImage expected = before;
     picture.BackgroundColour = expected.BackgroundColour = Colour(round % 16);
     views.pictures = 0;
+    EXPECT_EQ(painting.UndoData().Caption(), kCaptions[tool - 1]);
     painting.Undo();
     EXPECT_EQ(picture, expected) << "tool " << tool;
     EXPECT_EQ(views.pictures, 1);
@@ -357,33 +323,9 @@ TEST_F(PaintingTest, UndoRestoresEveryByteButTheBackground) {
   EXPECT_GT(changes, 100);
 }
 
-TEST_F(PaintingTest, UndoTakesAnUnfinishedShapeWithItAndAnotherPictureTakesAll) {
-  for (const bool another : {false, true}) {
-    painting.ChooseTool(kContinuousLine);
-    Click({10, 10});
-    another ? painting.Forget() : painting.Undo();
-    EXPECT_FALSE(painting.UndoData().CanUndo());
-    Click({20, 10});
-    painting.Tick();
-    EXPECT_EQ(CountOf(5), 0);
-  }
-  painting.ChooseTool(kDraw);
-  Press({1, 1});
-  painting.Undo();  // in mid-stroke: passed over
-  EXPECT_EQ(CountOf(5), 1);
-  painting.Forget();
-  painting.Move({9, 1}, true);
-  EXPECT_EQ(CountOf(5), 1);
-}
-
-TEST(Pens, BeginWhiteOnBlackAndSwap) {
-  Pens pens;
-  pens.Swap();
-  EXPECT_EQ(pens.Of(Button::kLeft), Colour(0));
-  EXPECT_EQ(pens.Of(Button::kRight), Colour(1));
-}
-
-TEST(PenKeys, CoverAllColours) {
+TEST(Pens, BeginWhiteAndBlackAndHaveAKeyForEachColour) {
+  EXPECT_EQ(Pens().Of(Button::kLeft), Colour(1));
+  EXPECT_EQ(Pens().Of(Button::kRight), Colour(0));
   int colour = 0;
   for (const char key : std::string("12345678QWERTYUI")) EXPECT_EQ(PenForKey(key), Colour(colour++)) << key;
   EXPECT_EQ(PenForKey('i'), Colour(15));

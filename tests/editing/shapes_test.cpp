@@ -30,18 +30,15 @@ TEST(Path, HasNoHolesAndEndsWhereThePointerIs) {
 }
 
 TEST(Circle, RadiusIsMeasuredInColumns) {
-  struct Case {
-    model::PixelPoint point;
-    int radius;
-  };
-  for (const Case& c : {Case{{80, 110}, 5},
-                        {{83, 104}, 4},
-                        {{80, 100}, 0},
-                        {{72, 100}, 8},
-                        {{80, 105}, 2},
-                        {{80, 107}, 4},
-                        {{77, 92}, 5}}) {
-    EXPECT_EQ(CircleRadius({80, 100}, c.point), c.radius) << c.point.x << ", " << c.point.y;
+  using Case = std::pair<model::PixelPoint, int>;
+  for (const auto& [point, radius] : {Case{{80, 110}, 5},
+                                      {{83, 104}, 4},
+                                      {{80, 100}, 0},
+                                      {{72, 100}, 8},
+                                      {{80, 105}, 2},
+                                      {{80, 107}, 4},
+                                      {{77, 92}, 5}}) {
+    EXPECT_EQ(CircleRadius({80, 100}, point), radius) << point.x << ", " << point.y;
   }
 }
 
