@@ -6,7 +6,6 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <array>
 #include <atomic>
 #include <csignal>
@@ -30,24 +29,21 @@ class DiskFaults : public testing::Test, protected support::Program {
  protected:
   DiskFaults() { fs::create_directory(art); }
 
-  // Every byte that shows is `value`, so that a file of two halves would tell.
-  void Paint(std::uint8_t value) {
-    document.picture.Bitmap.fill(value);
-    document.picture.ScreenMemory.fill(value);
-    document.picture.ColourMemory.fill(value);
+  // Every byte is `value`, so that a file of two halves would tell.
+  static void Fill(model::PictureImage& picture, std::uint8_t value) {
+    picture.Bitmap.fill(value);
+    picture.ScreenMemory.fill(value);
+    picture.ColourMemory.fill(value);
   }
+  void Paint(std::uint8_t value) { Fill(document.picture, value); }
   // The value that the whole picture in a file was painted with; -1 for a file that is none or no whole one.
   static int PaintedIn(const fs::path& file) {
     const app::Bytes bytes = support::ReadFile(file);
     if (bytes.size() != 10050) return -1;
-    const model::PictureImage picture = Decode(FormatOf(kOwnType), bytes, {});
-    const int value = picture.Bitmap[1];
-    const auto is_whole = [value](const auto& memory, int used) {
-      return std::all_of(memory.begin() + 1, memory.begin() + used, [value](int byte) { return byte == value; });
-    };
-    const bool whole =
-        is_whole(picture.Bitmap, 8000) && is_whole(picture.ScreenMemory, 1000) && is_whole(picture.ColourMemory, 1000);
-    return whole ? value : -1;
+    model::PictureImage expected;
+    Fill(expected, bytes.back());
+    Sign(expected);
+    return bytes == Encode(expected) ? bytes.back() : -1;
   }
   bool SavePainted(std::uint8_t value) {
     Paint(value);
@@ -96,13 +92,13 @@ TEST_F(DiskFaults, ASaveKilledAtAnyMomentLeavesWholeFiles) {
     ASSERT_NE(PaintedIn(file), -1);
     ASSERT_NE(PaintedIn(folders.Snapshot()), -1);
     for (const auto& backup : fs::directory_iterator(folders.Backup())) {
-      const bool counts = backup.path().extension() == ".prg" || backup.path().extension() == ".kvp";
-      ASSERT_TRUE(!counts || PaintedIn(backup.path()) != -1) << backup.path();
+      const fs::path ending = backup.path().extension();
+      ASSERT_TRUE((ending != ".prg" && ending != ".kvp") || PaintedIn(backup.path()) != -1) << backup.path();
     }
   }
 }
 
-TEST_F(DiskFaults, AFullDiskKeepsTheOldFile) {
+TEST_F(DiskFaults, AFullOrReadOnlyDiskKeepsTheOldFile) {
   const support::SmallDisk disk(art, kDiskSize);
   if (!disk.IsThere()) GTEST_SKIP() << "nothing can be mounted here";
   EXPECT_TRUE(SavePainted(1));
@@ -113,6 +109,12 @@ TEST_F(DiskFaults, AFullDiskKeepsTheOldFile) {
   disk.MakeRoom();
   EXPECT_TRUE(files.Save());
   EXPECT_EQ(PaintedIn(file), 2);
+
+  ASSERT_TRUE(disk.MakeReadOnly());
+  EXPECT_TRUE(IsRefusedPlainly(3, "Read-only file system"));
+  EXPECT_EQ(PaintedIn(file), 2);
+  EXPECT_TRUE(files.Reload());
+  EXPECT_EQ(document.picture.Bitmap[1], 2);
 }
 
 TEST_F(DiskFaults, AFullProgramFolderDoesNotKeepFromSaving) {
@@ -134,30 +136,17 @@ TEST_F(DiskFaults, AFullProgramFolderDoesNotKeepFromSaving) {
   EXPECT_EQ(document.picture.Bitmap[1], 3);
 }
 
-TEST_F(DiskFaults, AReadOnlyDiskKeepsTheOldFile) {
-  const support::SmallDisk disk(art, kDiskSize);
-  if (!disk.IsThere()) GTEST_SKIP() << "nothing can be mounted here";
-  EXPECT_TRUE(SavePainted(1));
-  ASSERT_TRUE(disk.MakeReadOnly());
-  EXPECT_TRUE(IsRefusedPlainly(2, "Read-only file system"));
-  EXPECT_EQ(PaintedIn(file), 1);
-  EXPECT_TRUE(files.Reload());
-  EXPECT_EQ(document.picture.Bitmap[1], 1);
-}
-
 TEST_F(DiskFaults, AFolderOrFileWithoutRightsKeepsTheOldFile) {
   SavePainted(1);
   for (const fs::path& place : {folder.Path(), folders.Root(), folders.System(), folders.Backup()}) {
     permissions(place, fs::perms::all);
   }
-  struct Case {
-    fs::perms folder, file;
-  };
   constexpr fs::perms kRead = fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read,
                       kEnter = fs::perms::owner_exec | fs::perms::group_exec | fs::perms::others_exec;
-  for (const Case& row : {Case{kRead | kEnter, fs::perms::all}, Case{fs::perms::all, kRead}, Case{kRead, kRead}}) {
-    permissions(file, row.file);
-    permissions(art, row.folder);
+  for (const auto& [folder_rights, file_rights] :
+       {std::pair{kRead | kEnter, fs::perms::all}, {fs::perms::all, kRead}, {kRead, kRead}}) {
+    permissions(file, file_rights);
+    permissions(art, folder_rights);
     const auto holds = support::HoldsForOrdinaryUser([&] { return IsRefusedPlainly(2, "Permission denied"); });
     permissions(art, fs::perms::all);
     if (!holds) GTEST_SKIP() << "this user cannot become an ordinary one";
@@ -211,18 +200,8 @@ TEST_F(DiskFaults, AClockSetBackLosesNoBackup) {
   SavePainted(2);
   clock.time.tm_hour -= 1;
   SavePainted(3);
-  clock.time.tm_year = 70;
-  SavePainted(4);
   EXPECT_EQ(PaintedIn(folders.Backup() / "pic.kvp_2602030907.prg"), 1);
   EXPECT_EQ(PaintedIn(folders.Backup() / "pic.kvp_2602030807.prg"), 2);
-  EXPECT_EQ(PaintedIn(folders.Backup() / "pic.kvp_7002030807.prg"), 3);
-  Paint(5);
-  files.New();
-  Paint(6);
-  document.file = SetFileParameters(app::TextFromPath(file));
-  files.New();  // the same minute again
-  EXPECT_EQ(PaintedIn(folders.Backup() / "pic.kvp_7002030807_unsaved.kvp"), 5);
-  EXPECT_EQ(PaintedIn(folders.Backup() / "pic.kvp_7002030807_unsaved_2.kvp"), 6);
 }
 
 TEST_F(DiskFaults, TwoProgramsOnOneFolderSaveAndLogWholly) {
