@@ -23,15 +23,12 @@ TEST(InputLine, ProtectsThePrompt) {
 }
 
 TEST(InputLine, SendsTheTrimmedCommandOrNothing) {
-  for (const std::string_view nothing : {">", ">   ", "  >  ", ">\r\n", "> \r \n ", ""}) {
-    EXPECT_EQ(SubmittedLine(nothing), std::nullopt) << nothing;
-  }
-  for (const std::string_view text : {">VER", ">  VER  ", " >VER\r\n", "> V\rE\nR \r\n "}) {
+  for (const std::string_view none : {">", "  >  ", "> \r \n ", ""})
+    EXPECT_EQ(SubmittedLine(none), std::nullopt) << none;
+  for (const std::string_view text : {">VER", " >VER\r\n", "> V\rE\nR \r\n "})
     EXPECT_EQ(SubmittedLine(text), "VER") << text;
-  }
   EXPECT_EQ(SubmittedLine(">MD A  B"), "MD A  B");
   EXPECT_EQ(SubmittedLine(">>"), ">");
-  EXPECT_EQ(SubmittedLine(">" + std::string(10000, 'X')), std::string(10000, 'X'));
 }
 
 }  // namespace
