@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <stdexcept>
+#include <tuple>
 
 #include "model/number_text.h"
 #include "model/palette.h"
@@ -21,11 +22,8 @@ TEST(PixelPlace, FollowsTheC64sOrderOfBytes) {
                         {1, 9, 321, 1, 41},
                         {4, 8, 8, 4, 1},
                         {158, 193, 7993, 2, 1000}}) {
-    SCOPED_TRACE(testing::Message() << c.x << ", " << c.y);
     const PixelPlace place = LookUpPixel(c.x, c.y);
-    EXPECT_EQ(place.byte, c.byte);
-    EXPECT_EQ(place.position, c.position);
-    EXPECT_EQ(place.cell, c.cell);
+    EXPECT_EQ(std::tuple(place.byte, place.position, place.cell), std::tuple(c.byte, c.position, c.cell)) << c.byte;
     EXPECT_EQ(CellOfByte(place.byte), c.cell);
     EXPECT_EQ(BaseOfCell(place.cell), place.base);
   }
