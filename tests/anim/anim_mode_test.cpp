@@ -43,7 +43,6 @@ class AnimModeTest : public testing::Test, protected support::Program {
 
 TEST_F(AnimModeTest, AsksInOrderUntilTheFirstFrameIsThere) {
   EXPECT_EQ(Toggle(), Lines{"Animation folder must be specified"});
-  EXPECT_FALSE(shows.check_mark);
   KeepAnimProperties(settings, {" " + folder.Path().string() + "/ ", " "});
   EXPECT_EQ(Toggle(), Lines{"Animation prefix must be specified"});
   KeepAnimProperties(settings, {Text(""), " anim "});
@@ -70,18 +69,13 @@ TEST_F(AnimModeTest, LooksAtTheFolderOnlyAfterTheFirstFrame) {
   ASSERT_EQ(told.size(), 3U);  // between the two: that the picture was not saved
   EXPECT_EQ(told.front(), question);
   EXPECT_EQ(told.back(), "Animation folder can not be found");
-  EXPECT_FALSE(shows.check_mark);
 
   KeepAnimProperties(settings, {Text("gone"), "anim"});
   EXPECT_EQ(Toggle(), (Lines{question, "Animation folder can not be found"}));
   EXPECT_TRUE(fs::exists(folder / "goneanim0001.kvp"));
-  fs::create_directory(folder / "gone");
-  EXPECT_EQ(Toggle(), Lines{});
-  EXPECT_TRUE(shows.check_mark);
 
   fs::create_directory(folder / "x0001.kvp");  // in the place of the first frame, which cannot be saved then
   KeepAnimProperties(settings, {Text(""), "x"});
-  Toggle();
   EXPECT_EQ(Toggle().size(), 2U);
   EXPECT_FALSE(shows.check_mark);
 }

@@ -16,53 +16,41 @@ using model::C64Colour;
 using model::PictureImage;
 using support::CountingBytes;
 
-std::uint8_t CountingByte(std::size_t place) {
-  return static_cast<std::uint8_t>(place * 7 + 3);
-}
-
 const C64Colour kBefore = C64Colour::FromByte(6);
 
 TEST(PictureFormat, BlocksReachTheArraysFromIndexOne) {
-  struct Case {
-    FormatType type;
-    std::size_t size, colour, screen, bitmap;  // file offsets of the blocks
-  };
-  for (const Case& c : {Case{kOwnType, 10050, 2, 1026, 2050},
-                        {kVidcom64Type, 10050, 2, 1026, 2050},
-                        {kKoaType, 10003, 9002, 8002, 2},
-                        {kGeneralType, 10050, 2, 1026, 2050}}) {
-    SCOPED_TRACE(c.type);
-    const PictureImage picture = Decode(FormatOf(c.type), CountingBytes(c.size), kBefore);
-    EXPECT_EQ(picture.LoadAddressLow, CountingByte(0));
-    EXPECT_EQ(picture.LoadAddressHigh, CountingByte(1));
+  // The file's size, and the offsets in it of the blocks of colours, screen and bitmap.
+  for (const auto& [type, size, colour, screen, bitmap] : {std::tuple{kOwnType, 10050U, 2U, 1026U, 2050U},
+                                                           {kVidcom64Type, 10050U, 2U, 1026U, 2050U},
+                                                           {kKoaType, 10003U, 9002U, 8002U, 2U},
+                                                           {kKlaType, 10003U, 9002U, 8002U, 2U},
+                                                           {kGeneralType, 10050U, 2U, 1026U, 2050U}}) {
+    SCOPED_TRACE(type);
+    const app::Bytes file = CountingBytes(size);
+    const PictureImage picture = Decode(FormatOf(type), file, kBefore);
+    EXPECT_EQ(picture.LoadAddressLow, file[0]);
+    EXPECT_EQ(picture.LoadAddressHigh, file[1]);
     for (std::size_t cell = 1; cell <= 1000; ++cell) {
-      ASSERT_EQ(picture.ColourMemory[cell], CountingByte(c.colour + cell - 1));
-      ASSERT_EQ(picture.ScreenMemory[cell], CountingByte(c.screen + cell - 1));
+      ASSERT_EQ(picture.ColourMemory[cell], file[colour + cell - 1]);
+      ASSERT_EQ(picture.ScreenMemory[cell], file[screen + cell - 1]);
     }
-    for (std::size_t i = 1; i < 8000; ++i) ASSERT_EQ(picture.Bitmap[i], CountingByte(c.bitmap + i - 1));
-    EXPECT_EQ(picture.Bitmap[0], CountingByte(c.bitmap - 1));  // the byte before the block
-    EXPECT_EQ(picture.Bitmap[8000], 255);                      // the last byte is never read
+    // From the byte before the block on; the last byte is never read.
+    for (std::size_t i = 0; i < 8000; ++i) ASSERT_EQ(picture.Bitmap[i], file[bitmap + i - 1]);
+    EXPECT_EQ(picture.Bitmap[8000], 255);
     EXPECT_EQ(picture.ScreenMemory[1024], 255);
   }
 }
 
 TEST(PictureFormat, BackgroundComesFromItsPlaceOrStays) {
-  struct Case {
-    const char* what;
-    FormatType type;
-    std::size_t size, place;
-    std::uint8_t byte;
-    int expected;
-  };
-  for (const Case& c : {Case{"own", kOwnType, 10050, 2049, 11, 11},
-                        {"own, too large", kOwnType, 10050, 2049, 16, 6},
-                        {"Vidcom64 carries none", kVidcom64Type, 10050, 2049, 11, 6},
-                        {"Koala: colour of cell 999", kKoaType, 10003, 10000, 4, 4},
-                        {"Koala: not the last byte", kKlaType, 10003, 10002, 4, 6}}) {
-    SCOPED_TRACE(c.what);
-    app::Bytes bytes(c.size, 0xF0);
-    bytes[c.place] = c.byte;
-    EXPECT_EQ(Decode(FormatOf(c.type), bytes, kBefore).BackgroundColour.Number(), c.expected);
+  for (const auto& [what, type, size, place, byte, expected] :
+       {std::tuple{"own", kOwnType, 10050U, 2049U, 11, 11},
+        {"own, too large", kOwnType, 10050U, 2049U, 16, 6},
+        {"Vidcom64 carries none", kVidcom64Type, 10050U, 2049U, 11, 6},
+        {"Koala: colour of cell 999", kKoaType, 10003U, 10000U, 4, 4},
+        {"Koala: not the last byte", kKlaType, 10003U, 10002U, 4, 6}}) {
+    app::Bytes bytes(size, 0xF0);
+    bytes[place] = static_cast<std::uint8_t>(byte);
+    EXPECT_EQ(Decode(FormatOf(type), bytes, kBefore).BackgroundColour.Number(), expected) << what;
   }
 }
 

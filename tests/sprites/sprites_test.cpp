@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <tuple>
 
 #include "app/path_text.h"
 #include "sprites/sprite_source.h"
@@ -16,24 +17,18 @@ namespace {
 using support::Colour;
 
 TEST(CaptureArea, FollowsThePointerInsideThePicture) {
-  struct Case {
-    model::PixelPoint pointer;
-    CaptureSize size;
-    Alignment alignment;
-    int left, top;
-  };
   const auto free = Alignment::kFree, grid = Alignment::kGrid;
   const auto one = CaptureSize::k1x1, four = CaptureSize::k2x2;
-  for (const Case& c : {Case{{80, 100}, one, free, 74, 90},
-                        {{1, 1}, one, free, 1, 1},
-                        {{160, 200}, one, free, 149, 180},
-                        {{160, 200}, four, free, 137, 159},
-                        {{13, 22}, one, grid, 13, 22},
-                        {{12, 21}, one, grid, 1, 1},
-                        {{160, 200}, one, grid, 145, 169},
-                        {{160, 200}, four, grid, 133, 148}}) {
-    const CaptureArea area = CaptureAt(c.pointer, c.size, c.alignment);
-    EXPECT_EQ(std::pair(area.left, area.top), std::pair(c.left, c.top)) << c.pointer.x << ", " << c.pointer.y;
+  for (const auto& [x, y, size, alignment, left, top] : {std::tuple{80, 100, one, free, 74, 90},
+                                                         {1, 1, one, free, 1, 1},
+                                                         {160, 200, one, free, 149, 180},
+                                                         {160, 200, four, free, 137, 159},
+                                                         {13, 22, one, grid, 13, 22},
+                                                         {12, 21, one, grid, 1, 1},
+                                                         {160, 200, one, grid, 145, 169},
+                                                         {160, 200, four, grid, 133, 148}}) {
+    const CaptureArea area = CaptureAt({x, y}, size, alignment);
+    EXPECT_EQ(std::pair(area.left, area.top), std::pair(left, top)) << x << ", " << y;
   }
 }
 
