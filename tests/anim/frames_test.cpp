@@ -87,6 +87,24 @@ TEST_F(FramesTest, TheFourButtonsAndTheNumberField) {
   }
   EXPECT_EQ(frames.Row().Count(), 4);
   EXPECT_TRUE(messages.shown.empty());
+
+  (void)frames.GoTo("5");
+  document.picture.Bitmap[1] = 77;
+  EXPECT_EQ(frames.Next(), "");  // behind the last frame; the answer is no
+  EXPECT_EQ(messages.shown, support::Lines{"There is no frame after this one\r\nDo you want to create anim0006.kvp "
+                                           "based on the picture in memory?"});
+  EXPECT_TRUE(document.HasUnsavedWork());
+  messages.yes = true;
+  EXPECT_EQ(frames.Next(), "");
+  EXPECT_EQ(frames.CurrentFrame(), 6);
+  EXPECT_EQ(frames.Row().Count(), 5);
+  EXPECT_EQ(SeedIn(File(5)), 77);
+  EXPECT_EQ(SeedIn(File(6)), 77);
+  WriteFrames({9999});
+  (void)frames.GoTo("9999");
+  EXPECT_EQ(frames.Next(), "FRAME 9999 IS THE LAST ONE");
+  fs::remove_all(folder / "a");
+  EXPECT_EQ(frames.First(), "THERE ARE NO FRAMES");
 }
 
 TEST_F(FramesTest, AChangedFrameIsSavedWhenItIsLeftAndOnlyThen) {
@@ -117,28 +135,6 @@ TEST_F(FramesTest, AChangedFrameIsSavedWhenItIsLeftAndOnlyThen) {
   EXPECT_EQ(Seed(), 79);
   EXPECT_TRUE(document.HasUnsavedWork());
   EXPECT_FALSE(fs::exists(File(3)));
-}
-
-TEST_F(FramesTest, NextBehindTheLastFrameOffersToMakeOne) {
-  WriteFrames({1});
-  (void)frames.First();
-  document.picture.Bitmap[1] = 77;
-  EXPECT_EQ(frames.Next(), "");
-  EXPECT_EQ(messages.shown, support::Lines{"There is no frame after this one\r\nDo you want to create anim0002.kvp "
-                                           "based on the picture in memory?"});
-  EXPECT_TRUE(document.HasUnsavedWork());
-  messages.yes = true;
-  EXPECT_EQ(frames.Next(), "");
-  EXPECT_EQ(frames.CurrentFrame(), 2);
-  EXPECT_EQ(frames.Row().Count(), 2);
-  EXPECT_EQ(SeedIn(File(1)), 77);
-  EXPECT_EQ(SeedIn(File(2)), 77);
-
-  WriteFrames({9999});
-  (void)frames.GoTo("9999");
-  EXPECT_EQ(frames.Next(), "FRAME 9999 IS THE LAST ONE");
-  fs::remove_all(folder / "a");
-  EXPECT_EQ(frames.First(), "THERE ARE NO FRAMES");
 }
 
 TEST_F(FramesTest, FilesThatAreNoPicturesAreSkipped) {

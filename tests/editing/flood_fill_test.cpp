@@ -19,7 +19,6 @@ namespace {
 using model::PictureImage;
 using support::Colour;
 using support::ColourAt;
-using support::RecordingViews;
 
 class CountingEvents final : public app::ProcessEvents {
  public:
@@ -110,67 +109,74 @@ PictureImage Blotchy(unsigned seed) {
   return picture;
 }
 
-void CompareWithLiteral(const PictureImage& before, int x, int y, int colour, bool replace) {
-  PictureImage fast = before, slow = before;
-  RecordingViews views;
-  CountingEvents events;
-  FloodFill fill(fast, views, events);
-  const auto ends = [](auto&& work) {
+class FloodFillTest : public testing::Test {
+ protected:
+  // Whether a fill came to its end before its queue was full.
+  template <typename Work>
+  static bool Ends(Work&& work) {
     try {
       work();
       return true;
     } catch (const FillQueueFull&) {
       return false;
     }
-  };
-  const auto full_cell = replace ? FullCellInFill::kReplaceLeastUsed : FullCellInFill::kKeep;
-  LiteralFill literal(slow, replace);
-  EXPECT_EQ(ends([&] { fill.Fill(x, y, Colour(colour), full_cell); }),
-            ends([&] { literal.Fill(x, y, Colour(colour)); }));
-  EXPECT_EQ(fast, slow);
-  EXPECT_EQ(events.count, static_cast<int>(literal.Taken()) / 8);
-  EXPECT_EQ(views.pixels, literal.written);  // the same pixels in the same order
-}
+  }
 
-TEST(FloodFill, EqualsTheLiteralRulesInContentAndOrder) {
+  void CompareWithLiteral(const PictureImage& before, int x, int y, int colour, bool replace) {
+    picture = before;
+    views.pixels.clear();
+    events.count = 0;
+    PictureImage expected = before;
+    LiteralFill literal(expected, replace);
+    const auto full_cell = replace ? FullCellInFill::kReplaceLeastUsed : FullCellInFill::kKeep;
+    EXPECT_EQ(Ends([&] { fill.Fill(x, y, Colour(colour), full_cell); }),
+              Ends([&] { literal.Fill(x, y, Colour(colour)); }));
+    EXPECT_EQ(picture, expected);
+    EXPECT_EQ(events.count, static_cast<int>(literal.Taken()) / 8);
+    EXPECT_EQ(views.pixels, literal.written);  // the same pixels in the same order
+  }
+
+  PictureImage picture;
+  support::RecordingViews views;
+  CountingEvents events;
+  FloodFill fill{picture, views, events};  // the same for all, as in the program
+};
+
+TEST_F(FloodFillTest, EqualsTheLiteralRulesInContentAndOrder) {
   std::mt19937 random(99);
   for (unsigned seed = 0; seed < 12; ++seed) {
-    const PictureImage picture = Blotchy(seed);
+    const PictureImage before = Blotchy(seed);
     for (const bool replace : {false, true}) {
       SCOPED_TRACE(testing::Message() << "seed " << seed << ", replace " << replace);
-      CompareWithLiteral(picture, static_cast<int>(random() % 160) + 1, static_cast<int>(random() % 200) + 1,
+      CompareWithLiteral(before, static_cast<int>(random() % 160) + 1, static_cast<int>(random() % 200) + 1,
                          static_cast<int>(random() % 8), replace);
     }
   }
   CompareWithLiteral(support::PictureWithCell(42, {0xFF, 0xF3, 0xFF}, 7, 2, 3, 0), 7, 10, 2, false);  // one pixel
-  CompareWithLiteral(PictureImage{}, 80, 100, 5, false);
-  CompareWithLiteral(PictureImage{}, 1, 200, 0, true);
+  CompareWithLiteral({}, 80, 100, 5, false);
+  CompareWithLiteral({}, 1, 200, 0, true);
   CompareWithLiteral(support::Maze(), 1, 1, 5, false);
   CompareWithLiteral(support::Tree(), 80, 100, 5, false);    // fills the queue
   CompareWithLiteral(support::Tree(84), 80, 100, 5, false);  // a window of 999 or 1001 entries takes other ways
 }
 
-TEST(FloodFill, PassesThroughAFullCellAndLeavesItAlone) {
-  PictureImage before;
-  for (int cell = 1; cell <= 40; ++cell) support::SetCell(before, cell, {}, 1, 2, 3);
-  support::SetCell(before, 20, {0x1B, 0, 0, 0, 0, 0, 0, 0}, 1, 2, 3);
-  PictureImage after = before;
-  RecordingViews views;
-  CountingEvents events;
-  FloodFill fill(after, views, events);
+TEST_F(FloodFillTest, PassesThroughAFullCellAndLeavesItAlone) {
+  for (int cell = 1; cell <= 40; ++cell) support::SetCell(picture, cell, {}, 1, 2, 3);
+  support::SetCell(picture, 20, {0x1B}, 1, 2, 3);
+  const PictureImage before = picture;
   fill.Fill(1, 2, Colour(9), FullCellInFill::kKeep);
-  EXPECT_EQ(ColourAt(after, 77, 3), 0);   // in the full cell
-  EXPECT_EQ(ColourAt(after, 160, 3), 9);  // beyond it
+  EXPECT_EQ(ColourAt(picture, 77, 3), 0);   // in the full cell
+  EXPECT_EQ(ColourAt(picture, 160, 3), 9);  // beyond it
 
-  after = before;
+  picture = before;
   fill.Fill(1, 2, Colour(9), FullCellInFill::kReplaceLeastUsed);
-  EXPECT_EQ(ColourAt(after, 77, 3), 9);
-  EXPECT_EQ(ColourAt(after, 80, 1), 9);  // its least used slot, %11 of equals, took the colour with all its pixels
-  EXPECT_EQ(ColourAt(after, 79, 1), 2);
+  EXPECT_EQ(ColourAt(picture, 77, 3), 9);
+  EXPECT_EQ(ColourAt(picture, 80, 1), 9);  // its least used slot, %11 of equals, took the colour with all its pixels
+  EXPECT_EQ(ColourAt(picture, 79, 1), 2);
 
-  const PictureImage recoloured = after;
+  const PictureImage recoloured = picture;
   fill.Fill(78, 1, Colour(8), FullCellInFill::kReplaceLeastUsed);  // not a background region: the full cell is kept
-  EXPECT_EQ(after, recoloured);
+  EXPECT_EQ(picture, recoloured);
 }
 
 }  // namespace
