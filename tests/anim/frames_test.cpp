@@ -29,10 +29,10 @@ class FramesTest : public testing::Test, protected support::Program {
  protected:
   FramesTest() {
     fs::create_directory(folder / "a");
-    KeepAnimProperties(settings, {Text("a/"), "anim"});
+    KeepAnimProperties(settings, {Text("a/"), "Anim"});
   }
   std::string Text(const std::string& name) const { return app::TextFromPath(folder / name); }
-  fs::path File(int number) const { return app::PathFromText(FrameNames({Text("a/"), "anim"}).Path(number)); }
+  fs::path File(int number) const { return app::PathFromText(FrameNames({Text("a/"), "Anim"}).Path(number)); }
   void WriteFrames(std::initializer_list<int> numbers) {
     for (const int number : numbers) WriteFrame(File(number), number);
   }
@@ -54,11 +54,11 @@ TEST(FrameNames, RunFolderPrefixAndNumberTogether) {
   EXPECT_EQ(FrameNames({"", "anim"}).Folder(), fs::path("."));
   EXPECT_EQ(names.NumberOf("animANIM0042.KVP"), 42);
   EXPECT_EQ(names.NumberOfPath("/some/ANIManim0042.kvp"), 42);
-  for (const char* other : {"ANIManim0000.kvp", "ANIManim042.kvp", "ANIManim00042.kvp", "ANIManim-042.kvp",
-                            "ANIManim0042.koa", "anim0042.kvp", "ANIManim0042", ""}) {
+  EXPECT_EQ(names.NumberOfPath("/other/ANIManim0042.kvp"), std::nullopt);
+  for (const char* other :
+       {"ANIManim0000.kvp", "ANIManim042.kvp", "ANIManim-042.kvp", "ANIManim0042.koa", "anim0042.kvp", ""}) {
     EXPECT_EQ(names.NumberOf(other), std::nullopt) << other;
   }
-  EXPECT_EQ(names.NumberOfPath("/other/ANIManim0042.kvp"), std::nullopt);
 }
 
 TEST_F(FramesTest, TheFourButtonsAndTheNumberField) {
@@ -91,7 +91,7 @@ TEST_F(FramesTest, TheFourButtonsAndTheNumberField) {
   (void)frames.GoTo("5");
   document.picture.Bitmap[1] = 77;
   EXPECT_EQ(frames.Next(), "");  // behind the last frame; the answer is no
-  EXPECT_EQ(messages.shown, support::Lines{"There is no frame after this one\r\nDo you want to create anim0006.kvp "
+  EXPECT_EQ(messages.shown, support::Lines{"There is no frame after this one\r\nDo you want to create Anim0006.kvp "
                                            "based on the picture in memory?"});
   EXPECT_TRUE(document.HasUnsavedWork());
   messages.yes = true;
@@ -147,13 +147,18 @@ TEST_F(FramesTest, FilesThatAreNoPicturesAreSkipped) {
   EXPECT_EQ(frames.Row().Count(), 4);
   ASSERT_TRUE(frames.PictureBefore());
   EXPECT_EQ(frames.PictureBefore()->Bitmap[1], 1);
+  support::WriteFile(File(5), {});
+  (void)frames.Next();  // offers a frame behind it: what cannot be read is not written over
+  EXPECT_NE(messages.shown.at(0).find("Anim0006.kvp"), std::string::npos);
   EXPECT_EQ(frames.GoTo("2"), "FRAME 2 IS NOT LOADED");
   EXPECT_EQ(Seed(), 4);
 }
 
 TEST_F(FramesTest, OneFileCountsWhereSeveralDifferInCase) {
   WriteFrames({1, 3});
-  for (int number = 1; number <= 4; ++number) WriteFrame(folder / ("a/ANIM000" + std::to_string(number) + ".KVP"), 50);
+  for (const std::string number : {"1", "2", "3", "4"}) {
+    for (const std::string start : {"a/ANIM000", "a/anim000"}) WriteFrame(folder / (start + number + ".kvp"), 50);
+  }
   WriteFrames({2});
   for (const int seed : {1, 2, 3, 50}) {
     (void)frames.Next();

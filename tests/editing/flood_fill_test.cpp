@@ -18,7 +18,6 @@ namespace {
 
 using model::PictureImage;
 using support::Colour;
-using support::ColourAt;
 
 class CountingEvents final : public app::ProcessEvents {
  public:
@@ -158,25 +157,6 @@ TEST_F(FloodFillTest, EqualsTheLiteralRulesInContentAndOrder) {
   CompareWithLiteral(support::Maze(), 1, 1, 5, false);
   CompareWithLiteral(support::Tree(), 80, 100, 5, false);    // fills the queue
   CompareWithLiteral(support::Tree(84), 80, 100, 5, false);  // a window of 999 or 1001 entries takes other ways
-}
-
-TEST_F(FloodFillTest, PassesThroughAFullCellAndLeavesItAlone) {
-  for (int cell = 1; cell <= 40; ++cell) support::SetCell(picture, cell, {}, 1, 2, 3);
-  support::SetCell(picture, 20, {0x1B}, 1, 2, 3);
-  const PictureImage before = picture;
-  fill.Fill(1, 2, Colour(9), FullCellInFill::kKeep);
-  EXPECT_EQ(ColourAt(picture, 77, 3), 0);   // in the full cell
-  EXPECT_EQ(ColourAt(picture, 160, 3), 9);  // beyond it
-
-  picture = before;
-  fill.Fill(1, 2, Colour(9), FullCellInFill::kReplaceLeastUsed);
-  EXPECT_EQ(ColourAt(picture, 77, 3), 9);
-  EXPECT_EQ(ColourAt(picture, 80, 1), 9);  // its least used slot, %11 of equals, took the colour with all its pixels
-  EXPECT_EQ(ColourAt(picture, 79, 1), 2);
-
-  const PictureImage recoloured = picture;
-  fill.Fill(78, 1, Colour(8), FullCellInFill::kReplaceLeastUsed);  // not a background region: the full cell is kept
-  EXPECT_EQ(picture, recoloured);
 }
 
 }  // namespace

@@ -123,18 +123,15 @@ TEST_F(PaintingTest, AStrokeEndsWithItsButton) {
 
 TEST_F(PaintingTest, PreferencesDecideWhatAFullCellDoes) {
   struct Case {
-    const app::Setting& preference;
     int tool;
     const char* stored;
     int at_press, beside;  // the colours after it
   };
-  for (const Case& c : {Case{k4thColReplaces, kDraw, "", 5, 1},
-                        {k4thColReplaces, kDraw, "0", 2, 1},
-                        {kReplaceLeastUsedColWhenFilling, kFill, "", 0, 1},
-                        {kReplaceLeastUsedColWhenFilling, kFill, "1", 5, 5}}) {
+  for (const Case& c : {Case{kDraw, "", 5, 1}, {kDraw, "0", 2, 1}, {kFill, "", 0, 1}, {kFill, "1", 5, 5}}) {
     SCOPED_TRACE(testing::Message() << c.tool << " with " << c.stored);
     settings.values.clear();
-    if (*c.stored != 0) settings.Write(c.preference, c.stored);
+    const app::Setting& preference = c.tool == kDraw ? k4thColReplaces : kReplaceLeastUsedColWhenFilling;
+    if (*c.stored != 0) settings.Write(preference, c.stored);
     support::SetCell(picture, 1, support::kAllSlots, 1, 2, 3);
     const int x = c.tool == kDraw ? 3 : 1;
     painting.ChooseTool(c.tool);
@@ -217,10 +214,11 @@ TEST_F(PaintingTest, AnUnfinishedShapeGoesWithEscapeUndoAndThePicture) {
     for (const int tool : {kLine, kContinuousLine, kCircle}) {
       painting.ChooseTool(tool);
       Click({10, 10});
+      Click({14, 10});
       (painting.*way)();
       EXPECT_EQ(painting.ToolIndex(), way == &Painting::Escape ? kDraw : tool);
       EXPECT_EQ(painting.UndoData().CanUndo(), way == &Painting::Escape);
-      painting.ChooseTool(tool);
+      if (way == &Painting::Escape) painting.ChooseTool(tool);
       Click({20, 10});
       painting.Tick();
       EXPECT_EQ(CountOf(5), 0);
@@ -294,10 +292,9 @@ TEST_F(PaintingTest, UndoRestoresEveryByteButTheBackground) {
     const int tool = round % 7 + 1;
     painting.ChooseTool(tool);
     painting.PenColours().left = Colour(static_cast<int>(random() % 16));
-    if (tool == kMouseCopy) Click(at(), Button::kRight);
+    Click(at(), Button::kRight);  // takes a cell, or sets a first point
     const PictureImage before = picture;
     Drag(at(), at());
-    if (tool == kLine || tool == kContinuousLine || tool == kCircle) Click(at());
     painting.Tick();
     changes += picture != before;
     PictureImage expected = before;

@@ -18,17 +18,6 @@ TEST(Line, LeavesItsEndToTheNextSegment) {
   EXPECT_EQ(DrawLine({2, 1}, {3, 3}), (Points{{2, 1}, {3, 2}}));  // the half rounds upwards, not to the even neighbour
 }
 
-TEST(Path, HasNoHolesAndEndsWhereThePointerIs) {
-  for (const model::PixelPoint to : {model::PixelPoint{1, 1}, {160, 200}, {90, 1}, {1, 101}, {81, 100}}) {
-    model::PixelPoint last{80, 100};
-    for (const model::PixelPoint& point : PathBetween(last, to)) {
-      EXPECT_LE(std::max(std::abs(point.x - last.x), std::abs(point.y - last.y)), 1);
-      last = point;
-    }
-    EXPECT_EQ(last, to);
-  }
-}
-
 TEST(Circle, RadiusIsMeasuredInColumns) {
   using Case = std::pair<model::PixelPoint, int>;
   for (const auto& [point, radius] : {Case{{80, 110}, 5},

@@ -128,7 +128,7 @@ TEST_F(PictureFilesTest, UnsavedWorkIsKeptBeforeItIsThrownAway) {
   files.OpenPicture(WriteKoala("other.koa"));
   EXPECT_EQ(Backups(), (std::set<std::string>{"pic.koa_2602030907_unsaved.kvp", "pic.koa_2602030907_unsaved_2.kvp",
                                               "pic.koa_2602030907_unsaved_3.kvp"}));
-  EXPECT_EQ(support::ReadFile(folders.Backup() / "pic.koa_2602030907_unsaved_2.kvp")[2050 + 8], 2);
+  EXPECT_EQ(support::ReadFile(folders.Backup() / "pic.koa_2602030907_unsaved_2.kvp").at(2050 + 8), 2);
 
   drawn = 4;
   fs::remove_all(folders.Backup());
