@@ -152,6 +152,7 @@ TEST_F(FloodFillTest, EqualsTheLiteralRulesInContentAndOrder) {
     }
   }
   CompareWithLiteral(support::PictureWithCell(42, {0xFF, 0xF3, 0xFF}, 7, 2, 3, 0), 7, 10, 2, false);  // one pixel
+  CompareWithLiteral(support::PictureWithCell(42, support::kAllSlots, 1, 2, 3, 0), 6, 9, 5, true);    // not background
   CompareWithLiteral({}, 80, 100, 5, false);
   CompareWithLiteral({}, 1, 200, 0, true);
   CompareWithLiteral(support::Maze(), 1, 1, 5, false);
