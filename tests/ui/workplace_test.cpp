@@ -103,13 +103,31 @@ TEST_F(WorkplaceTest, KeysWheelDragAndClickMoveTheZoomArea) {
   EXPECT_EQ(frame->Document().picture, model::PictureImage());
 }
 
+TEST_F(WorkplaceTest, AKeyThatAMenuTookDoesNothingInTheWindow) {
+  QMenu* menu = Menu("mnuViewMenu");
+  menu->popup({});
+  QTest::keyPress(menu, Qt::Key_F);
+  EXPECT_FALSE(Action("mnuView_0")->isChecked());
+  QTest::keyRelease(Box("frmZoom"), Qt::Key_F);
+  EXPECT_EQ(frame->Desk().Painting().ToolIndex(), 1);
+  menu->popup({});
+  menu->setActiveAction(Action("mnuView_3"));
+  QTest::keyPress(menu, Qt::Key_Return);
+  auto* line = Find<QLineEdit>("txtCommand");
+  line->setFocus();
+  QTest::keyRelease(line, Qt::Key_Return);
+  EXPECT_TRUE(line->hasFocus());
+}
+
 TEST_F(WorkplaceTest, FullscreenClosesOnAKeyPressOrClick) {
   for (const bool by_key : {true, false}) {
-    Action("mnuFullscreenView")->trigger();
+    QTest::keyPress(frame.get(), Qt::Key_F11);
     QPointer<QWidget> view = Find("frmFullscreen");
     ASSERT_TRUE(view);
     EXPECT_EQ(view->size(), view->screen()->size());
-    QTest::keyRelease(view, Qt::Key_F11);  // the release of the key that opened it
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_F11, {}, {}, true);
+    QApplication::sendEvent(view, &held);
+    QTest::keyRelease(view, Qt::Key_F11);  // the key that opened it
     EXPECT_TRUE(view->isVisible());
     if (by_key) {
       QTest::keyClick(view, Qt::Key_Space);
