@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "model/zoom_area.h"
+#include "model/pixel_place.h"
 
 namespace kelvo::editing {
 

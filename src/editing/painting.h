@@ -72,7 +72,6 @@ class Painting {
 
   Pens& PenColours() { return pens_; }
   const UndoStep& UndoData() const { return undo_; }
-  UndoStep& UndoData() { return undo_; }
   const model::DetachedCell& CopyBuffer() const { return buffer_; }
 
  private:

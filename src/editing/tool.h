@@ -5,7 +5,7 @@
 
 #include "editing/line.h"
 #include "editing/pens.h"
-#include "model/zoom_area.h"
+#include "model/pixel_place.h"
 
 namespace kelvo::editing {
 

@@ -5,6 +5,12 @@
 
 namespace kelvo::model {
 
+struct PixelPoint {
+  int x = 1, y = 1;  // 1..160, 1..200
+
+  friend bool operator==(const PixelPoint&, const PixelPoint&) = default;
+};
+
 // A pixel's coordinates with everything that follows from them. For a point outside the picture the indices follow the
 // same arithmetic and lie outside their ranges; ask IsInPicture() first.
 struct PixelPlace {

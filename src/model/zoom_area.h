@@ -3,15 +3,10 @@
 
 #include <optional>
 
+#include "model/pixel_place.h"
 #include "model/surface.h"
 
 namespace kelvo::model {
-
-struct PixelPoint {
-  int x = 1, y = 1;  // 1..160, 1..200
-
-  friend bool operator==(const PixelPoint&, const PixelPoint&) = default;
-};
 
 enum class ZoomMove { kLeft, kRight, kUp, kDown, kPageUp, kPageDown, kRowStart, kRowEnd };
 enum class ZoomStep { kCell, kScreen };

@@ -13,7 +13,6 @@ enum class ZoomBorder { kFlash, kWhite, kNone };
 class ZoomBorderColour {
  public:
   void Set(ZoomBorder border) { border_ = border; }
-  ZoomBorder Get() const { return border_; }
 
   // True when the colour changed.
   bool Tick();

@@ -76,12 +76,7 @@ void PutZoomPixel(const PictureImage& picture, int x, int y, const ZoomArea& are
 }
 
 void DrawZoomBorder(C64Colour colour, Surface& surface) {
-  const std::uint32_t pixel = SurfaceColour(colour);
-  constexpr int kBorder = ZoomArea::kBorder;
-  surface.Fill({0, 0, kZoomSurfaceWidth, kBorder}, pixel);
-  surface.Fill({0, kZoomSurfaceHeight - kBorder, kZoomSurfaceWidth, kBorder}, pixel);
-  surface.Fill({0, kBorder, kBorder, ZoomArea::kHeight}, pixel);
-  surface.Fill({kZoomSurfaceWidth - kBorder, kBorder, kBorder, ZoomArea::kHeight}, pixel);
+  for (const Rect& side : kZoomBorder) surface.Fill(side, SurfaceColour(colour));
 }
 
 }  // namespace kelvo::model

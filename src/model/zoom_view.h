@@ -1,6 +1,8 @@
 // Drawing the zoomed area: each picture pixel as a box, with the grid over it and a border around.
 #pragma once
 
+#include <array>
+
 #include "model/picture_image.h"
 #include "model/surface.h"
 #include "model/zoom_area.h"
@@ -9,6 +11,14 @@ namespace kelvo::model {
 
 inline constexpr int kZoomSurfaceWidth = ZoomArea::kWidth + 2 * ZoomArea::kBorder;
 inline constexpr int kZoomSurfaceHeight = ZoomArea::kHeight + 2 * ZoomArea::kBorder;
+
+// The border's sides: above and below over the whole width, left and right between those.
+inline constexpr std::array<Rect, 4> kZoomBorder{{
+    {0, 0, kZoomSurfaceWidth, ZoomArea::kBorder},
+    {0, kZoomSurfaceHeight - ZoomArea::kBorder, kZoomSurfaceWidth, ZoomArea::kBorder},
+    {0, ZoomArea::kBorder, ZoomArea::kBorder, ZoomArea::kHeight},
+    {kZoomSurfaceWidth - ZoomArea::kBorder, ZoomArea::kBorder, ZoomArea::kBorder, ZoomArea::kHeight},
+}};
 
 // Cells are parted by lines in the grid colour along their top and left edges; at 8:1 their pixels are parted by
 // fainter ones. All procedures draw into a surface of kZoomSurfaceWidth x kZoomSurfaceHeight.

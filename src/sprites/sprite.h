@@ -6,7 +6,7 @@
 
 #include "model/c64_colour.h"
 #include "model/picture_image.h"
-#include "model/zoom_area.h"
+#include "model/pixel_place.h"
 
 namespace kelvo::sprites {
 

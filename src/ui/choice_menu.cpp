@@ -18,8 +18,4 @@ void ChoiceMenu::Check(int index) {
   group_->actions().at(index)->setChecked(true);
 }
 
-int ChoiceMenu::Checked() const {
-  return static_cast<int>(group_->actions().indexOf(group_->checkedAction()));
-}
-
 }  // namespace kelvo::ui

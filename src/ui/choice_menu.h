@@ -15,7 +15,6 @@ class ChoiceMenu : public QObject {
   ChoiceMenu(QMenu* menu, const QStringList& captions);
 
   void Check(int index);  // says nothing
-  int Checked() const;
 
  signals:
   void Chosen(int index);

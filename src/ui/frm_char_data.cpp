@@ -120,8 +120,4 @@ void frmCharData::showEvent(QShowEvent* event) {
   Show(place_);
 }
 
-QString frmCharData::BitPairCaption(int position) const {
-  return lblBits_[static_cast<std::size_t>(position - 1)]->text();
-}
-
 }  // namespace kelvo::ui

@@ -22,9 +22,6 @@ class frmCharData : public QWidget {
   // Shows the cell of `place`, and the bit pairs of its line: the pair at the pointer's position is the selected one.
   void Show(const model::PixelPlace& place);
 
-  // The caption of the label for `position` (1..4 from the left) in the pointer's byte: "00".."11".
-  QString BitPairCaption(int position) const;
-
  protected:
   void showEvent(QShowEvent* event) override;
 

@@ -98,14 +98,8 @@ void frmZoom::TickBorder() {
 }
 
 void frmZoom::DrawBorder() {
-  constexpr int kBorder = model::ZoomArea::kBorder;
-  constexpr int kWidth = model::kZoomSurfaceWidth, kHeight = model::kZoomSurfaceHeight;
   model::DrawZoomBorder(border_.Colour(), surface_);
-  for (const model::Rect& side :
-       {model::Rect{0, 0, kWidth, kBorder}, model::Rect{0, kHeight - kBorder, kWidth, kBorder},
-        model::Rect{0, 0, kBorder, kHeight}, model::Rect{kWidth - kBorder, 0, kBorder, kHeight}}) {
-    picStd_->Refresh(side);
-  }
+  for (const model::Rect& side : model::kZoomBorder) picStd_->Refresh(side);
 }
 
 void frmZoom::ShowPreview(editing::Points points, model::C64Colour colour) {

@@ -40,8 +40,4 @@ void StatusPanels::Show(StatusPanel panel, const QString& text) {
   label->setToolTip(text);
 }
 
-QString StatusPanels::Text(StatusPanel panel) const {
-  return panels_[static_cast<std::size_t>(panel)]->text();
-}
-
 }  // namespace kelvo::ui

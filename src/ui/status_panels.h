@@ -14,7 +14,6 @@ class StatusPanels {
   explicit StatusPanels(QStatusBar* bar);
 
   void Show(StatusPanel panel, const QString& text);
-  QString Text(StatusPanel panel) const;
 
  private:
   std::array<QLabel*, 5> panels_{};

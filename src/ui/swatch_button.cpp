@@ -5,17 +5,10 @@
 #include <QPainter>
 
 #include "model/palette.h"
+#include "ui/ink.h"
 #include "ui/qt_text.h"
 
 namespace kelvo::ui {
-namespace {
-
-// Black or white, whichever reads better on `colour`.
-QColor InkOn(const QColor& colour) {
-  return qGray(colour.rgb()) > 120 ? Qt::black : Qt::white;
-}
-
-}  // namespace
 
 QString PlainColourName(model::C64Colour colour) {
   return ToQt(model::ColourName(colour)).mid(3);

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "model/palette.h"
+#include "ui/ink.h"
 
 namespace kelvo::ui {
 namespace {
@@ -24,7 +25,7 @@ void ZoomPicture::ShowPreview(editing::Points points, model::C64Colour colour) {
 
 void ZoomPicture::PaintOverlay(QPainter& painter) {
   const QColor fill = QColor::fromRgb(model::SurfaceColour(colour_));
-  const QColor rim = qGray(fill.rgb()) > 120 ? Qt::black : Qt::white;
+  const QColor rim = InkOn(fill);
   for (const model::PixelPoint& point : preview_) {
     if (!area_.ShowsPixel(point.x, point.y)) continue;
     const model::Rect at = area_.PixelRect(point.x, point.y);

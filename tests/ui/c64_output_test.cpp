@@ -109,6 +109,7 @@ TEST_F(C64OutputTest, StartsTheRealEmulatorOnTheDisk) {
   support::RunningTool display("Xvfb", {number, "-nolisten", "tcp"});
   qputenv("DISPLAY", number.c_str());
   qputenv("HOME", folder.Path().c_str());
+  qunsetenv("XDG_CONFIG_HOME");
   ASSERT_TRUE(QTest::qWaitFor([&] { return exists(fs::path("/tmp/.X11-unix/X" + number.substr(1))); }));
   settings.Write(c64out::kVicePath, c64out::EmulatorOnPath(qgetenv("PATH").toStdString()));
   bool is_shown = false;
