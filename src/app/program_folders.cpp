@@ -3,6 +3,8 @@
 #include <fstream>
 #include <system_error>
 
+#include "app/free_name.h"
+
 namespace kelvo::app {
 namespace {
 
@@ -30,12 +32,11 @@ void CopyMissing(const fs::path& from, const fs::path& to) {
   }
 }
 
-// Makes room for a shipped file: one of that name that is different goes to a name of its own.
+// Makes room for a shipped file: one of that name that is different goes to a free name beside it.
 void KeepOld(const fs::path& file, const fs::path& shipped) {
   std::error_code ignored;
   if (!fs::exists(file, ignored) || TextOf(file) == TextOf(shipped)) return;
-  fs::path old = file;
-  fs::rename(file, old += ".old", ignored);
+  fs::rename(file, FreeNameBeside(file), ignored);
 }
 
 }  // namespace
@@ -49,10 +50,10 @@ void ProgramFolders::Seed(const fs::path& shipped) const {
   std::error_code ignored;
   const fs::path stamp = shipped / "SYSTEM" / kStamp;
   if (fs::exists(stamp, ignored) && TextOf(System() / kStamp) != TextOf(stamp)) {
+    fs::remove(System() / kStamp, ignored);
     for (const fs::directory_entry& entry : fs::directory_iterator(shipped / "SYSTEM", ignored)) {
       KeepOld(System() / entry.path().filename(), entry.path());
     }
-    fs::remove((System() / kStamp) += ".old", ignored);
   }
   CopyMissing(shipped / "SYSTEM", System());
   CopyMissing(shipped / "GFX", Gfx());

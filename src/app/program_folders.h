@@ -23,7 +23,7 @@ class ProgramFolders {
 
   // Copies what is shipped under `shipped`/SYSTEM and `shipped`/GFX to here. What is here already is left
   // alone, but tools and templates belong together: when others are shipped than before, each that differs is renamed
-  // to end in ".old" and replaced.
+  // to a free name that ends in ".old" and replaced.
   void Seed(const std::filesystem::path& shipped) const;
 
  private:

@@ -2,26 +2,17 @@
 
 #include <stdexcept>
 
+#include "app/free_name.h"
 #include "app/path_text.h"
 
 namespace kelvo::c64out {
-namespace {
 
 namespace fs = std::filesystem;
-
-fs::path FreeNameBeside(const fs::path& file) {
-  fs::path name = file;
-  name += ".old";
-  while (fs::exists(fs::symlink_status(name))) name += ".old";
-  return name;
-}
-
-}  // namespace
 
 SetAside::SetAside(const fs::path& file) : file_(file) {
   if (!fs::exists(file)) return;
   if (!fs::is_regular_file(file)) throw std::runtime_error(app::TextFromPath(file) + ": this is no file");
-  aside_ = FreeNameBeside(file);
+  aside_ = app::FreeNameBeside(file);
   fs::rename(file, aside_);
 }
 

@@ -38,6 +38,10 @@ TEST(ProgramFolders, AreSeededWithAllNewToolsAndNoneOfTheUsersFilesIsLost) {
   EXPECT_EQ(here("../GFX/a.kvp"), "the user's");
   EXPECT_EQ(here("../GFX/b.kvp"), "shipped");
   EXPECT_TRUE(std::filesystem::is_directory(folders.Backup()));
+  EXPECT_FALSE(exists(folders.System() / "shipped.txt.old"));
+  ship("3");
+  EXPECT_EQ(here("template.old"), "the user's");
+  EXPECT_EQ(here("template.old.old"), "template 2");
 }
 
 TEST(ProgramFolders, LieBesideTheProgramOnlyWhereThatCanBeWritten) {
