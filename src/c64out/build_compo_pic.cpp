@@ -1,5 +1,7 @@
 #include "c64out/build_compo_pic.h"
 
+#include <fstream>
+
 #include "app/path_text.h"
 #include "app/whole_file.h"
 #include "c64out/codenet_ending.h"
@@ -15,8 +17,6 @@ namespace {
 
 // The build ends here without having failed: the user has been told by a message box.
 struct BuildGivenUp {};
-
-constexpr std::uintmax_t kMostPrgBytes = 65538;  // load address and all of a C64's memory
 
 void RequireEmulator(const BuildJob& job) {
   const std::string folder = job.Setting(kVicePath);
@@ -92,12 +92,19 @@ void AddDepacker(const BuildJob& job) {
   Remove(files.depacker_source);
 }
 
-// Many pictures are files called .prg too. One that is no program to be started by RUN is not lost to the new program.
+// A program to be started by RUN loads to $0801, and has no more bytes than a C64's memory.
+bool IsProgram(const std::filesystem::path& file) {
+  constexpr std::uintmax_t kLoadAddressBytes = 2, kMemoryBytes = 65536;
+  const std::uintmax_t size = app::FileSize(file);
+  std::ifstream stream(file, std::ios::binary);
+  return size > kLoadAddressBytes && size <= kLoadAddressBytes + kMemoryBytes && stream.get() == 0x01 &&
+         stream.get() == 0x08;
+}
+
+// Many pictures are files called .prg too. One that is no program is not lost to the new program.
 void KeepForeignFile(const BuildJob& job, const std::filesystem::path& prg) {
   std::error_code error;
-  if (std::filesystem::file_size(prg, error) > kMostPrgBytes || error) return;
-  const app::Bytes bytes = app::ReadWholeFile(prg, kMostPrgBytes);
-  if (bytes.size() > 2 && bytes[0] == 0x01 && bytes[1] == 0x08) return;
+  if (!std::filesystem::is_regular_file(prg, error) || IsProgram(prg)) return;
   const BuildSurroundings& with = job.With();
   const std::string name = job.BaseName() + "_" + app::BackupStamp(with.clock.Now()) + "_replaced.prg";
   app::CopyWholeFile(prg, with.folders.Backup() / app::PathFromText(name));

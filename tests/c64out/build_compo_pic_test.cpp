@@ -137,6 +137,13 @@ TEST_F(BuildCompoPicTest, KeepsAPrgThatIsNoProgramInBackup) {
   support::WriteFile(folder / "art/My Pic.prg", {0x01, 0x08, 1, 2});
   EXPECT_TRUE(Build(kPrg));
   EXPECT_EQ(FilesIn(folders.Backup()).size(), 2U);  // the snapshot's backup alone came
+  clock.time.tm_sec = 59;
+  app::Bytes more_than_memory(65539, 8);
+  more_than_memory[0] = 0x01;
+  support::WriteFile(folder / "art/My Pic.prg", more_than_memory);
+  EXPECT_TRUE(Build(kPrg));
+  const std::string copy = "My Pic_" + app::BackupStamp(clock.Now()) + "_replaced.prg";
+  EXPECT_EQ(support::ReadFile(folders.Backup() / copy), more_than_memory);
 }
 
 TEST_F(BuildCompoPicTest, GivesUpWithoutAnEmulatorOrAnInterpreter) {
