@@ -1,6 +1,7 @@
 #include "c64out/build_compo_pic.h"
 
 #include <fstream>
+#include <functional>
 
 #include "app/path_text.h"
 #include "app/whole_file.h"
@@ -117,9 +118,7 @@ void KeepProgram(const BuildJob& job) {
   job.Print("--> PRG complete.");
 }
 
-void End(const BuildJob& job) {
-  if (!job.Choice().MakePrg) return EndWithDisk(job);
-  if (!job.Choice().ViaCodenet) return KeepProgram(job);
+void SendProgram(const BuildJob& job) {
   EndWithCodenet(job);
   // An older program beside the picture goes and is not replaced, on purpose: it no longer is what the C64 shows.
   const std::filesystem::path prg = job.BesidePicture(".prg");
@@ -127,7 +126,13 @@ void End(const BuildJob& job) {
   Remove(prg);
 }
 
-void Build(const BuildJob& job) {
+std::optional<ToolCommand> End(const BuildJob& job) {
+  if (!job.Choice().MakePrg) return EndWithDisk(job);
+  job.Choice().ViaCodenet ? SendProgram(job) : KeepProgram(job);
+  return std::nullopt;
+}
+
+std::optional<ToolCommand> Build(const BuildJob& job) {
   Begin(job);
   job.Print("--> Compiling source");
   SavePicture(job);
@@ -138,31 +143,50 @@ void Build(const BuildJob& job) {
   Crush(job);
   job.Print("--> Adding depacker");
   AddDepacker(job);
-  End(job);
+  auto emulator = End(job);
   Remove(job.Files().program);
+  return emulator;
 }
 
-}  // namespace
-
-BuildOutcome BuildCompoPic(const files::Document& document, const CompoPicChoice& choice,
-                           const BuildSurroundings& with) {
-  const BuildJob job(document, choice, with);
+// A build that fails leaves no work files; one that is given up leaves what it has, on purpose.
+std::optional<ToolCommand> BuildOrCleanUp(const BuildJob& job) {
   try {
-    Build(job);
+    return Build(job);
+  } catch (const std::exception&) {
+    job.Files().RemoveAll();
+    throw;
+  }
+}
+
+// Does `work` and tells how it ended.
+BuildOutcome OutcomeOf(const BuildSurroundings& with, const std::function<void()>& work) {
+  try {
+    work();
     return BuildOutcome::kDone;
   } catch (const BuildGivenUp&) {
     return BuildOutcome::kFailed;
   } catch (const BuildStopped& stop) {
-    job.Files().RemoveAll();
-    job.Print("--> " + std::string(stop.what()));
+    with.prompt.CommandPromptList("--> " + std::string(stop.what()));
     return BuildOutcome::kStopped;
   } catch (const std::exception& error) {
     with.log.Write("modVICEandCodenet_BuildCompoPic: " + std::string(error.what()));
-    job.Files().RemoveAll();
-    job.Print("--> " + std::string(error.what()));
-    job.Print("--> [err 908]");
+    with.prompt.CommandPromptList("--> " + std::string(error.what()));
+    with.prompt.CommandPromptList("--> [err 908]");
     return BuildOutcome::kFailed;
   }
+}
+
+}  // namespace
+
+BuildResult BuildCompoPic(const files::Document& document, const CompoPicChoice& choice,
+                          const BuildSurroundings& with) {
+  std::optional<ToolCommand> emulator;
+  const BuildOutcome outcome = OutcomeOf(with, [&] { emulator = BuildOrCleanUp(BuildJob(document, choice, with)); });
+  return {outcome, emulator};
+}
+
+BuildOutcome ShowInEmulator(const ToolCommand& emulator, const BuildSurroundings& with) {
+  return OutcomeOf(with, [&] { RequireSuccess(emulator, with.runner.ShowAndWait(emulator)); });
 }
 
 }  // namespace kelvo::c64out

@@ -1,18 +1,28 @@
 // From the picture in memory to a program that shows it on a C64.
 #pragma once
 
+#include <optional>
+
 #include "c64out/build_job.h"
 
 namespace kelvo::c64out {
 
 enum class BuildOutcome { kDone, kStopped, kFailed };
 
+struct BuildResult {
+  BuildOutcome outcome;
+  std::optional<ToolCommand> emulator;  // what is to be shown next, once other builds may begin
+};
+
 // Builds what `choice` asks for out of `document`, which has a file: a PRG or a D64 beside the picture, or a transfer
-// to a C64. Lines in the prompt tell how far it is. Returns when it is done, failed or stopped by the user.
+// to a C64. Lines in the prompt tell how far it is. Returns when it is done, failed or stopped by the user. No emulator
+// runs then yet: it may be looked at for hours.
 //
 // A failure is one "--> " line that says what went wrong, then "--> [err 908]"; the work files are removed then, and an
 // older result beside the picture stays as it was. The picture, its name and the dialogs' folder stay as they are.
-BuildOutcome BuildCompoPic(const files::Document& document, const CompoPicChoice& choice,
-                           const BuildSurroundings& with);
+BuildResult BuildCompoPic(const files::Document& document, const CompoPicChoice& choice, const BuildSurroundings& with);
+
+// Runs the emulator until the user closes it or it is no longer waited for. Its failure is told like that of a build.
+BuildOutcome ShowInEmulator(const ToolCommand& emulator, const BuildSurroundings& with);
 
 }  // namespace kelvo::c64out

@@ -62,18 +62,9 @@ std::string BuildJob::DiskFileName(const app::Setting& name_setting) const {
   return name;
 }
 
-void BuildJob::Run(RunMethod method, const fs::path& tool, std::vector<std::string> arguments) const {
-  const std::string name = app::TextFromPath(tool.filename());
-  const std::string path = ShortPath(tool);
-  if (path.empty()) throw std::runtime_error(name + ": there is no " + app::TextFromPath(tool));
-  const ToolResult result = (with_.runner.*method)({path, std::move(arguments)});
-  if (result.stopped) throw BuildStopped();
-  if (result.failure.empty()) return;
-  throw std::runtime_error(result.failure.starts_with(name + ": ") ? result.failure : name + ": " + result.failure);
-}
-
 void BuildJob::Run(const fs::path& tool, std::vector<std::string> arguments) const {
-  Run(&ToolRunner::RunAndWait, tool, std::move(arguments));
+  const ToolCommand command = CommandFor(tool, std::move(arguments));
+  RequireSuccess(command, with_.runner.RunAndWait(command));
 }
 
 void BuildJob::Make(const fs::path& output, const fs::path& tool, std::vector<std::string> arguments) const {
@@ -83,8 +74,17 @@ void BuildJob::Make(const fs::path& output, const fs::path& tool, std::vector<st
   throw std::runtime_error(app::TextFromPath(tool.filename()) + ": left no " + app::TextFromPath(output.filename()));
 }
 
-void BuildJob::Show(const fs::path& program, std::vector<std::string> arguments) const {
-  Run(&ToolRunner::ShowAndWait, program, std::move(arguments));
+ToolCommand CommandFor(const fs::path& tool, std::vector<std::string> arguments) {
+  const std::string path = ShortPath(tool);
+  if (!path.empty()) return {path, std::move(arguments)};
+  throw std::runtime_error(app::TextFromPath(tool.filename()) + ": there is no " + app::TextFromPath(tool));
+}
+
+void RequireSuccess(const ToolCommand& command, const ToolResult& result) {
+  if (result.stopped) throw BuildStopped();
+  if (result.failure.empty()) return;
+  const std::string said_by = app::FileNamePart(command.tool) + ": ";
+  throw std::runtime_error(result.failure.starts_with(said_by) ? result.failure : said_by + result.failure);
 }
 
 void Remove(const fs::path& file) {

@@ -75,18 +75,19 @@ class BuildJob {
   // The same for a tool that makes a file: also throws when that is not there afterwards.
   void Make(const std::filesystem::path& output, const std::filesystem::path& tool,
             std::vector<std::string> arguments) const;
-  // The same for a program that the user looks at.
-  void Show(const std::filesystem::path& program, std::vector<std::string> arguments) const;
 
  private:
-  using RunMethod = ToolResult (ToolRunner::*)(const ToolCommand&);
-  void Run(RunMethod method, const std::filesystem::path& tool, std::vector<std::string> arguments) const;
-
   const files::Document& document_;
   CompoPicChoice choice_;
   BuildSurroundings with_;
   WorkFiles files_;
 };
+
+// What runs `tool`. Throws std::runtime_error when it is missing.
+ToolCommand CommandFor(const std::filesystem::path& tool, std::vector<std::string> arguments);
+
+// Throws what BuildJob::Run throws when `command` ended otherwise than well.
+void RequireSuccess(const ToolCommand& command, const ToolResult& result);
 
 // Removes a file; one that is not there, or cannot be removed, is left alone.
 void Remove(const std::filesystem::path& file);

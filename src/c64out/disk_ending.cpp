@@ -28,7 +28,7 @@ std::string NameOnDisk(std::string_view name) {
   return std::string(app::FirstCharacters(app::ToLower(name), kNameCharacters)) + ".prg";
 }
 
-void EndWithDisk(const BuildJob& job) {
+std::optional<ToolCommand> EndWithDisk(const BuildJob& job) {
   const std::filesystem::path image = job.BesidePicture(".d64");
   const std::string folder = job.Setting(kVicePath), name = NameOnDisk(job.DiskFileName(kVicePrgName));
   RequireDiskName(name);
@@ -38,9 +38,9 @@ void EndWithDisk(const BuildJob& job) {
   job.Run(DiskTool(folder), {image_path, "-write", ShortPath(job.Files().program), name});
   older.Drop();
   job.Print("--> D64 complete.");
-  if (!job.Choice().LaunchVice) return;
+  if (!job.Choice().LaunchVice) return std::nullopt;
   job.Print("--> Launching VICE.");
-  job.Show(FindEmulator(folder).value_or(app::PathFromText(folder)), {"-autostart", image_path + ":" + name});
+  return CommandFor(FindEmulator(folder).value_or(app::PathFromText(folder)), {"-autostart", image_path + ":" + name});
 }
 
 }  // namespace kelvo::c64out

@@ -34,25 +34,29 @@ void BuildDesk::BuildCompoPic(const c64out::CompoPicChoice& choice) {
 void BuildDesk::Run(const c64out::CompoPicChoice& choice) {
   is_running_ = true;
   emit StateChanged();
-  const c64out::BuildOutcome outcome = BuildAlone(choice);
+  c64out::BuildResult result = BuildAlone(choice);
+  if (result.emulator) result.outcome = c64out::ShowInEmulator(*result.emulator, ForBuilds());
   is_running_ = false;
   emit StateChanged();
-  emit Ended(outcome);
+  emit Ended(result.outcome);
 }
 
 // Programs on one program folder build in the same work files. The picture may change while tools are at work: the
 // build has its own copy.
-c64out::BuildOutcome BuildDesk::BuildAlone(const c64out::CompoPicChoice& choice) {
+c64out::BuildResult BuildDesk::BuildAlone(const c64out::CompoPicChoice& choice) {
   QLockFile lock(ToQt(app::TextFromPath(with_.folders.System() / "build.lock")));
   lock.setStaleLockTime(0);
   if (!lock.tryLock(0) && lock.error() == QLockFile::LockFailedError) {
     with_.prompt.CommandPromptList("--> Another Kelvo is building in the same program folder.");
     with_.prompt.CommandPromptList("--> [err 908]");
-    return c64out::BuildOutcome::kFailed;
+    return {c64out::BuildOutcome::kFailed, {}};
   }
   const files::Document picture = with_.document;
-  return c64out::BuildCompoPic(
-      picture, choice, {with_.folders, with_.settings, with_.clock, with_.log, with_.messages, with_.prompt, runner_});
+  return c64out::BuildCompoPic(picture, choice, ForBuilds());
+}
+
+c64out::BuildSurroundings BuildDesk::ForBuilds() const {
+  return {with_.folders, with_.settings, with_.clock, with_.log, with_.messages, with_.prompt, runner_};
 }
 
 void BuildDesk::Stop() {

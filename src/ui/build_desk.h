@@ -56,7 +56,8 @@ class BuildDesk : public QObject {
 
  private:
   void Run(const c64out::CompoPicChoice& choice);
-  c64out::BuildOutcome BuildAlone(const c64out::CompoPicChoice& choice);
+  c64out::BuildResult BuildAlone(const c64out::CompoPicChoice& choice);
+  c64out::BuildSurroundings ForBuilds() const;
 
   BuildDeskSurroundings with_;
   QWidget* window_;

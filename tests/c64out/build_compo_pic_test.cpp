@@ -60,8 +60,9 @@ struct Scene : support::Program {
   }
 
   bool Build(const CompoPicChoice& choice) {
-    return BuildCompoPic(document, choice, {folders, settings, clock, log, messages, prompt, tools}) ==
-           BuildOutcome::kDone;
+    const BuildSurroundings with{folders, settings, clock, log, messages, prompt, tools};
+    const BuildResult result = BuildCompoPic(document, choice, with);
+    return (result.emulator ? ShowInEmulator(*result.emulator, with) : result.outcome) == BuildOutcome::kDone;
   }
   std::string System(std::string_view name) const { return app::TextFromPath(folders.System() / name); }
   static Lines FilesIn(const std::filesystem::path& place) {

@@ -49,9 +49,9 @@ app::Bytes BuildPictureProgram(const std::filesystem::path& folder, const model:
   const files::Document document{.picture = picture,
                                  .file = files::SetFileParameters(app::TextFromPath(folder / "picture.kvp"))};
   const c64out::CompoPicChoice choice{.MakePrg = true, .ViaCodenet = start == StartedBy::kNetwork};
-  const c64out::BuildOutcome outcome =
+  const c64out::BuildResult result =
       c64out::BuildCompoPic(document, choice, {folders, settings, clock, log, messages, prompt, tools});
-  if (outcome != c64out::BuildOutcome::kDone) return {};
+  if (result.outcome != c64out::BuildOutcome::kDone) return {};
   return start == StartedBy::kNetwork ? tools.sent : ReadFile(folder / "picture.prg");
 }
 

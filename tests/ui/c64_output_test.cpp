@@ -139,6 +139,7 @@ TEST_F(C64OutputTest, AnotherPreviewLeavesTheShownOneRunning) {
     if (!is_asked_again && so_far == "call\n" && Action("mnuPreviewCompopicInVICE")->isEnabled()) {
       is_asked_again = true;
       EXPECT_FALSE(frame->Builds().IsBuilding());
+      EXPECT_FALSE(exists(folders.System() / "build.lock"));  // another program may build too
       Action("mnuPreviewCompopicInVICE")->trigger();
     } else if (so_far == "call\ncall\n") {
       look.stop();
