@@ -16,7 +16,7 @@
 namespace kelvo::c64out {
 namespace {
 
-// The build ends here without having failed: the user has been told by a message box.
+// The build ends here: the user has been told why by a message box.
 struct BuildGivenUp {};
 
 void RequireEmulator(const BuildJob& job) {
@@ -164,7 +164,7 @@ BuildOutcome OutcomeOf(const BuildSurroundings& with, const std::function<void()
     work();
     return BuildOutcome::kDone;
   } catch (const BuildGivenUp&) {
-    return BuildOutcome::kFailed;
+    return BuildOutcome::kGivenUp;
   } catch (const BuildStopped& stop) {
     with.prompt.CommandPromptList("--> " + std::string(stop.what()));
     return BuildOutcome::kStopped;

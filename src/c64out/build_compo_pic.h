@@ -7,7 +7,8 @@
 
 namespace kelvo::c64out {
 
-enum class BuildOutcome { kDone, kStopped, kFailed };
+// Why a build failed is in the prompt; why it was given up, a message box has told.
+enum class BuildOutcome { kDone, kStopped, kFailed, kGivenUp };
 
 struct BuildResult {
   BuildOutcome outcome;
@@ -15,8 +16,8 @@ struct BuildResult {
 };
 
 // Builds what `choice` asks for out of `document`, which has a file: a PRG or a D64 beside the picture, or a transfer
-// to a C64. Lines in the prompt tell how far it is. Returns when it is done, failed or stopped by the user. No emulator
-// runs then yet: it may be looked at for hours.
+// to a C64. Lines in the prompt tell how far it is. Returns when it is done, failed, given up or stopped by the user.
+// No emulator runs then yet: it may be looked at for hours.
 //
 // A failure is one "--> " line that says what went wrong, then "--> [err 908]"; the work files are removed then, and an
 // older result beside the picture stays as it was. The picture, its name and the dialogs' folder stay as they are.

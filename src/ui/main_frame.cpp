@@ -170,7 +170,7 @@ void MainFrame::ShowBuilding() {
 
 // The prompt is the build log: it comes forward when there is something to read in it. The keyboard stays where it is.
 void MainFrame::BuildEnded(c64out::BuildOutcome outcome) {
-  constexpr std::array kWords{"Build complete", "Build stopped", "Build failed"};
+  constexpr std::array kWords{"Build complete", "Build stopped", "Build failed", "Build failed"};
   statusBar()->showMessage(kWords.at(static_cast<std::size_t>(outcome)), kWordMilliseconds);
   if (outcome != c64out::BuildOutcome::kFailed || IsWindowShown(ChildWindowId::kPrompt)) return;
   QMdiSubWindow* active = area_->activeSubWindow();

@@ -225,6 +225,15 @@ TEST_F(C64OutputTest, TwoProgramsDoNotBuildInEachOthersFiles) {
   EXPECT_EQ(PromptLines().last(), "--> PRG complete.");
 }
 
+TEST_F(C64OutputTest, ABuildThatABoxExplainsLeavesThePromptHidden) {
+  Open("pic.koa");
+  remove(vice / "x64");
+  AnswerNext(QMessageBox::Ok);
+  Action("mnuCreatePRGCompopic")->trigger();
+  EXPECT_EQ(box_text, "Invalid VICE path");
+  EXPECT_FALSE(Find("frmCommand")->isVisible());
+}
+
 TEST_F(C64OutputTest, TheSettingsDecideWhatCanBeChosen) {
   settings.Write(c64out::kVicePath, app::TextFromPath(folder.Path()));
   AnswerNext(QMessageBox::Ok);
