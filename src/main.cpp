@@ -1,6 +1,7 @@
 // Puts the program together and runs it.
 #include <QCommandLineParser>
 #include <QFileInfo>
+#include <QScopeGuard>
 #include <QStandardPaths>
 #include <algorithm>
 #include <string_view>
@@ -52,6 +53,18 @@ kelvo::app::ProgramFolders FindFolders() {
   return folders;
 }
 
+// Runs within the event loop, so that an end of the program also ends what is asked here. The window comes up even when
+// something goes wrong before it.
+void Begin(kelvo::ui::MainFrame& frame, const QStringList& pictures) {
+  {
+    const auto show = qScopeGuard([&frame] { frame.show(); });
+    frame.StartUp();
+  }
+  if (!frame.OfferRecovery() && !pictures.isEmpty()) {
+    frame.Files().OpenPicture(FromQt(QFileInfo(pictures.first()).absoluteFilePath()));
+  }
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -76,11 +89,7 @@ int main(int argc, char** argv) {
     messages.Warn(std::string("Something went wrong; the picture is untouched.\n") + error.what());
   };
   const kelvo::ui::SuddenEnd sudden_end([&frame] { frame.EndSuddenly(); });
-  frame.StartUp();
-  frame.show();
-  if (!frame.OfferRecovery() && !parser.positionalArguments().isEmpty()) {
-    const QFileInfo picture(parser.positionalArguments().first());
-    frame.Files().OpenPicture(FromQt(picture.absoluteFilePath()));
-  }
+  QMetaObject::invokeMethod(
+      &frame, [&] { Begin(frame, parser.positionalArguments()); }, Qt::QueuedConnection);
   return kelvo::ui::KelvoApplication::exec();
 }

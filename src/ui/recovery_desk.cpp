@@ -19,34 +19,35 @@ void RecoveryDesk::Tick() {
 }
 
 void RecoveryDesk::KeepNow() {
+  is_ending_ = true;
   Guard([this] { copy_.KeepNow(); });
 }
 
 bool RecoveryDesk::Offer() {
   bool is_taken_up = false;
-  for (int number = 1; number <= kMostPrograms; ++number) {
-    Guard([&] { is_taken_up = OfferCopyOf(number) || is_taken_up; });
+  for (int number = 1; number <= kMostPrograms && !is_ending_; ++number) {
+    Guard([&] { OfferCopyOf(number, is_taken_up); });
   }
   return is_taken_up;
 }
 
-bool RecoveryDesk::OfferCopyOf(int number) {
+void RecoveryDesk::OfferCopyOf(int number, bool& is_taken_up) {
   const files::RecoveryFiles left(with_.folders, number);
   const auto document = left.Read();
   const auto lock = number == slot_.Number() ? nullptr : slot_.TryLock(number);
-  if (!document || (lock == nullptr && number != slot_.Number())) return false;
+  if (!document || (lock == nullptr && number != slot_.Number())) return;
   const std::string name = document->file.HasFile() ? document->file.CurrentFileName : "unnamed";
   const bool is_wanted =
       with_.messages.Ask("Kelvo ended without saving the picture " + name +
                          " the last time.\nOpen it as it was? Otherwise it is kept in the BACKUP folder.");
-  if (is_wanted && !with_.files.Recover(*document)) return false;
+  if (is_ending_ || (is_wanted && !with_.files.Recover(*document))) return;
   if (is_wanted) {
+    is_taken_up = true;
     copy_.KeepNow();
   } else {
     files::KeepRescueCopy(*document, with_.folders, with_.clock);
   }
   if (!is_wanted || number != slot_.Number()) left.Remove();
-  return is_wanted;
 }
 
 }  // namespace kelvo::ui

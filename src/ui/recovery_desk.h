@@ -30,17 +30,19 @@ class RecoveryDesk {
   void Remove() { copy_.Remove(); }
 
   // Offers what programs left that ended without saving; true when the user took some of it up. What is not wanted now
-  // stays in BACKUP as a rescue copy.
+  // stays in BACKUP as a rescue copy. A question that the end of the program closes is asked again at the next start.
   bool Offer();
 
  private:
-  bool OfferCopyOf(int number);
+  // Sets `is_taken_up` as soon as the work is in the document, whatever fails behind that.
+  void OfferCopyOf(int number, bool& is_taken_up);
   template <typename Work>
   void Guard(Work&& work);
 
   Surroundings with_;
   ProgramSlot slot_;
   files::RecoveryCopy copy_;
+  bool is_ending_ = false;
 };
 
 }  // namespace kelvo::ui

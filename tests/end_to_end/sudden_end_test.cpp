@@ -36,6 +36,10 @@ TEST_F(SuddenEnd, LeavesWorkThatIsOfferedAndSavedAtTheNextStart) {
   EXPECT_EQ(BackgroundIn(copy_file), 1);
 
   Start();
+  EndBy(SIGTERM);  // while the question is open: it is asked again
+  EXPECT_EQ(BackgroundIn(copy_file), 1);
+
+  Start();
   Hands("key alt+y sleep 0.5");
   EXPECT_EQ(BackgroundIn(copy_file), 1);  // it stays until the work is saved
   ChangePicture();

@@ -8,8 +8,10 @@
 #include <random>
 
 #include "main_frame_fixture.h"
+#include "support/program.h"
 #include "ui/program_slot.h"
 #include "ui/qt_settings.h"
+#include "ui/recovery_desk.h"
 
 namespace kelvo::ui {
 namespace {
@@ -102,6 +104,19 @@ TEST(ProgramSlot, IsANumberOfItsOwnWhileTheProgramRuns) {
   remove_all(folders.System());
   support::WriteText(folders.System(), "a file where the folder should be");
   EXPECT_EQ(ProgramSlot(folders).Number(), 1);
+}
+
+TEST(RecoveryDesk, WorkThatCannotBeKeptAgainIsTakenUpAndStillKept) {
+  support::Program program;
+  program.document.picture = support::RandomPicture(3);
+  files::RecoveryCopy(program.document, files::RecoveryFiles(program.folders, 2)).KeepNow();
+  program.document = {};
+  create_directory(files::RecoveryFiles(program.folders, 1).name);  // no file can be written there
+  program.messages.yes = true;
+  RecoveryDesk desk({program.folders, program.clock, program.log, program.messages, program.document, program.files});
+  EXPECT_TRUE(desk.Offer());
+  EXPECT_EQ(program.document.picture.BackgroundColour, support::RandomPicture(3).BackgroundColour);
+  EXPECT_TRUE(files::RecoveryFiles(program.folders, 2).Read());
 }
 
 }  // namespace
