@@ -331,6 +331,7 @@ void MainFrame::closeEvent(QCloseEvent* event) {
 void MainFrame::EndSuddenly() {
   recovery_.KeepNow();
   StopTools();
+  runner_.EndNow();
 }
 
 }  // namespace kelvo::ui

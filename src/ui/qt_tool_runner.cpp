@@ -37,14 +37,14 @@ void SetCommand(QProcess& process, const c64out::ToolCommand& command) {
 #endif
 }
 
-void End(QProcess& process) {
+// `process` has been started.
+void Kill(QProcess& process) {
 #ifdef Q_OS_WIN
   QProcess::execute("taskkill", {"/PID", QString::number(process.processId()), "/T", "/F"});
 #else
   ::kill(static_cast<pid_t>(-process.processId()), SIGKILL);
 #endif
   process.kill();
-  process.waitForFinished(kEndMilliseconds);
 }
 
 // The line of the output that tells most: the first that speaks of an error, else the first that says anything.
@@ -90,6 +90,7 @@ c64out::ToolResult QtToolRunner::Wait(QProcess& process, const c64out::ToolComma
   process.setStandardInputFile(QProcess::nullDevice());
   SetCommand(process, command);
   process.start();
+  process_ = &process;
   SetState(state);
   if (process.state() != QProcess::NotRunning) wait.exec();
   SetState(State::kIdle);
@@ -106,7 +107,8 @@ c64out::ToolResult QtToolRunner::RunAndWait(const c64out::ToolCommand& command) 
   });
   c64out::ToolResult result = Wait(process, command, State::kWorking);
   if (result.stopped) {
-    End(process);
+    Kill(process);
+    process.waitForFinished(kEndMilliseconds);
   } else {
     result.failure = FromQt(WhyItFailed(process, output));
   }
@@ -135,6 +137,11 @@ void QtToolRunner::SetState(State state) {
 
 void QtToolRunner::Stop() {
   if (wait_) wait_->quit();
+}
+
+void QtToolRunner::EndNow() {
+  Stop();
+  if (IsBusy() && process_->state() != QProcess::NotRunning) Kill(*process_);
 }
 
 }  // namespace kelvo::ui

@@ -25,6 +25,8 @@ class QtToolRunner final : public QObject, public c64out::ToolRunner {
 
   // Ends the wait: a tool is ended with all that it started, a program that the user looks at is left running.
   void Stop();
+  // The same for a program that is about to end: the tool is ended here and now, because no wait may return any more.
+  void EndNow();
 
   // A tool is at work, or a program that the user looks at is waited for.
   bool IsBusy() const { return state_ == State::kWorking; }
@@ -39,6 +41,7 @@ class QtToolRunner final : public QObject, public c64out::ToolRunner {
   c64out::ToolResult Wait(QProcess& process, const c64out::ToolCommand& command, State state);
 
   QPointer<QEventLoop> wait_;
+  QPointer<QProcess> process_;  // the one that is waited for
   State state_ = State::kIdle;
 };
 

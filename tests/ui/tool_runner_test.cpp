@@ -3,6 +3,7 @@
 
 #include <QTest>
 #include <QTimer>
+#include <csignal>
 
 #include "app/path_text.h"
 #include "support/pictures.h"
@@ -60,6 +61,16 @@ TEST_F(ToolRunnerTest, AStopEndsAToolWithItsChildren) {
   EXPECT_TRUE(runner.RunAndWait(Tool("(sleep 1; touch survived) & touch started; sleep 60")).stopped);
   QTest::qWait(1500);
   EXPECT_FALSE(fs::exists(folder / "survived"));
+}
+
+TEST_F(ToolRunnerTest, AToolIsEndedBeforeTheProgramIs) {
+  QTimer::singleShot(0, [&] {
+    EXPECT_TRUE(IsThereSoon("started"));
+    runner.EndNow();
+    const pid_t process = std::stoi(support::ReadText(folder / "started"));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return ::kill(process, 0) != 0; }));
+  });
+  runner.RunAndWait(Tool("printf $$ > pid; mv pid started; exec sleep 60"));
 }
 
 TEST_F(ToolRunnerTest, WhatIsLeftRunningGoesOn) {
