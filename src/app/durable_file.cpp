@@ -24,18 +24,18 @@ std::error_code LastError() {
 
 }  // namespace
 
-std::error_code WriteFile(const fs::path& file, std::span<const std::uint8_t> bytes, Flush flush) {
+std::error_code WriteBytes(const fs::path& file, std::span<const std::uint8_t> bytes, Flush flush) {
   HANDLE handle = CreateFileW(file.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
   if (handle == INVALID_HANDLE_VALUE) return LastError();
   DWORD written = 0;
-  const bool good = ::WriteFile(handle, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr) &&
+  const bool good = WriteFile(handle, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr) &&
                     written == bytes.size() && (flush == Flush::kLater || FlushFileBuffers(handle));
   const std::error_code error = good ? std::error_code() : LastError();
   CloseHandle(handle);
   return error;
 }
 
-std::error_code ReplaceFile(const fs::path& from, const fs::path& to, Flush flush) {
+std::error_code RenameOver(const fs::path& from, const fs::path& to, Flush flush) {
   const DWORD through = flush == Flush::kToDisk ? MOVEFILE_WRITE_THROUGH : 0;
   const bool good = MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | through);
   return good ? std::error_code() : LastError();
@@ -67,7 +67,7 @@ void KeepRights(const fs::path& from, const fs::path& to) {
 
 }  // namespace
 
-std::error_code WriteFile(const fs::path& file, std::span<const std::uint8_t> bytes, Flush flush) {
+std::error_code WriteBytes(const fs::path& file, std::span<const std::uint8_t> bytes, Flush flush) {
   const int descriptor = open(file.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
   if (descriptor < 0) return LastError();
   std::error_code error = WriteAll(descriptor, bytes);
@@ -76,7 +76,7 @@ std::error_code WriteFile(const fs::path& file, std::span<const std::uint8_t> by
   return error;
 }
 
-std::error_code ReplaceFile(const fs::path& from, const fs::path& to, Flush flush) {
+std::error_code RenameOver(const fs::path& from, const fs::path& to, Flush flush) {
   if (access(to.c_str(), F_OK) == 0 && access(to.c_str(), W_OK) != 0) return LastError();
   KeepRights(from, to);
   if (rename(from.c_str(), to.c_str()) != 0) return LastError();

@@ -11,9 +11,9 @@
 namespace kelvo::app {
 
 // Makes or overwrites `file` and, when asked to, flushes it to the disk. An empty code means success.
-std::error_code WriteFile(const std::filesystem::path& file, std::span<const std::uint8_t> bytes, Flush flush);
+std::error_code WriteBytes(const std::filesystem::path& file, std::span<const std::uint8_t> bytes, Flush flush);
 
 // Renames `from` over `to` in one step that, flushed, also survives a loss of power. An empty code means success.
-std::error_code ReplaceFile(const std::filesystem::path& from, const std::filesystem::path& to, Flush flush);
+std::error_code RenameOver(const std::filesystem::path& from, const std::filesystem::path& to, Flush flush);
 
 }  // namespace kelvo::app

@@ -57,8 +57,8 @@ void WriteWholeFile(const fs::path& file, std::span<const std::uint8_t> bytes, F
   std::error_code error;
   if (fs::is_directory(target, error)) Fail(file, "this is a folder, not a file");
   const fs::path temporary = target.parent_path() / (".kelvo-" + std::to_string(std::random_device()()) + ".tmp");
-  error = WriteFile(temporary, bytes, flush);
-  if (!error) error = ReplaceFile(temporary, target, flush);
+  error = WriteBytes(temporary, bytes, flush);
+  if (!error) error = RenameOver(temporary, target, flush);
   if (error) {
     std::error_code ignored;
     fs::remove(temporary, ignored);

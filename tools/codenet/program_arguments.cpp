@@ -1,8 +1,9 @@
 #include "program_arguments.h"
 
 #ifdef _WIN32
-#include <shellapi.h>
 #include <windows.h>
+// The system's other headers build on that one.
+#include <shellapi.h>
 
 #include <filesystem>
 
