@@ -6,6 +6,7 @@
 #include "c64out/short_path.h"
 #include "c64out/tool_command.h"
 #include "support/pictures.h"
+#include "support/run_tool.h"
 #include "support/temp_folder.h"
 
 namespace kelvo::c64out {
@@ -62,6 +63,13 @@ TEST(NameOnDisk, IsCutBeforeItsEnding) {
   EXPECT_EQ(NameOnDisk(umlauts + "X"), umlauts + ".prg");
   EXPECT_EQ(NameOnDisk(""), ".prg");
 }
+
+#ifndef _WIN32
+TEST(Assembler, ThatIsNotInstalledSaysWhatToInstall) {
+  const std::string without_any_tool = "PATH=/nowhere \"" KELVO_ASSETS "/system/tass\" in out";
+  EXPECT_EQ(support::RunTool("sh", {"-c", without_any_tool}).errors, "64tass is missing: install the package 64tass\n");
+}
+#endif
 
 }  // namespace
 }  // namespace kelvo::c64out
