@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "app/path_text.h"
+#include "app/version.h"
 #include "ui/application.h"
 #include "ui/main_frame.h"
 #include "ui/qt_messages.h"
@@ -25,7 +26,7 @@ std::filesystem::path PathOf(const QString& text) {
 void NameProgram() {
   QCoreApplication::setOrganizationName("Kelvo");
   QCoreApplication::setApplicationName("Kelvo");
-  QCoreApplication::setApplicationVersion("1.2");
+  QCoreApplication::setApplicationVersion(kelvo::ui::ToQt(kelvo::app::kVersion));
   QGuiApplication::setDesktopFileName("kelvo");
 }
 

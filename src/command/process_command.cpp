@@ -9,6 +9,7 @@
 #include "app/file_name.h"
 #include "app/path_text.h"
 #include "app/text.h"
+#include "app/version.h"
 #include "command/number_reading.h"
 
 namespace kelvo::command {
@@ -158,8 +159,8 @@ constexpr std::array kWords{
     Word{"MC", Accept},
     Word{"MOUSECOPY", Accept},
     Word{"ANIM", Anim},
-    Word{"VERSION", Say, "v1.2"},
-    Word{"VER", Say, "v1.2"},
+    Word{"VERSION", Say, app::kVersionWord},
+    Word{"VER", Say, app::kVersionWord},
     Word{"HI", Say, "HI THERE, PIXEL PAINTER"},
     Word{"KELVO", Say, "AT YOUR SERVICE"},
     Word{"THANKS", Say, "THE PLEASURE IS MINE"},

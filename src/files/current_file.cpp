@@ -1,13 +1,9 @@
 #include "files/current_file.h"
 
 #include "app/path_text.h"
+#include "app/version.h"
 
 namespace kelvo::files {
-namespace {
-
-constexpr std::string_view kProgramTitle = "Kelvo v1.2 by the Kelvo developers";
-
-}  // namespace
 
 std::string NameOfPath(std::string_view path) {
   constexpr std::string_view kProgram = ".prg";
@@ -21,7 +17,8 @@ CurrentFile SetFileParameters(std::string_view path) {
 }
 
 std::string WindowTitle(const CurrentFile& file) {
-  return std::string(kProgramTitle) + " [" + (file.HasFile() ? file.CurrentFileName : "unnamed.kvp") + "]";
+  return "Kelvo " + std::string(app::kVersionWord) + " by the Kelvo developers [" +
+         (file.HasFile() ? file.CurrentFileName : "unnamed.kvp") + "]";
 }
 
 std::string StatusName(const CurrentFile& file) {

@@ -20,7 +20,7 @@ std::string NameOfPath(std::string_view path);
 // The current file for a path.
 CurrentFile SetFileParameters(std::string_view path);
 
-// "Kelvo v1.2", the credit line, and the name in brackets ("unnamed.kvp" without a file).
+// The program with its version, the credit line, and the name in brackets ("unnamed.kvp" without a file).
 std::string WindowTitle(const CurrentFile& file);
 
 // What the first status panel shows: the name, or "[unnamed]".

@@ -6,6 +6,9 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+#include "app/version.h"
+#include "ui/qt_text.h"
+
 namespace kelvo::ui {
 
 frmAbout::frmAbout(QWidget* parent) : QDialog(parent) {
@@ -15,10 +18,11 @@ frmAbout::frmAbout(QWidget* parent) : QDialog(parent) {
   icon->setPixmap(QIcon(":/icons/kelvo.svg").pixmap(64, 64));
   icon->setAlignment(Qt::AlignTop);
   auto* text = new QLabel(
-      "<h2>Kelvo v1.2</h2>"
-      "<p>An editor for Commodore 64 multicolour pictures:<br>160 × 200 pixels in 40 × 25 cells, each with the "
-      "picture's<br>background colour and three colours of its own.</p>"
-      "<p>By the Kelvo developers. Free software under the MIT licence.</p>",
+      "<h2>Kelvo " + ToQt(app::kVersionWord) +
+          "</h2>"
+          "<p>An editor for Commodore 64 multicolour pictures:<br>160 × 200 pixels in 40 × 25 cells, each with the "
+          "picture's<br>background colour and three colours of its own.</p>"
+          "<p>By the Kelvo developers. Free software under the MIT licence.</p>",
       this);
   text->setTextFormat(Qt::RichText);
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok, this);
