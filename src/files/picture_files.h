@@ -69,6 +69,9 @@ class PictureFiles {
   // Opens a path of the recent list; one that is gone is passed over in silence.
   void OpenRecent(std::string_view path);
 
+  // Where a dialog for files begins: the folder that was used last, else GFX.
+  std::string FolderForDialogs() const;
+
  private:
   bool OpenAs(const std::string& path, FormatType type, OnFailure on_failure);
   std::optional<model::PictureImage> Read(const std::string& path, FormatType type, OnFailure on_failure);
@@ -76,7 +79,6 @@ class PictureFiles {
   void TakeOver(const model::PictureImage& picture, const CurrentFile& file);
   bool MayThrowAwayPicture();
   bool MayWrite(const std::string& path, const std::string& chosen);
-  std::string FolderForDialogs() const;
 
   Document& document_;
   FileSurroundings with_;

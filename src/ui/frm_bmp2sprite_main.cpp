@@ -2,6 +2,7 @@
 
 #include <QActionGroup>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -35,9 +36,10 @@ QIcon SwatchOf(int colour) {
 
 }  // namespace
 
-frmBMP2SpriteMain::frmBMP2SpriteMain(const model::PictureImage& editor, QWidget* parent)
+frmBMP2SpriteMain::frmBMP2SpriteMain(const model::PictureImage& editor, const QString& folder, QWidget* parent)
     : QMainWindow(parent),
       editor_(editor),
+      folder_(folder),
       source_(640, 400),
       preview_(192, 168),
       picSource_(new SpritePicture(source_, this)),
@@ -45,7 +47,7 @@ frmBMP2SpriteMain::frmBMP2SpriteMain(const model::PictureImage& editor, QWidget*
       opbBinary_(new QRadioButton("&Binary", this)),
       opbHexadecimal_(new QRadioButton("&Hexadecimal", this)),
       status_(new QLabel(this)),
-      result_(new frmBMP2SpriteResult(this)) {
+      result_(new frmBMP2SpriteResult(folder, this)) {
   setObjectName("frmBMP2SpriteMain");
   setWindowTitle("Bitmap to sprite converter");
   MakeMenus();
@@ -148,8 +150,10 @@ QComboBox* frmBMP2SpriteMain::MakeColourList(int number) {
 
 void frmBMP2SpriteMain::AskForSource() {
   const QString path =
-      QFileDialog::getOpenFileName(this, "Select file", {}, "Pictures (*.kvp *.lmp *.vid *.prg);;All files (*)");
-  if (!path.isEmpty()) OpenSource(path);
+      QFileDialog::getOpenFileName(this, "Select file", folder_, "Pictures (*.kvp *.lmp *.vid *.prg);;All files (*)");
+  if (path.isEmpty()) return;
+  folder_ = QFileInfo(path).absolutePath();
+  OpenSource(path);
 }
 
 void frmBMP2SpriteMain::OpenSource(const QString& path) {

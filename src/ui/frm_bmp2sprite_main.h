@@ -22,8 +22,9 @@ class frmBMP2SpriteMain : public QMainWindow {
   Q_OBJECT
 
  public:
-  // `editor` is the picture of the editor, which outlives the window. The converter works on a copy of its own.
-  frmBMP2SpriteMain(const model::PictureImage& editor, QWidget* parent);
+  // `editor` is the picture of the editor, which outlives the window. The converter works on a copy of its own. Its
+  // dialogs begin in `folder`.
+  frmBMP2SpriteMain(const model::PictureImage& editor, const QString& folder, QWidget* parent);
 
   void TakeEditorsPicture();
   // Opens a picture or program file; tells the user when that fails.
@@ -44,6 +45,7 @@ class frmBMP2SpriteMain : public QMainWindow {
   sprites::ChosenColours Chosen() const;
 
   const model::PictureImage& editor_;
+  QString folder_;  // where the last picture was chosen
   model::PictureImage picture_;
   model::Surface source_, preview_;
   SpritePicture* picSource_;

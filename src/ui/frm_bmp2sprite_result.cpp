@@ -2,7 +2,9 @@
 
 #include <QClipboard>
 #include <QDialogButtonBox>
+#include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QFontDatabase>
 #include <QGuiApplication>
 #include <QPushButton>
@@ -14,7 +16,8 @@
 
 namespace kelvo::ui {
 
-frmBMP2SpriteResult::frmBMP2SpriteResult(QWidget* parent) : QDialog(parent), txtOutput_(new QPlainTextEdit(this)) {
+frmBMP2SpriteResult::frmBMP2SpriteResult(const QString& folder, QWidget* parent)
+    : QDialog(parent), folder_(folder), txtOutput_(new QPlainTextEdit(this)) {
   setObjectName("frmBMP2SpriteResult");
   setWindowTitle("Sprite output");
   resize(560, 480);
@@ -45,9 +48,11 @@ void frmBMP2SpriteResult::Copy() const {
 }
 
 void frmBMP2SpriteResult::Save() {
-  const QString path = QFileDialog::getSaveFileName(this, "Save sprite output", "sprite.asm",
+  const QString path = QFileDialog::getSaveFileName(this, "Save sprite output", QDir(folder_).filePath("sprite.asm"),
                                                     "Assembler source (*.asm *.txt);;All files (*)");
-  if (!path.isEmpty()) SaveTo(path);
+  if (path.isEmpty()) return;
+  folder_ = QFileInfo(path).absolutePath();
+  SaveTo(path);
 }
 
 void frmBMP2SpriteResult::SaveTo(const QString& path) {

@@ -10,7 +10,8 @@ class frmBMP2SpriteResult : public QDialog {
   Q_OBJECT
 
  public:
-  explicit frmBMP2SpriteResult(QWidget* parent);
+  // The text is saved in `folder` unless another is chosen.
+  frmBMP2SpriteResult(const QString& folder, QWidget* parent);
 
   // `text` has CR LF line ends; copy and save keep them.
   void ShowText(const QString& text);
@@ -22,7 +23,7 @@ class frmBMP2SpriteResult : public QDialog {
   void Copy() const;
   void Save();
 
-  QString text_;
+  QString text_, folder_;
   QPlainTextEdit* txtOutput_;
 };
 

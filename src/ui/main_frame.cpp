@@ -242,7 +242,9 @@ void MainFrame::mnuFullscreenView_Click() {
 }
 
 void MainFrame::ShowSpriteConverter() {
-  if (sprite_converter_ == nullptr) sprite_converter_ = new frmBMP2SpriteMain(document_.picture, this);
+  if (sprite_converter_ == nullptr) {
+    sprite_converter_ = new frmBMP2SpriteMain(document_.picture, ToQt(files_.FolderForDialogs()), this);
+  }
   sprite_converter_->show();
   sprite_converter_->raise();
 }
