@@ -1,16 +1,11 @@
 #include "anim/anim_settings.h"
 
 #include <algorithm>
+#include <limits>
 
 #include "app/text.h"
 
 namespace kelvo::anim {
-namespace {
-
-constexpr int kFarthest = 32767;  // no display reaches farther
-
-}  // namespace
-
 AnimProperties ReadAnimProperties(const app::SettingsStore& settings) {
   return {settings.Read(kFolder), settings.Read(kAnimPrefix)};
 }
@@ -37,8 +32,9 @@ void KeepOnionSkin(app::SettingsStore& settings, bool on) {
 }
 
 FrameWindowPlace ReadFrameWindowPlace(const app::SettingsStore& settings) {
-  return {app::ReadNumber(settings, kFrmAnimLeftPos, -kFarthest, kFarthest),
-          app::ReadNumber(settings, kFrmAnimTopPos, -kFarthest, kFarthest)};
+  using Limits = std::numeric_limits<int>;
+  return {app::ReadNumber(settings, kFrmAnimLeftPos, Limits::min(), Limits::max()),
+          app::ReadNumber(settings, kFrmAnimTopPos, Limits::min(), Limits::max())};
 }
 
 void KeepFrameWindowPlace(app::SettingsStore& settings, const FrameWindowPlace& place) {

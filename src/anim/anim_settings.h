@@ -33,7 +33,8 @@ void KeepPlayRate(app::SettingsStore& settings, int rate);
 bool ReadOnionSkin(const app::SettingsStore& settings);
 void KeepOnionSkin(app::SettingsStore& settings, bool on);
 
-// Where the frame window stands, in display pixels.
+// Where the content of the frame window begins, in display pixels. What is stored may be out of reach: that is for the
+// window to see.
 struct FrameWindowPlace {
   int left = 0, top = 0;
 

@@ -3,6 +3,7 @@
 #include "anim/anim_settings.h"
 #include "ui/qt_text.h"
 #include "ui/settings_dialog.h"
+#include "ui/window_places.h"
 
 namespace kelvo::ui {
 
@@ -40,7 +41,7 @@ void AnimationDesk::ShowFrameWindow() {
 void AnimationDesk::MakeFrameWindow() {
   frame_window_ = new frmAnim(&frame_);
   const anim::FrameWindowPlace place = anim::ReadFrameWindowPlace(with_.settings);
-  frame_window_->move(place.left, place.top);
+  PlaceFloating(*frame_window_, {place.left, place.top}, frame_);
   frame_window_->SetPlayRate(anim::ReadPlayRate(with_.settings));
   frame_window_->SetOnionSkin(anim::ReadOnionSkin(with_.settings));
   connect(frame_window_, &frmAnim::Clicked, this, &AnimationDesk::Go);
@@ -62,6 +63,10 @@ void AnimationDesk::MakeFrameWindow() {
     zoom_.SetOnionSkin(std::nullopt);
     mode_.FrameWindowUnloaded({at.x(), at.y()});
   });
+}
+
+void AnimationDesk::ArrangeWindow() {
+  if (frame_window_ != nullptr) ArrangeFloating(*frame_window_, frame_);
 }
 
 void AnimationDesk::UnloadFrameWindow() {

@@ -26,6 +26,8 @@ class AnimationDesk : public QObject, private anim::AnimDisplay {
   anim::AnimMode& Mode() { return mode_; }
   const anim::AnimMode& Mode() const { return mode_; }
   void ShowProperties();
+  // Puts the frame window, if there is one, where it belongs by default.
+  void ArrangeWindow();
 
  signals:
   void CheckMarkChanged();

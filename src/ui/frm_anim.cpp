@@ -105,7 +105,7 @@ void frmAnim::ShowPlaying(bool playing) {
 }
 
 void frmAnim::closeEvent(QCloseEvent* event) {
-  emit Closed(pos());
+  emit Closed(geometry().topLeft());
   event->accept();
 }
 

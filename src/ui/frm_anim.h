@@ -32,7 +32,7 @@ class frmAnim : public QWidget {
   void PlayAsked();
   void PlayRateChanged(int rate);
   void OnionSkinChanged(bool on);
-  void Closed(QPoint place);
+  void Closed(QPoint place);  // of its content, on the display
 
  protected:
   void closeEvent(QCloseEvent* event) override;

@@ -105,6 +105,7 @@ void MainFrame::AddChild(ChildWindowId id, QWidget* form, QPoint place, bool is_
 
 void MainFrame::ArrangeWindows() {
   ui::ArrangeWindows(children_);
+  animation_.ArrangeWindow();
   RefreshMenus();
   GiveFocusToPicture();
 }

@@ -17,7 +17,13 @@ namespace {
 // As much of a window as a hand needs to take hold of it.
 constexpr int kGrip = 40;
 
-constexpr int kFarthest = 32767;  // no display reaches farther
+constexpr int kTitleBar = kGrip / 2;  // about its height
+
+// No display reaches farther.
+bool IsOnADisplay(int coordinate) {
+  constexpr int kFarthest = 32767;
+  return std::abs(std::int64_t{coordinate}) <= kFarthest;
+}
 
 // The setting of a window's place, by its objectName.
 class PlaceSetting {
@@ -36,7 +42,7 @@ std::optional<std::vector<int>> ReadNumbers(const app::SettingsStore& settings, 
   for (const QString& text : texts) {
     bool good = false;
     numbers.push_back(text.toInt(&good));
-    if (!good || std::abs(std::int64_t{numbers.back()}) > kFarthest) return std::nullopt;
+    if (!good || !IsOnADisplay(numbers.back())) return std::nullopt;
   }
   return numbers;
 }
@@ -49,20 +55,22 @@ void KeepNumbers(app::SettingsStore& settings, const QString& name, std::initial
 
 // The window's title bar can be taken hold of inside `space`.
 bool CanBeTaken(const QRect& window, const QRect& space) {
-  const QRect bar(window.left(), window.top(), window.width(), kGrip / 2);
+  const QRect bar(window.left(), window.top(), window.width(), kTitleBar);
   const QRect seen = bar & space;
   return seen.width() >= std::min(kGrip, window.width()) && seen.height() >= kGrip / 4;
+}
+
+bool CanBeTakenOnAScreen(const QRect& window) {
+  const auto screens = QGuiApplication::screens();
+  return std::any_of(screens.begin(), screens.end(),
+                     [&window](const QScreen* screen) { return CanBeTaken(window, screen->availableGeometry()); });
 }
 
 void RestoreFrame(const app::SettingsStore& settings, QMainWindow& frame) {
   const auto numbers = ReadNumbers(settings, frame.objectName(), 5);
   if (!numbers) return;
   const QRect place((*numbers)[0], (*numbers)[1], (*numbers)[2], (*numbers)[3]);
-  const auto screens = QGuiApplication::screens();
-  const bool fits = std::any_of(screens.begin(), screens.end(), [&place](const QScreen* screen) {
-    return CanBeTaken(place, screen->availableGeometry());
-  });
-  if (!fits || place.width() < 3 * kGrip || place.height() < 3 * kGrip) return;
+  if (!CanBeTakenOnAScreen(place) || place.width() < 3 * kGrip || place.height() < 3 * kGrip) return;
   // A window of a larger display, or of nonsense, would take more memory than there is.
   const QSize most = QGuiApplication::primaryScreen()->virtualSize();
   frame.setGeometry(QRect(place.topLeft(), place.size().boundedTo(most)));
@@ -76,6 +84,21 @@ void ArrangeWindows(std::span<const ChildPlace> children) {
     child.window->move(child.place);
     child.window->setVisible(child.is_shown);
   }
+}
+
+void PlaceFloating(QWidget& window, QPoint place, const QWidget& frame) {
+  const QRect content(place, window.sizeHint());
+  const bool is_near = IsOnADisplay(place.x()) && IsOnADisplay(place.y());
+  if (!is_near || !CanBeTakenOnAScreen(content.translated(0, -kTitleBar))) return ArrangeFloating(window, frame);
+  window.setGeometry(content);
+}
+
+void ArrangeFloating(QWidget& window, const QWidget& frame) {
+  const QSize size = window.sizeHint();
+  const QRect space = frame.geometry() & frame.screen()->availableGeometry();
+  const QPoint corner = space.bottomRight() - QPoint(size.width(), size.height()) - QPoint(kTitleBar, kTitleBar);
+  window.setGeometry(
+      QRect(QPoint(std::max(corner.x(), space.left()), std::max(corner.y(), space.top() + kTitleBar)), size));
 }
 
 void KeepPlaces(app::SettingsStore& settings, const QMainWindow& frame, std::span<const ChildPlace> children) {

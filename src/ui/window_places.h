@@ -20,6 +20,13 @@ struct ChildPlace {
 // Puts every child window where it belongs by default.
 void ArrangeWindows(std::span<const ChildPlace> children);
 
+// Puts the content of a window that floats over `frame` at `place` on the display, or where it is arranged when its
+// title bar could not be taken hold of there.
+void PlaceFloating(QWidget& window, QPoint place, const QWidget& frame);
+
+// Puts such a window into the lower right corner of `frame`, where it hides neither menus nor tools.
+void ArrangeFloating(QWidget& window, const QWidget& frame);
+
 // Stores the places of the main window, its toolbar and the child windows.
 void KeepPlaces(app::SettingsStore& settings, const QMainWindow& frame, std::span<const ChildPlace> children);
 
