@@ -1,11 +1,21 @@
 #include "ui/animation_desk.h"
 
+#include <QScopedValueRollback>
+#include <array>
+
 #include "anim/anim_settings.h"
 #include "ui/qt_text.h"
 #include "ui/settings_dialog.h"
 #include "ui/window_places.h"
 
 namespace kelvo::ui {
+namespace {
+
+// What the buttons of the frame window do, in their order.
+constexpr std::array kMoves{&anim::FrameNavigation::Previous, &anim::FrameNavigation::Next,
+                            &anim::FrameNavigation::Back, &anim::FrameNavigation::First};
+
+}  // namespace
 
 AnimationDesk::AnimationDesk(const anim::AnimSurroundings& with, QMainWindow& frame, frmBMPView& full_view,
                              frmZoom& zoom)
@@ -44,9 +54,12 @@ void AnimationDesk::MakeFrameWindow() {
   PlaceFloating(*frame_window_, {place.left, place.top}, frame_);
   frame_window_->SetPlayRate(anim::ReadPlayRate(with_.settings));
   frame_window_->SetOnionSkin(anim::ReadOnionSkin(with_.settings));
-  connect(frame_window_, &frmAnim::Clicked, this, &AnimationDesk::Go);
+  connect(frame_window_, &frmAnim::Clicked, this, [this](int button) {
+    StopPlay();
+    Move([this, button] { return (navigation_.*kMoves.at(static_cast<std::size_t>(button)))(); });
+  });
   connect(frame_window_, &frmAnim::NumberTyped, this,
-          [this](const QString& number) { MoveDone(navigation_.GoTo(FromQt(number))); });
+          [this](const QString& number) { Move([&] { return navigation_.GoTo(FromQt(number)); }); });
   connect(frame_window_, &frmAnim::PlayAsked, this, &AnimationDesk::TogglePlay);
   connect(frame_window_, &frmAnim::PlayRateChanged, this, [this](int rate) {
     anim::KeepPlayRate(with_.settings, rate);
@@ -73,23 +86,15 @@ void AnimationDesk::UnloadFrameWindow() {
   if (frame_window_ != nullptr) frame_window_->close();
 }
 
-void AnimationDesk::Go(int button) {
-  StopPlay();
-  switch (button) {
-    case frmAnim::kPrevious:
-      return MoveDone(navigation_.Previous());
-    case frmAnim::kNext:
-      return MoveDone(navigation_.Next());
-    case frmAnim::kBack:
-      return MoveDone(navigation_.Back());
-    default:
-      return MoveDone(navigation_.First());
-  }
-}
-
-void AnimationDesk::MoveDone(const std::string& word) {
+void AnimationDesk::Move(const std::function<std::string()>& move) {
+  const QScopedValueRollback moving(is_moving_, true);
+  const std::string word = move();
   if (!word.empty()) emit Word(ToQt(word));
   if (frame_window_ != nullptr) ShowFrame();
+}
+
+void AnimationDesk::FileChanged() {
+  if (frame_window_ != nullptr && !is_moving_) ShowFrame();
 }
 
 void AnimationDesk::ShowFrame() {

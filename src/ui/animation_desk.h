@@ -6,6 +6,7 @@
 #include <QMainWindow>
 #include <QObject>
 #include <QTimer>
+#include <functional>
 #include <optional>
 
 #include "anim/anim_mode.h"
@@ -28,6 +29,8 @@ class AnimationDesk : public QObject, private anim::AnimDisplay {
   void ShowProperties();
   // Puts the frame window, if there is one, where it belongs by default.
   void ArrangeWindow();
+  // The current file, or what is in it, may be another one now.
+  void FileChanged();
 
  signals:
   void CheckMarkChanged();
@@ -41,8 +44,7 @@ class AnimationDesk : public QObject, private anim::AnimDisplay {
   void UnloadFrameWindow() override;
 
   void MakeFrameWindow();
-  void Go(int button);
-  void MoveDone(const std::string& word);
+  void Move(const std::function<std::string()>& move);
   void ShowFrame();
   void ShowOnionSkin();
   void TogglePlay();
@@ -56,6 +58,7 @@ class AnimationDesk : public QObject, private anim::AnimDisplay {
   anim::AnimMode mode_;
   anim::FrameNavigation navigation_;
   frmAnim* frame_window_ = nullptr;
+  bool is_moving_ = false;  // from frame to frame: the files that are opened and saved are those of the move
 
   std::optional<anim::FramePlayer> player_;
   QElapsedTimer playing_since_;

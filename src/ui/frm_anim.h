@@ -14,9 +14,6 @@ class frmAnim : public QWidget {
   Q_OBJECT
 
  public:
-  // The buttons in their order.
-  enum Button { kPrevious, kNext, kBack, kFirst };
-
   explicit frmAnim(QWidget* parent);
 
   // `current` is empty while the picture in memory is no frame.
@@ -27,7 +24,7 @@ class frmAnim : public QWidget {
   int PlayRate() const { return rate_->value(); }
 
  signals:
-  void Clicked(int button);  // a Button
+  void Clicked(int button);  // 0..3: Previous, Next, the Previous that leads back, First
   void NumberTyped(const QString& number);
   void PlayAsked();
   void PlayRateChanged(int rate);

@@ -274,6 +274,7 @@ void MainFrame::SaveScreenshot() {
 void MainFrame::ShowFile(const files::CurrentFile& file) {
   setWindowTitle(ToQt(files::WindowTitle(file)));
   panels_.Show(StatusPanel::kFile, ToQt(files::StatusName(file)));
+  animation_.FileChanged();
   RefreshMenus();
 }
 
