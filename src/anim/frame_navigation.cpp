@@ -33,7 +33,7 @@ std::optional<int> FrameNumberIn(std::string_view typed) {
 std::string FrameNavigation::First() {
   Refresh();
   const auto first = row_.ReadableAfter(0);
-  return first ? GoToNumber(*first, Skipped(0, *first)) : "THERE ARE NO FRAMES";
+  return first ? GoToNumber(*first, Skipped(0, *first)) : kNoFrames;
 }
 
 std::string FrameNavigation::Previous() {

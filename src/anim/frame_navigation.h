@@ -11,6 +11,8 @@
 
 namespace kelvo::anim {
 
+inline constexpr const char* kNoFrames = "THERE ARE NO FRAMES";
+
 // The current frame is the one whose file is the current file, so there is none while another picture is open.
 //
 // A frame that is left is saved first when it has changed; if that fails, or the wanted frame cannot be loaded, the

@@ -63,7 +63,7 @@ void AnimationDesk::MakeFrameWindow() {
   connect(frame_window_, &frmAnim::PlayAsked, this, &AnimationDesk::TogglePlay);
   connect(frame_window_, &frmAnim::PlayRateChanged, this, [this](int rate) {
     anim::KeepPlayRate(with_.settings, rate);
-    if (player_) TogglePlay(), TogglePlay();  // on at the new pace
+    if (player_) StartPlay();
   });
   connect(frame_window_, &frmAnim::OnionSkinChanged, this, [this](bool on) {
     anim::KeepOnionSkin(with_.settings, on);
@@ -109,10 +109,18 @@ void AnimationDesk::ShowOnionSkin() {
 }
 
 void AnimationDesk::TogglePlay() {
-  if (player_) return StopPlay();
+  player_ ? StopPlay() : StartPlay();
+}
+
+// From the first frame on, also while frames are playing already.
+void AnimationDesk::StartPlay() {
   navigation_.Refresh();
   player_.emplace(navigation_.Row().ReadablePaths(), frame_window_->PlayRate());
-  if (player_->IsEmpty()) return player_.reset();
+  if (player_->IsEmpty()) {
+    StopPlay();
+    emit Word(anim::kNoFrames);
+    return;
+  }
   frame_window_->ShowPlaying(true);
   playing_since_.start();
   PlayTurn();

@@ -48,6 +48,7 @@ class AnimationDesk : public QObject, private anim::AnimDisplay {
   void ShowFrame();
   void ShowOnionSkin();
   void TogglePlay();
+  void StartPlay();
   void StopPlay();
   void PlayTurn();
 
