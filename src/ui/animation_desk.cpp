@@ -69,6 +69,7 @@ void AnimationDesk::MakeFrameWindow() {
     anim::KeepOnionSkin(with_.settings, on);
     ShowOnionSkin();
   });
+  connect(frame_window_, &frmAnim::KeyReleased, this, &AnimationDesk::KeyReleased);
   connect(frame_window_, &frmAnim::Closed, this, [this](QPoint at) {
     StopPlay();
     frame_window_->deleteLater();

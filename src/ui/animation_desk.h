@@ -35,6 +35,7 @@ class AnimationDesk : public QObject, private anim::AnimDisplay {
  signals:
   void CheckMarkChanged();
   void StatusChanged(const QString& text);  // "ANIM=ON", "ANIM=OFF"
+  void KeyReleased(QKeyEvent* event);       // in the frame window, which has no use for it
   void Word(const QString& word);           // for the status bar
 
  private:

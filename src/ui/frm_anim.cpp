@@ -104,6 +104,16 @@ void frmAnim::ShowPlaying(bool playing) {
   cmdPlay_->setText(playing ? "&Stop" : "&Play");
 }
 
+// The arrows lead from button to button, and a number field takes every key but letters.
+bool frmAnim::Uses(int key) const {
+  if (key == Qt::Key_Escape || (key >= Qt::Key_A && key <= Qt::Key_Z)) return false;
+  return txtFrame_->hasFocus() || rate_->hasFocus() || (key >= Qt::Key_Left && key <= Qt::Key_Down);
+}
+
+void frmAnim::keyReleaseEvent(QKeyEvent* event) {
+  if (!Uses(event->key())) emit KeyReleased(event);
+}
+
 void frmAnim::closeEvent(QCloseEvent* event) {
   emit Closed(geometry().topLeft());
   event->accept();

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QCheckBox>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -29,15 +30,19 @@ class frmAnim : public QWidget {
   void PlayAsked();
   void PlayRateChanged(int rate);
   void OnionSkinChanged(bool on);
+  // A key was let go that neither the number fields nor the buttons use.
+  void KeyReleased(QKeyEvent* event);
   void Closed(QPoint place);  // of its content, on the display
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void keyReleaseEvent(QKeyEvent* event) override;
 
  private:
   QWidget* MakeButtons();
   QWidget* MakeNumber();
   QWidget* MakePlayer();
+  bool Uses(int key) const;
 
   QLineEdit* txtFrame_;
   QLabel* count_;

@@ -154,6 +154,11 @@ void MainFrame::ConnectAnimation() {
           [this](const QString& text) { panels_.Show(StatusPanel::kAnimation, text); });
   connect(&animation_, &AnimationDesk::Word, this,
           [this](const QString& word) { statusBar()->showMessage(word, kWordMilliseconds); });
+  connect(&animation_, &AnimationDesk::KeyReleased, this, [this](QKeyEvent* event) {
+    if (event->key() != Qt::Key_Escape || builds_.IsBuilding()) return keyReleaseEvent(event);
+    activateWindow();
+    GiveFocusToPicture();
+  });
 }
 
 void MainFrame::ConnectBuilds() {

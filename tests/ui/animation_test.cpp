@@ -1,4 +1,6 @@
 // An animation made, walked through and played on the real main window.
+#include <QStatusBar>
+
 #include "anim/anim_settings.h"
 #include "main_frame_fixture.h"
 
@@ -70,6 +72,41 @@ TEST_F(AnimationTest, FramesAreMadeVisitedSavedWhenLeftAndPlayed) {
   Find("frmAnim")->close();
   EXPECT_FALSE(Action("mnuAnimMode")->isChecked());
   EXPECT_EQ(Box("frmZoom")->grab().toImage(), plain);
+}
+
+TEST_F(AnimationTest, TheFrameWindowFollowsKeysFilesAndPlaces) {
+  settings.Write(anim::kFolder, app::TextFromPath(frames) + "/");
+  AnswerNext(QMessageBox::Yes);
+  Action("mnuAnimMode")->trigger();
+  EXPECT_TRUE(frame->geometry().contains(Find("frmAnim")->geometry()));
+  Find("frmAnim")->move(frame->pos() + QPoint(300, 200));
+  const QPoint place = Find("frmAnim")->pos();
+  for (int opening = 0; opening < 3; ++opening) {
+    Find("frmAnim")->close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    Action("mnuAnimMode")->trigger();
+    EXPECT_EQ(Find("frmAnim")->pos(), place);
+  }
+  Action("mnuArrange")->trigger();
+  EXPECT_NE(Find("frmAnim")->pos(), place);
+
+  Find("frmAnim")->activateWindow();
+  Find("cmdStd_1")->setFocus();
+  QTest::keyClick(Find("cmdStd_1"), Qt::Key_F);
+  QTest::keyClick(Find("cmdStd_1"), Qt::Key_3);
+  EXPECT_EQ(Panel("pnlTool"), "FILL");
+  const QString pen = Find("LeftPen")->accessibleName();
+  Find("txtFrame")->setFocus();
+  QTest::keyClick(Find("txtFrame"), Qt::Key_7);
+  EXPECT_EQ(Find("LeftPen")->accessibleName(), pen);
+  QTest::keyClick(Find("txtFrame"), Qt::Key_Escape);
+  EXPECT_TRUE(QTest::qWaitForWindowActive(frame.get()) && PictureHasFocus());
+
+  frame->Files().New();
+  EXPECT_EQ(Number(), "");
+  remove_all(frames);
+  Press("cmdPlay");
+  EXPECT_EQ(frame->statusBar()->currentMessage(), "THERE ARE NO FRAMES");
 }
 
 }  // namespace
