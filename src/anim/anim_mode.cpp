@@ -37,7 +37,6 @@ void AnimMode::ToggleAnimMode() {
 }
 
 void AnimMode::SetAnimFlag(bool on) {
-  flag_ = on;
   display_.ShowStatus(on ? "ANIM=ON" : "ANIM=OFF");
 }
 

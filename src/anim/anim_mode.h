@@ -30,8 +30,9 @@ struct AnimSurroundings {
   files::PictureFiles& files;
 };
 
-// The menu's check mark and the flag are two states, on purpose: the check mark says whether the frame window is open,
-// the flag what the command prompt set last. They may disagree until the menu entry is used again.
+// The menu's check mark and the flag, which stands in the status bar alone, are two states, on purpose: the check mark
+// says whether the frame window is open, the flag what the command prompt set last. They may disagree until the menu
+// entry is used again.
 class AnimMode final : public app::AnimationSwitch {
  public:
   AnimMode(const AnimSurroundings& with, AnimDisplay& display) : with_(with), display_(display) {}
@@ -41,7 +42,6 @@ class AnimMode final : public app::AnimationSwitch {
   bool IsAnimModeChecked() const override { return checked_; }
 
   void SetAnimFlag(bool on) override;
-  bool AnimFlag() const { return flag_; }
 
   // The frame window is gone, whoever closed it: its place is kept and the check mark cleared.
   void FrameWindowUnloaded(const FrameWindowPlace& place);
@@ -53,7 +53,7 @@ class AnimMode final : public app::AnimationSwitch {
 
   AnimSurroundings with_;
   AnimDisplay& display_;
-  bool checked_ = false, flag_ = false;
+  bool checked_ = false;
 };
 
 }  // namespace kelvo::anim

@@ -3,16 +3,9 @@
 #include <algorithm>
 #include <limits>
 
-#include "app/text.h"
-
 namespace kelvo::anim {
 AnimProperties ReadAnimProperties(const app::SettingsStore& settings) {
   return {settings.Read(kFolder), settings.Read(kAnimPrefix)};
-}
-
-void KeepAnimProperties(app::SettingsStore& settings, const AnimProperties& properties) {
-  settings.Write(kFolder, app::Trimmed(properties.folder));
-  settings.Write(kAnimPrefix, app::Trimmed(properties.prefix));
 }
 
 int ReadPlayRate(const app::SettingsStore& settings) {

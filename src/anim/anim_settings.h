@@ -23,9 +23,6 @@ struct AnimProperties {
 
 AnimProperties ReadAnimProperties(const app::SettingsStore& settings);
 
-// Stores both texts without the spaces around them. Nothing else is checked here: that is for the mode to do.
-void KeepAnimProperties(app::SettingsStore& settings, const AnimProperties& properties);
-
 // Frames a second, kSlowestRate..kFastestRate.
 int ReadPlayRate(const app::SettingsStore& settings);
 void KeepPlayRate(app::SettingsStore& settings, int rate);

@@ -11,7 +11,7 @@ class AnimationSwitch {
   virtual void ToggleAnimMode() = 0;
   virtual bool IsAnimModeChecked() const = 0;
 
-  // Sets the animation-mode flag and what the status bar says of it. The menu entry is left alone, on purpose.
+  // Sets the animation-mode flag, which is what the status bar says. The menu entry is left alone, on purpose.
   virtual void SetAnimFlag(bool on) = 0;
 };
 

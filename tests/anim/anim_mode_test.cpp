@@ -25,6 +25,10 @@ class RecordingAnimDisplay final : public AnimDisplay {
 
 class AnimModeTest : public testing::Test, protected support::Program {
  protected:
+  void SetProperties(const std::string& animation_folder, const std::string& prefix) {
+    settings.Write(kFolder, animation_folder);
+    settings.Write(kAnimPrefix, prefix);
+  }
   // What a toggle to "on" asks and tells.
   Lines Toggle() {
     messages.shown.clear();
@@ -43,9 +47,9 @@ class AnimModeTest : public testing::Test, protected support::Program {
 
 TEST_F(AnimModeTest, AsksInOrderUntilTheFirstFrameIsThere) {
   EXPECT_EQ(Toggle(), Lines{"Animation folder must be specified"});
-  KeepAnimProperties(settings, {" " + folder.Path().string() + "/ ", " "});
+  SetProperties(Text(""), "");
   EXPECT_EQ(Toggle(), Lines{"Animation prefix must be specified"});
-  KeepAnimProperties(settings, {Text(""), " anim "});
+  SetProperties(Text(""), "anim");
   EXPECT_EQ(Toggle(), Lines{question});
   EXPECT_FALSE(shows.check_mark || fs::exists(folder / "anim0001.kvp"));
 
@@ -64,34 +68,35 @@ TEST_F(AnimModeTest, AsksInOrderUntilTheFirstFrameIsThere) {
 
 TEST_F(AnimModeTest, LooksAtTheFolderOnlyAfterTheFirstFrame) {
   messages.yes = true;
-  KeepAnimProperties(settings, {Text("gone/"), "anim"});
+  SetProperties(Text("gone/"), "anim");
   const Lines told = Toggle();
   ASSERT_EQ(told.size(), 3U);  // between the two: that the picture was not saved
   EXPECT_EQ(told.front(), question);
   EXPECT_EQ(told.back(), "Animation folder can not be found");
 
-  KeepAnimProperties(settings, {Text("gone"), "anim"});
+  SetProperties(Text("gone"), "anim");
   EXPECT_EQ(Toggle(), (Lines{question, "Animation folder can not be found"}));
   EXPECT_TRUE(fs::exists(folder / "goneanim0001.kvp"));
 
   fs::create_directory(folder / "x0001.kvp");  // in the place of the first frame, which cannot be saved then
-  KeepAnimProperties(settings, {Text(""), "x"});
+  SetProperties(Text(""), "x");
   EXPECT_EQ(Toggle().size(), 2U);
   EXPECT_FALSE(shows.check_mark);
 }
 
 TEST_F(AnimModeTest, FlagAndCheckMarkMayDisagreeUntilTheModeIsSwitched) {
   const command::CommandSurroundings with{folders, document, files, prompt, mode};
-  KeepAnimProperties(settings, {Text(""), "anim"});
+  SetProperties(Text(""), "anim");
   messages.yes = true;
   command::ProcessCommand("ANIM ON", with);
   EXPECT_EQ(shows.status, "ANIM=ON");
-  EXPECT_TRUE(mode.AnimFlag() && !shows.check_mark && !shows.window);
+  EXPECT_FALSE(shows.check_mark || shows.window);
   command::ProcessCommand("ANIM", with);
-  EXPECT_TRUE(mode.AnimFlag() && shows.check_mark && shows.window);
+  EXPECT_TRUE(shows.check_mark && shows.window);
 
   mode.FrameWindowUnloaded({-12, 345});
-  EXPECT_TRUE(mode.AnimFlag() && !shows.check_mark);
+  EXPECT_EQ(shows.status, "ANIM=ON");
+  EXPECT_FALSE(shows.check_mark);
   EXPECT_EQ(ReadFrameWindowPlace(settings), (FrameWindowPlace{-12, 345}));
   EXPECT_EQ(settings.values["Settings/frmAnimTopPos"], "345");
   command::ProcessCommand("ANIM OFF", with);

@@ -29,7 +29,8 @@ class FramesTest : public testing::Test, protected support::Program {
  protected:
   FramesTest() {
     fs::create_directory(folder / "a");
-    KeepAnimProperties(settings, {Text("a/"), "Anim"});
+    settings.Write(kFolder, Text("a/"));
+    settings.Write(kAnimPrefix, "Anim");
   }
   std::string Text(const std::string& name) const { return app::TextFromPath(folder / name); }
   fs::path File(int number) const { return app::PathFromText(FrameNames({Text("a/"), "Anim"}).Path(number)); }
