@@ -29,6 +29,8 @@ class AnimationDesk : public QObject, private anim::AnimDisplay {
   void ShowProperties();
   // Puts the frame window, if there is one, where it belongs by default.
   void ArrangeWindow();
+  // Closes the frame window, if there is one; its place is kept.
+  void UnloadFrameWindow() override;
   // The current file, or what is in it, may be another one now.
   void FileChanged();
 
@@ -42,7 +44,6 @@ class AnimationDesk : public QObject, private anim::AnimDisplay {
   void ShowCheckMark(bool on) override;
   void ShowStatus(std::string_view text) override;
   void ShowFrameWindow() override;
-  void UnloadFrameWindow() override;
 
   void MakeFrameWindow();
   void Move(const std::function<std::string()>& move);

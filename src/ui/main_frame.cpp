@@ -332,6 +332,7 @@ void MainFrame::closeEvent(QCloseEvent* event) {
   settings_.Write(app::kGridColor, std::to_string(zoom_->GridColor().Number()));
   settings_.Write(app::kMagnification, menu_.Action("mnuZoom_4X")->isChecked() ? "4" : "8");
   KeepPlaces(settings_, *this, children_);
+  animation_.UnloadFrameWindow();
   StopTools();
   recovery_.Remove();
   event->accept();

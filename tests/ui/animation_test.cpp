@@ -107,6 +107,9 @@ TEST_F(AnimationTest, TheFrameWindowFollowsKeysFilesAndPlaces) {
   remove_all(frames);
   Press("cmdPlay");
   EXPECT_EQ(frame->statusBar()->currentMessage(), "THERE ARE NO FRAMES");
+  Find("frmAnim")->setGeometry(70, 90, 0, 0);
+  frame->close();
+  EXPECT_EQ(settings.values["Settings/frmAnimLeftPos"], "70");
 }
 
 }  // namespace
