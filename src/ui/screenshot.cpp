@@ -54,8 +54,8 @@ bool MayReplace(const QString& path, QWidget* parent) {
 }  // namespace
 
 QString WithImageEnding(const QString& path, const QString& ending) {
-  static const QStringList kKnown{"png", "jpg", "jpeg", "bmp"};
-  return kKnown.contains(QFileInfo(path).suffix(), Qt::CaseInsensitive) ? path : path + '.' + ending;
+  static const QStringList known{"png", "jpg", "jpeg", "bmp"};
+  return known.contains(QFileInfo(path).suffix(), Qt::CaseInsensitive) ? path : path + '.' + ending;
 }
 
 void SaveScreenshot(const QImage& picture, const QString& path, int size) {
