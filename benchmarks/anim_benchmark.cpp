@@ -5,7 +5,6 @@
 #include "files/picture_format.h"
 #include "goals.h"
 #include "support/pictures.h"
-#include "support/temp_folder.h"
 
 namespace kelvo::anim {
 namespace {

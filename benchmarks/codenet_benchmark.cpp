@@ -11,7 +11,6 @@
 #include "support/codenet_server.h"
 #include "support/pictures.h"
 #include "support/run_tool.h"
-#include "support/temp_folder.h"
 #include "udp_socket.h"
 
 namespace kelvo::c64out {

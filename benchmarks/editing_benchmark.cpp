@@ -10,7 +10,6 @@
 #include "model/full_view.h"
 #include "model/zoom_view.h"
 #include "support/mazes.h"
-#include "support/painted.h"
 #include "support/pictures.h"
 
 namespace kelvo::editing {

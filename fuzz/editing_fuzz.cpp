@@ -7,7 +7,7 @@
 #include "editing/painting.h"
 #include "editing/preferences.h"
 #include "input.h"
-#include "support/recorders.h"
+#include "support/program.h"
 
 namespace kelvo::fuzz {
 namespace {

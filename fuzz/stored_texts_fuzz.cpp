@@ -15,7 +15,7 @@
 #include "files/recent_files.h"
 #include "files/save_bitmap.h"
 #include "input.h"
-#include "support/recorders.h"
+#include "support/program.h"
 
 namespace kelvo::fuzz {
 namespace {

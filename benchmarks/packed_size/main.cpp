@@ -11,7 +11,7 @@
 #include "row.h"
 #include "support/c64_machine.h"
 #include "support/picture_program.h"
-#include "support/temp_folder.h"
+#include "support/pictures.h"
 
 namespace kelvo::bench {
 namespace {

@@ -84,14 +84,18 @@ TEST_F(AnimModeTest, LooksAtTheFolderOnlyAfterTheFirstFrame) {
   EXPECT_FALSE(shows.check_mark);
 }
 
-TEST_F(AnimModeTest, FlagAndCheckMarkMayDisagreeUntilTheModeIsSwitched) {
-  const command::CommandSurroundings with{folders, document, files, prompt, mode};
+TEST_F(AnimModeTest, TheCommandSetsTheFlagAloneOrSwitchesTheModeWithIt) {
+  const auto reply = [&](const char* line) {
+    command::ProcessCommand(line, {folders, document, files, prompt, mode});
+    return prompt.lines.back();
+  };
+  EXPECT_EQ(reply("ANIM "), "ANIM OFF");  // there is no folder yet
   SetProperties(Text(""), "anim");
   messages.yes = true;
-  command::ProcessCommand("ANIM ON", with);
+  EXPECT_EQ(reply("ANIM ON"), "ANIM ON");
   EXPECT_EQ(shows.status, "ANIM=ON");
   EXPECT_FALSE(shows.check_mark || shows.window);
-  command::ProcessCommand("ANIM", with);
+  EXPECT_EQ(reply("ANIM"), "ANIM ON");
   EXPECT_TRUE(shows.check_mark && shows.window);
 
   mode.FrameWindowUnloaded({-12, 345});
@@ -99,8 +103,11 @@ TEST_F(AnimModeTest, FlagAndCheckMarkMayDisagreeUntilTheModeIsSwitched) {
   EXPECT_FALSE(shows.check_mark);
   EXPECT_EQ(ReadFrameWindowPlace(settings), (FrameWindowPlace{-12, 345}));
   EXPECT_EQ(settings.values["Settings/frmAnimTopPos"], "345");
-  command::ProcessCommand("ANIM OFF", with);
+  EXPECT_EQ(reply("ANIM"), "ANIM ON");
+  EXPECT_EQ(reply("ANIM off"), "ANIM off");
   EXPECT_EQ(shows.status, "ANIM=OFF");
+  EXPECT_TRUE(shows.check_mark);
+  EXPECT_EQ(reply("ANIM"), "ANIM OFF");
 }
 
 }  // namespace

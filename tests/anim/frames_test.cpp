@@ -9,7 +9,6 @@
 #include "anim/frame_player.h"
 #include "app/path_text.h"
 #include "files/picture_format.h"
-#include "support/pictures.h"
 #include "support/program.h"
 
 namespace kelvo::anim {

@@ -8,7 +8,6 @@
 #include "app/path_text.h"
 #include "c64out/output_settings.h"
 #include "files/save_bitmap.h"
-#include "support/pictures.h"
 #include "support/program.h"
 
 namespace kelvo::c64out {
@@ -118,33 +117,30 @@ TEST_F(BuildCompoPicTest, MakesADiskAndShowsIt) {
 TEST_F(BuildCompoPicTest, SendsToTheC64WithoutVice) {
   settings.Write(kVicePath, "/gone");
   settings.Write(kCodenetC64Ip, " 127.0.0.1 ");
-  support::WriteText(folder / "art/My Pic.prg", "\x01 older");
   EXPECT_TRUE(Build(kPreview));
   EXPECT_EQ(prompt.lines, (Lines{"CODENET", "--> Compiling source", "--> Crushing source", "--> Adding depacker",
                                  "--> Sending to 127.0.0.1", "--> Transfer complete"}));
   EXPECT_EQ(tools.commands.back(), "codenet -x bmpshow.prg -n 127.0.0.1");
   EXPECT_EQ(tools.sources.front(), "show " + System("temp.kvp") + "\r\n colour 0B\r\n net\r\n");
   EXPECT_TRUE(FilesIn(folder / "art").empty());
-  ASSERT_EQ(FilesIn(folders.Backup()).size(), 1U);  // it was no program
-  EXPECT_EQ(support::ReadText(folders.Backup() / FilesIn(folders.Backup()).front()), "\x01 older");
   EXPECT_TRUE(messages.shown.empty());
 }
 
-TEST_F(BuildCompoPicTest, KeepsAPrgThatIsNoProgramInBackup) {
-  support::WriteText(folder / "art/My Pic.prg", "a\x08 picture");
-  EXPECT_TRUE(Build(kPrg));
-  ASSERT_EQ(FilesIn(folders.Backup()).size(), 1U);
-  EXPECT_EQ(support::ReadText(folders.Backup() / FilesIn(folders.Backup()).front()), "a\x08 picture");
-  support::WriteFile(folder / "art/My Pic.prg", {0x01, 0x08, 1, 2});
-  EXPECT_TRUE(Build(kPrg));
-  EXPECT_EQ(FilesIn(folders.Backup()).size(), 2U);  // the snapshot's backup alone came
-  clock.time.tm_sec = 59;
-  app::Bytes more_than_memory(65539, 8);
-  more_than_memory[0] = 0x01;
-  support::WriteFile(folder / "art/My Pic.prg", more_than_memory);
-  EXPECT_TRUE(Build(kPrg));
-  const std::string copy = "My Pic_" + app::BackupStamp(clock.Now()) + "_replaced.prg";
-  EXPECT_EQ(support::ReadFile(folders.Backup() / copy), more_than_memory);
+TEST(BuildCompoPic, KeepsAPrgThatIsNoProgramInBackup) {
+  const app::Bytes program{1, 8, 1, 2};
+  app::Bytes more_than_memory = program;
+  more_than_memory.resize(65539);
+  for (const app::Bytes& older : {program, more_than_memory, {1, 7, 1, 2}, {2, 8, 1, 2}, {1}}) {
+    for (const CompoPicChoice& choice : {kPrg, kPreview}) {
+      Scene scene;
+      support::WriteFile(scene.folder / "art/My Pic.prg", older);
+      EXPECT_TRUE(scene.Build(choice));
+      const std::string copy = "My Pic_" + app::BackupStamp(scene.clock.Now()) + "_replaced.prg";
+      const auto backup = scene.folders.Backup();
+      EXPECT_EQ(Scene::FilesIn(backup), older == program ? Lines{} : Lines{copy});
+      EXPECT_EQ(support::ReadFile(backup / copy), older == program ? app::Bytes{} : older);
+    }
+  }
 }
 
 TEST_F(BuildCompoPicTest, GivesUpWithoutAnEmulatorOrAnInterpreter) {

@@ -8,7 +8,6 @@
 #include "support/codenet_server.h"
 #include "support/pictures.h"
 #include "support/run_tool.h"
-#include "support/temp_folder.h"
 
 namespace kelvo {
 namespace {

@@ -1,13 +1,13 @@
 // The finished program on a C64: from its SYS line until the viewer shows the picture, which must be the one painted.
+// And the test's C64 itself: that it counts cycles, and notices what a sound program does not do.
 #include "support/picture_program.h"
 
 #include <gtest/gtest.h>
 
 #include "support/mazes.h"
-#include "support/painted.h"
 #include "support/pictures.h"
+#include "support/run_tool.h"
 #include "support/shown_picture.h"
-#include "support/temp_folder.h"
 
 namespace kelvo::support {
 namespace {
@@ -44,7 +44,7 @@ void ExpectShown(const app::Bytes& program, const model::PictureImage& picture, 
 class PictureProgram : public ::testing::Test {
  protected:
   void SetUp() override {
-    if (!HasAssembler()) GTEST_SKIP() << "64tass is not installed";
+    if (!IsInstalled("64tass")) GTEST_SKIP() << "64tass is not installed";
   }
 
   TempFolder folder_;
@@ -87,6 +87,51 @@ TEST_F(PictureProgram, TakesNoHarmFromTheRestoreKeyOrTheNameOfItsFolder) {
   C64Machine machine;
   machine.PressRestoreEvery(977);
   ExpectShown(BuildPictureProgram(odd, picture), picture, machine);
+}
+
+using Code = std::vector<std::uint8_t>;
+
+// A PRG that runs `code` at $080D from the BASIC line 10 SYS2061.
+Code Program(const Code& code) {
+  Code prg{0x01, 0x08, 0x0B, 0x08, 0x0A, 0x00, 0x9E, '2', '0', '6', '1', 0, 0, 0};
+  for (const std::uint8_t byte : code) prg.push_back(byte);
+  return prg;
+}
+
+TEST(TestMachine, CountsTheCyclesOfAC64) {
+  const std::pair<std::uint64_t, Code> cases[] = {
+      {8, {0xA9, 0x80, 0x2A, 0x6A, 0x4A}},                                             // in the accumulator
+      {16, {0xA2, 0x03, 0xCA, 0xD0, 0xFD}},                                            // a loop
+      {16, {0xA2, 0xFF, 0xA9, 7, 0x85, 2, 0xB5, 3, 0xBD, 3, 0xFF}},                    // a read across a page
+      {21, {0xA9, 2, 0x85, 0xFB, 0xA0, 0, 0x84, 0xFC, 0x91, 0xFB, 0xB1, 0xFB}},        // through a pointer
+      {23, {0x20, 0x14, 0x08, 0xA2, 0x09, 0x60, 0xEA, 0xA9, 0x33, 0x48, 0x68, 0x60}},  // a call
+      {13, {0xA9, 0xFF, 0x85, 0x02, 0xE6, 0x02, 0xA6, 0x02}},                          // counting in memory
+  };
+  for (const auto& [cycles, code] : cases) {
+    C64Machine machine;
+    machine.Load(Program(code));
+    machine.Poke(static_cast<std::uint16_t>(0x080D + code.size()), 0x60);
+    ASSERT_EQ(machine.Run(), C64Machine::Ending::kReturns);
+    EXPECT_EQ(machine.Cpu().cycles, cycles + 6);
+  }
+}
+
+TEST(TestMachine, NoticesWhatASoundProgramDoesNotDo) {
+  const std::pair<const char*, Code> cases[] = {
+      {"runs into memory that nobody wrote", {0x4C, 0x00, 0x40}},
+      {"calls a KERNAL routine without a trap", {0x20, 0xD2, 0xFF}},
+      {"reads ROM as data", {0xAD, 0x00, 0xA0}},
+      {"writes BASIC's pointers", {0x85, 0x2B}},
+      {"is interrupted without KERNAL", {0xA9, 0x35, 0x85, 0x01, 0x4C, 0x14, 0x08, 0x4C, 0x11, 0x08}},
+      {"has an undocumented opcode", {0x02}},
+      {"writes a shown bitmap", {0xA9, 0x3B, 0x8D, 0x11, 0xD0, 0x8D, 0x00, 0x04}},
+      {"never ends", {0xEA, 0x4C, 0x0D, 0x08}},
+  };
+  for (const auto& [what, code] : cases) {
+    C64Machine machine;
+    machine.Load(Program(code));
+    EXPECT_THROW(machine.Run(100'000), MachineFault) << what;
+  }
 }
 
 }  // namespace

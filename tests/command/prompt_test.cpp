@@ -2,13 +2,12 @@
 // real folders.
 #include <gtest/gtest.h>
 
-#include <tuple>
+#include <stdexcept>
 
 #include "app/path_text.h"
 #include "command/input_line.h"
 #include "command/number_reading.h"
 #include "command/process_command.h"
-#include "support/pictures.h"
 #include "support/program.h"
 
 namespace kelvo::command {
@@ -17,16 +16,12 @@ namespace {
 namespace fs = std::filesystem;
 using support::Lines;
 
-// A menu entry that follows when it may.
-class RecordingAnimation : public app::AnimationSwitch {
+// An error of somebody else, which is not the command's.
+class FailingAnimation final : public app::AnimationSwitch {
  public:
-  void ToggleAnimMode() override {
-    if (fails) throw std::logic_error("no mode");
-    checked = may_start && !checked;
-  }
-  bool IsAnimModeChecked() const override { return checked; }
-  void SetAnimFlag(bool on) override { flag = on; }
-  bool checked = false, flag = false, may_start = true, fails = false;
+  void ToggleAnimMode() override { throw std::logic_error("no mode"); }
+  bool IsAnimModeChecked() const override { return false; }
+  void SetAnimFlag(bool) override {}
 };
 
 class ProcessCommandTest : public testing::Test, protected support::Program {
@@ -40,7 +35,7 @@ class ProcessCommandTest : public testing::Test, protected support::Program {
     fs::create_directories(path.parent_path());
     support::WriteFile(path, support::CountingBytes(10003));
   }
-  RecordingAnimation animation;
+  FailingAnimation animation;
 };
 
 TEST_F(ProcessCommandTest, RepliesExactly) {
@@ -68,6 +63,8 @@ TEST_F(ProcessCommandTest, RepliesExactly) {
       EXPECT_EQ(Replies(line), expected.empty() ? Lines{} : Lines{expected}) << line.substr(0, 40);
     }
   }
+  EXPECT_THROW(Replies("ANIM"), std::logic_error);
+  EXPECT_TRUE(prompt.lines.empty());
   EXPECT_TRUE(messages.shown.empty());
 }
 
@@ -137,23 +134,6 @@ TEST_F(ProcessCommandTest, AsksForAFileOnlyWhenNoneIsNamed) {
   EXPECT_EQ(dialogs.folders.size(), 1U);
 }
 
-TEST_F(ProcessCommandTest, AnimTogglesOrSetsTheFlagAlone) {
-  for (const auto& [line, reply, checked, flag] : {std::tuple{"ANIM", "ANIM ON", true, true},
-                                                   {"ANIM off", "ANIM off", true, false},
-                                                   {"ANIM", "ANIM OFF", false, false},
-                                                   {"ANIM ON", "ANIM ON", false, true}}) {
-    EXPECT_EQ(Replies(line), Lines{reply});
-    EXPECT_EQ(animation.checked, checked);
-    EXPECT_EQ(animation.flag, flag);
-  }
-  animation.may_start = false;
-  EXPECT_EQ(Replies("ANIM "), Lines{"ANIM OFF"});
-  EXPECT_FALSE(animation.flag);
-  animation.fails = true;  // an error of somebody else is not the command's
-  EXPECT_THROW(Replies("ANIM"), std::logic_error);
-  EXPECT_TRUE(prompt.lines.empty());
-}
-
 TEST(NumberReading, TakesPlainNumbersInAnyLanguage) {
   for (const char* number : {"8", " 8 ", "-8", "+8.5", "8.", ".5", "1E3", "1e-3", "1.5E+10"}) {
     EXPECT_TRUE(IsNumeric(number)) << number;
@@ -161,15 +141,6 @@ TEST(NumberReading, TakesPlainNumbersInAnyLanguage) {
   for (const char* text : {"", " ", "X", "8,9", "8 9", ".", "-", "E3", "1E", "1E+", "--8", "0X8", "INF", "8X"}) {
     EXPECT_FALSE(IsNumeric(text)) << text;
   }
-}
-
-TEST(InputLine, TakesOnlyTheCharactersOfTheLanguage) {
-  const std::u32string_view typed = U"load pic.prg,8\r\n\\=[`{@/:Z09\t\x1B\xE5\U0001F600\b";
-  std::string entered;
-  for (const char32_t c : typed) {
-    if (const auto key = FilterKey(c)) entered += *key;
-  }
-  EXPECT_EQ(entered, "LOAD PICPRG,8@Z09\b");
 }
 
 TEST(InputLine, KeepsItsPromptAndSendsTheTrimmedCommandOrNothing) {

@@ -8,9 +8,7 @@
 #include "editing/pen_keys.h"
 #include "editing/preferences.h"
 #include "support/mazes.h"
-#include "support/pictures.h"
-#include "support/recorders.h"
-#include "support/temp_folder.h"
+#include "support/program.h"
 
 namespace kelvo::editing {
 namespace {
@@ -23,27 +21,22 @@ using support::ColourAt;
 enum Tools { kDraw = 1, kFill, kLine, kContinuousLine, kCircle, kMouseCopy, kBlockFill };
 
 // What an action may stop at, so that events come in between; and the wait pointer, "<" when it is shown, ">" when not.
-class Surroundings final : public app::Messages, public app::ProcessEvents, public app::WaitPointer {
+class Surroundings final : public support::RecordingMessages, public app::ProcessEvents, public app::WaitPointer {
  public:
   void Inform(std::string_view text) override {
-    texts.emplace_back(text);
+    shown.emplace_back(text);
     Process();
   }
-  void Warn(std::string_view) override {}
-  void Tell(std::string_view) override {}
-  bool Ask(std::string_view) override { return false; }
-  app::UnsavedAnswer AskUnsaved(std::string_view) override { return app::UnsavedAnswer::kCancel; }
   void Process() override {
     if (meanwhile) meanwhile();
   }
   void Show() override { waits += '<'; }
   void Hide() override { waits += '>'; }
-  support::Lines texts;
   std::string waits;
   std::function<void()> meanwhile;
 };
 
-class PaintingTest : public testing::Test {
+class PaintingTest : public testing::Test, protected support::Program {
  protected:
   PaintingTest() { painting.PenColours() = {Colour(5), Colour(2)}; }
 
@@ -76,13 +69,8 @@ class PaintingTest : public testing::Test {
     return count;
   }
 
-  PictureImage picture;
-  support::RecordingViews views;
-  support::MapSettings settings;
+  PictureImage& picture = document.picture;
   Surroundings around;
-  support::TempFolder folder;
-  support::FixedClock clock;
-  app::ErrorLog log{folder / "log.txt", clock};
   Painting painting{picture, {views, settings, around, around, around, log}};
 };
 
@@ -149,18 +137,18 @@ TEST_F(PaintingTest, ARefusalIsToldOncePerEventAndEndsNoMoreThanItMust) {
   Press({1, 1});
   painting.Move({40, 40}, true);  // the press was refused: no stroke
   EXPECT_EQ(picture, before);
-  EXPECT_EQ(around.texts, support::Lines{"Not possible - all colors used"});
+  EXPECT_EQ(around.shown, support::Lines{"Not possible - all colors used"});
   Press({5, 1});
   painting.Move({1, 1}, true);
   painting.Move({20, 1}, true);  // the button was released while the box was open
-  EXPECT_EQ(around.texts.size(), 2U);
+  EXPECT_EQ(around.shown.size(), 2U);
   EXPECT_EQ(CountOf(5), 1);
 
   around.meanwhile = nullptr;
   Press({5, 1});
   for (int i = 0; i < 3; ++i) painting.Move({1, 1}, true);  // a still pointer is told once
   painting.Move({2, 1}, true);
-  EXPECT_EQ(around.texts.size(), 4U);
+  EXPECT_EQ(around.shown.size(), 4U);
   Press({1, 1});  // its release was lost, and the new press is refused: no stroke is left
   painting.Move({9, 1}, true);
   EXPECT_EQ(CountOf(5), 1);
@@ -169,7 +157,7 @@ TEST_F(PaintingTest, ARefusalIsToldOncePerEventAndEndsNoMoreThanItMust) {
   Click({1, 1});
   Click({21, 1});
   painting.Tick();
-  EXPECT_EQ(around.texts.size(), 6U);  // once for both full cells
+  EXPECT_EQ(around.shown.size(), 6U);  // once for both full cells
   EXPECT_EQ(CountOf(5), 12);
 }
 
@@ -267,53 +255,46 @@ TEST_F(PaintingTest, FillsTakeThePenOfTheButtonAndLetNothingElseStart) {
   EXPECT_EQ(painting.ToolIndex(), kFill);
   painting.Move({20, 20}, true);  // a fill begins no stroke
   EXPECT_EQ(CountOf(5), 32000);
-  EXPECT_FALSE(std::filesystem::exists(folder / "log.txt"));
+  EXPECT_FALSE(exists(folders.ErrorLogFile()));
 
   const PictureImage before = picture = support::Tree();  // more than the queue holds: logged, and can be undone
   Click({80, 100});
   EXPECT_GT(CountOf(5), 8000);
   EXPECT_EQ(around.waits, "<><><>");
   EXPECT_EQ(views.pictures, 3);
-  EXPECT_NE(support::ReadText(folder / "log.txt").find("MDIFormMenu_FloodFill"), std::string::npos);
+  EXPECT_NE(support::ReadText(folders.ErrorLogFile()).find("MDIFormMenu_FloodFill"), std::string::npos);
   painting.Undo();
   EXPECT_EQ(picture, before);
 }
 
-TEST_F(PaintingTest, UndoRestoresEveryByteButTheBackground) {
-  constexpr const char* kCaptions[] = {"Undo draw",   "Undo fill", "Undo line",      "Undo line",
-                                       "Undo circle", "Undo copy", "Undo block fill"};
-  std::mt19937 random(4);
-  const auto at = [&] {
-    return PixelPoint{static_cast<int>(random() % 160) + 1, static_cast<int>(random() % 200) + 1};
-  };
+// That it brings back every byte of any picture is what the fuzz target holds.
+TEST_F(PaintingTest, UndoIsNamedAfterTheToolAndLeavesTheBackground) {
+  constexpr const char* kCaptions[] = {"draw", "fill", "line", "line", "circle", "copy", "block fill"};
   picture = support::RandomPicture(8);
   int changes = 0;
-  for (int round = 0; round < 140; ++round) {
-    const int tool = round % 7 + 1;
+  for (int tool = kDraw; tool <= kBlockFill; ++tool) {
     painting.ChooseTool(tool);
-    painting.PenColours().left = Colour(static_cast<int>(random() % 16));
-    Click(at(), Button::kRight);  // takes a cell, or sets a first point
+    Click({20, 30}, Button::kRight);  // takes a cell, or sets a first point
     const PictureImage before = picture;
-    Drag(at(), at());
+    Drag({60, 90}, {80, 120});
     painting.Tick();
     changes += picture != before;
     PictureImage expected = before;
-    picture.BackgroundColour = expected.BackgroundColour = Colour(round % 16);
+    picture.BackgroundColour = expected.BackgroundColour = Colour(tool);
     views.pictures = 0;
-    EXPECT_EQ(painting.UndoData().Caption(), kCaptions[tool - 1]);
+    EXPECT_EQ(painting.UndoData().Caption(), std::string("Undo ") + kCaptions[tool - 1]);
     painting.Undo();
     EXPECT_EQ(picture, expected) << "tool " << tool;
     EXPECT_EQ(views.pictures, 1);
   }
-  EXPECT_GT(changes, 100);
+  EXPECT_GE(changes, 6);  // a fill may begin in a full cell
 }
 
 TEST(Pens, BeginWhiteAndBlackAndHaveAKeyForEachColour) {
   EXPECT_EQ(Pens().Of(Button::kLeft), Colour(1));
   EXPECT_EQ(Pens().Of(Button::kRight), Colour(0));
   int colour = 0;
-  for (const char key : std::string("12345678QWERTYUI")) EXPECT_EQ(PenForKey(key), Colour(colour++)) << key;
-  EXPECT_EQ(PenForKey('i'), Colour(15));
+  for (const char key : std::string("12345678QWERTYUi")) EXPECT_EQ(PenForKey(key), Colour(colour++)) << key;
   for (const char key : std::string("09ZA \x1b")) EXPECT_EQ(PenForKey(key), std::nullopt) << key;
 }
 

@@ -1,4 +1,4 @@
-// Opening, saving, reloading and beginning pictures, on real files.
+// Opening, saving, reloading, beginning and rescuing pictures, on real files.
 #include "files/picture_files.h"
 
 #include <gtest/gtest.h>
@@ -6,13 +6,15 @@
 #include <set>
 
 #include "app/path_text.h"
-#include "support/pictures.h"
+#include "app/whole_file.h"
+#include "files/recovery_copy.h"
 #include "support/program.h"
 
 namespace kelvo::files {
 namespace {
 
 namespace fs = std::filesystem;
+using std::chrono::seconds;
 using support::Lines;
 
 class PictureFilesTest : public testing::Test, protected support::Program {
@@ -177,6 +179,62 @@ TEST(RecentFiles, KeepTheFiveLastInOrder) {
   for (const char* path : {"a", "b", "c", "d", "b", "e"}) recent.Add(path);
   EXPECT_EQ(recent.Paths(), (Lines{"e", "d", "c", "b", "a"}));
   EXPECT_EQ(settings.values["Recent/Recent5"], "a");
+}
+
+class RecoveryCopyTest : public testing::Test, protected support::Program {
+ protected:
+  void Paint(std::uint8_t byte) { document.picture.Bitmap[1] = byte; }
+  // The byte that Paint() writes, as the copy has it; -1 without a copy.
+  int Kept() const {
+    const auto kept = recovery.Read();
+    return kept ? kept->picture.Bitmap[1] : -1;
+  }
+
+  RecoveryFiles recovery{folders, 3};
+  RecoveryCopy copy{document, recovery};
+  RecoveryCopy::Time now{seconds(1000)};
+};
+
+TEST_F(RecoveryCopyTest, IsWrittenAtMostOnceAMinuteWhileTheWorkChanges) {
+  copy.Keep(now);
+  EXPECT_EQ(Kept(), -1);
+  Paint(1);
+  copy.Keep(now += seconds(1));
+  EXPECT_EQ(Kept(), 1);
+  Paint(2);
+  copy.Keep(now += seconds(59));
+  EXPECT_EQ(Kept(), 1);
+  copy.Keep(now += seconds(1));
+  EXPECT_EQ(Kept(), 2);
+  const auto written = last_write_time(recovery.picture);
+  copy.Keep(now += seconds(100));
+  EXPECT_EQ(last_write_time(recovery.picture), written);
+  remove_all(folders.Root());
+  Paint(3);
+  EXPECT_THROW(copy.Keep(now), app::FileError);
+  folders.Create();
+  copy.Keep(now += seconds(59));  // a failed write is tried again a minute later
+  EXPECT_EQ(Kept(), -1);
+  copy.Keep(now += seconds(1));
+  EXPECT_EQ(Kept(), 3);
+}
+
+TEST_F(RecoveryCopyTest, KnowsItsFileAndGoesWithTheWork) {
+  document.file = SetFileParameters("/art/\u00e4 b.kvp");
+  Paint(1);
+  copy.Keep(now);
+  EXPECT_EQ(recovery.Read()->file.CurrentFilePath, "/art/\u00e4 b.kvp");
+  document.kept = document.picture;  // as a save does
+  copy.Keep(now);
+  EXPECT_FALSE(exists(recovery.picture) || exists(recovery.name));
+  Paint(2);
+  copy.KeepNow();
+  EXPECT_EQ(Kept(), 2);
+  resize_file(recovery.picture, 10049);  // a damaged copy is none
+  EXPECT_EQ(Kept(), -1);
+  document.kept = document.picture;
+  copy.KeepNow();
+  EXPECT_FALSE(exists(recovery.picture) || exists(recovery.name));
 }
 
 }  // namespace

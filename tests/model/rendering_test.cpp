@@ -1,12 +1,14 @@
-// The pictures that the full view and the zoom window show, another one shining through it, checked pixel by pixel
-// against the rules.
+// Where pixels lie in the bytes; the pictures that the full view and the zoom window show, another one shining through
+// it, checked pixel by pixel against the rules.
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <stdexcept>
 #include <tuple>
 
 #include "app/progress.h"
 #include "model/full_view.h"
+#include "model/number_text.h"
 #include "model/onion_skin.h"
 #include "model/palette.h"
 #include "model/pixel_colour.h"
@@ -16,6 +18,67 @@
 
 namespace kelvo::model {
 namespace {
+
+TEST(PixelPlace, FollowsTheC64sOrderOfBytes) {
+  struct Case {
+    int x, y, byte, position, cell;
+  };
+  for (const Case& c : {Case{1, 1, 1, 1, 1},
+                        {160, 200, 8000, 4, 1000},
+                        {5, 1, 9, 1, 2},
+                        {1, 9, 321, 1, 41},
+                        {4, 8, 8, 4, 1},
+                        {158, 193, 7993, 2, 1000}}) {
+    const PixelPlace place = LookUpPixel(c.x, c.y);
+    EXPECT_EQ(std::tuple(place.byte, place.position, place.cell), std::tuple(c.byte, c.position, c.cell)) << c.byte;
+    EXPECT_EQ(CellOfByte(place.byte), c.cell);
+    EXPECT_EQ(BaseOfCell(place.cell), place.base);
+  }
+  EXPECT_LT(LookUpPixel(1, 0).byte, 0);
+  EXPECT_THROW(GetPixelData(PictureImage{}, 0, 1), std::out_of_range);
+  EXPECT_THROW(GetPixelData(PictureImage{}, 1, 201), std::out_of_range);
+}
+
+TEST(PixelColour, ComesFromTheSlotThatTheBitPairNames) {
+  PictureImage picture{.BackgroundColour = C64Colour::FromByte(14)};
+  picture.Bitmap[1] = 0b11'10'01'00;
+  picture.ScreenMemory[1] = 0x5A;
+  picture.ColourMemory[1] = 0xF7;  // the high nibble is junk
+  const int expected[] = {7, 10, 5, 14};
+  for (int x = 1; x <= 4; ++x) {
+    EXPECT_EQ(GetPixelData(picture, x, 1).colour.Number(), expected[x - 1]);
+    EXPECT_EQ(GetPixelColour(picture, 0b11'10'01'00, x, 1).Number(), expected[x - 1]);
+  }
+  EXPECT_EQ(GetColFromBits("", ColoursOfCell(picture, 1), picture.BackgroundColour).Number(), 14);
+  EXPECT_EQ(GetColFromBits("10", ColoursOfCell(picture, 1), picture.BackgroundColour).Number(), 10);
+
+  const DetachedCell detached{0, 0xF7, 0x5A};
+  EXPECT_EQ(GetPixelColour(detached, 0b11'10'01'00, 1, picture.BackgroundColour).Number(), 0);  // taken whole: above 15
+  EXPECT_EQ(GetPixelColour(detached, 0b11'10'01'00, 3, picture.BackgroundColour).Number(), 5);
+}
+
+TEST(BitPair, IsPlacedAmongItsNeighbours) {
+  EXPECT_EQ(WithPairAt(0x00, 1, BitPair::k11), 0b11'00'00'00);
+  EXPECT_EQ(WithPairAt(0xFF, 2, BitPair::k01), 0b11'01'11'11);
+  EXPECT_EQ(WithPairAt(0x1B, 3, BitPair::k00), 0b00'01'00'11);
+  EXPECT_EQ(WithPairAt(0x1B, 4, BitPair::k10), 0b00'01'10'10);
+}
+
+TEST(NumberText, ConvertsBothWays) {
+  EXPECT_EQ(BitPairFromText(ToText(BitPair::k10)), BitPair::k10);
+  EXPECT_EQ(BitPairFromText(""), std::nullopt);
+  EXPECT_EQ(BinaryToNumber("1x1"), 5);
+  EXPECT_EQ(HexDigitValue('f'), 15);
+  EXPECT_EQ(HexDigitValue('g'), 0);
+}
+
+TEST(Palette, PacksDisplayColoursBothWays) {
+  EXPECT_EQ(C64ColourToRgb(2), 137U + 64 * 256 + 54 * 65536);
+  EXPECT_EQ(C64ColourToRgb(16), 0U);
+  EXPECT_EQ(C64ColourToRgb(-1), 0U);
+  EXPECT_EQ(SurfaceColour(C64Colour::FromByte(2)), 0xFF894036U);
+  EXPECT_EQ(ColourName(C64Colour::FromByte(10)), "0A Light red");
+}
 
 class RecordingProgress final : public app::Progress {
  public:
@@ -95,26 +158,6 @@ TEST(FullView, PointerReadsTheNearestPixelAndCell) {
   }
 }
 
-TEST(ZoomArea, StaysInsideThePictureWhereverItIsSent) {
-  ZoomArea area;
-  const auto origin = [&] { return std::pair(area.ZoomOriginX(), area.ZoomOriginY()); };
-  area.CentreOn(3, 2);
-  EXPECT_EQ(origin(), std::pair(0, 0));
-  area.CentreOn(20, 12);
-  EXPECT_EQ(origin(), std::pair(80, 16));
-  area.SetMagnification(8);
-  EXPECT_EQ(origin(), std::pair(0, 0));
-  area.CentreOn(40, 25);
-  area.Move(ZoomMove::kRight, ZoomStep::kCell);
-  area.Move(ZoomMove::kDown, ZoomStep::kScreen);
-  EXPECT_EQ(origin(), std::pair(240, 128));
-  area.Move(ZoomMove::kLeft, ZoomStep::kScreen);
-  area.Move(ZoomMove::kPageUp, ZoomStep::kCell);
-  EXPECT_EQ(origin(), std::pair(160, 56));
-  area.SetMagnification(7);
-  EXPECT_EQ(area.Magnification(), 4);
-}
-
 TEST(ZoomView, ShowsEachPixelAsABoxUnderTheGrid) {
   const PictureImage picture = support::RandomPicture(3);
   for (const int magnification : {4, 8}) {
@@ -180,6 +223,8 @@ TEST(ZoomView, PointerOnTheBorderIsOnNoPixel) {
   EXPECT_EQ(area.VisiblePixelAt(647, 583), (PixelPoint{80, 144}));
   EXPECT_EQ(area.VisiblePixelAt(648, 583), std::nullopt);
   EXPECT_EQ(area.PixelAt(0, 0), (PixelPoint{0, -1}));
+  area.SetMagnification(7);  // from the settings
+  EXPECT_EQ(area.Magnification(), 4);
 }
 
 TEST(ZoomBorder, FlashesFromDarkToBrightAndBack) {

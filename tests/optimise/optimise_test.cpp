@@ -2,10 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "optimise/background_colour.h"
-#include "optimise/eor_vectors.h"
-#include "support/painted.h"
 #include "support/pictures.h"
-#include "support/recorders.h"
 
 namespace kelvo::optimise {
 namespace {
@@ -52,15 +49,6 @@ TEST(OptimizeChar, TouchesItsOwnCellAlone) {
   EXPECT_EQ(picture, expected);
   OptimizeChar(picture, -1);
   EXPECT_EQ(picture, expected);
-}
-
-TEST(OptimizeForEorVectors, TellsItsWholeRule) {
-  support::RecordingMessages messages;
-  app::NoProgress none;
-  RecordingCells display;
-  OptimizeForEORVector(messages, none, display);
-  ASSERT_EQ(messages.shown.size(), 1U);
-  EXPECT_EQ(std::count(messages.shown[0].begin(), messages.shown[0].end(), '\r'), 3);
 }
 
 }  // namespace

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "editing/set_data.h"
-#include "support/painted.h"
+#include "support/pictures.h"
 
 namespace kelvo::support {
 

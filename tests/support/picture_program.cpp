@@ -4,7 +4,7 @@
 #include "c64out/build_compo_pic.h"
 #include "c64out/output_settings.h"
 #include "support/pictures.h"
-#include "support/recorders.h"
+#include "support/program.h"
 #include "support/run_tool.h"
 
 namespace kelvo::support {
@@ -29,28 +29,20 @@ class RealTools final : public c64out::ToolRunner {
 
 }  // namespace
 
-bool HasAssembler() {
-  return RunTool("64tass", {"--version"}).exit_code == 0;
-}
-
 app::Bytes BuildPictureProgram(const std::filesystem::path& folder, const model::PictureImage& picture,
                                StartedBy start) {
   const app::ProgramFolders folders(folder / "program");
   folders.Create();
   folders.Seed(KELVO_SHARE);
   WriteText(folder / "x64", "an emulator, to look at");
-  MapSettings settings;
-  settings.Write(c64out::kVicePath, app::TextFromPath(folder));
-  const FixedClock clock;
-  const app::ErrorLog log(folders.ErrorLogFile(), clock);
-  RecordingMessages messages;
-  RecordingPrompt prompt;
+  Program with;
+  with.settings.Write(c64out::kVicePath, app::TextFromPath(folder));
   RealTools tools;
   const files::Document document{.picture = picture,
                                  .file = files::SetFileParameters(app::TextFromPath(folder / "picture.kvp"))};
   const c64out::CompoPicChoice choice{.MakePrg = true, .ViaCodenet = start == StartedBy::kNetwork};
-  const c64out::BuildResult result =
-      c64out::BuildCompoPic(document, choice, {folders, settings, clock, log, messages, prompt, tools});
+  const c64out::BuildResult result = c64out::BuildCompoPic(
+      document, choice, {folders, with.settings, with.clock, with.log, with.messages, with.prompt, tools});
   if (result.outcome != c64out::BuildOutcome::kDone) return {};
   return start == StartedBy::kNetwork ? tools.sent : ReadFile(folder / "picture.prg");
 }

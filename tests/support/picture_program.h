@@ -11,9 +11,6 @@ namespace kelvo::support {
 // How the program will be started: by RUN, or over the network, with the template lines that are meant for it.
 enum class StartedBy { kRun, kNetwork };
 
-// Whether the assembler is there.
-bool HasAssembler();
-
 // The program of `picture`, made in `folder`, which keeps the work files; empty when the build failed.
 app::Bytes BuildPictureProgram(const std::filesystem::path& folder, const model::PictureImage& picture,
                                StartedBy start = StartedBy::kRun);

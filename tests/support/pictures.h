@@ -1,6 +1,7 @@
-// Pictures and files for tests.
+// Pictures, files and folders for tests.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <filesystem>
 #include <fstream>
@@ -10,9 +11,38 @@
 #include <vector>
 
 #include "app/whole_file.h"
-#include "model/picture_image.h"
+#include "model/pixel_colour.h"
 
 namespace kelvo::support {
+
+inline model::C64Colour Colour(int number) {
+  return model::C64Colour::FromByte(static_cast<std::uint8_t>(number));
+}
+
+// Gives `cell` (1..1000) its eight lines and its own colours.
+inline void SetCell(model::PictureImage& picture, int cell, const std::array<std::uint8_t, 8>& lines, int c11, int c10,
+                    int c01) {
+  const auto index = static_cast<std::size_t>(cell);
+  for (std::size_t line = 0; line < 8; ++line) {
+    picture.Bitmap[static_cast<std::size_t>(model::BaseOfCell(cell)) + 1 + line] = lines[line];
+  }
+  picture.ColourMemory[index] = static_cast<std::uint8_t>(c11);
+  picture.ScreenMemory[index] = static_cast<std::uint8_t>(c01 << 4 | c10);
+}
+
+inline model::PictureImage PictureWithCell(int cell, const std::array<std::uint8_t, 8>& lines, int c11, int c10,
+                                           int c01, int background) {
+  model::PictureImage picture{.BackgroundColour = Colour(background)};
+  SetCell(picture, cell, lines, c11, c10, c01);
+  return picture;
+}
+
+// Every slot is used: lines of %00 %01 %10 %11.
+inline constexpr std::array<std::uint8_t, 8> kAllSlots{0x1B, 0x1B, 0x1B, 0x1B, 0x1B, 0x1B, 0x1B, 0x1B};
+
+inline int ColourAt(const model::PictureImage& picture, int x, int y) {
+  return model::GetPixelData(picture, x, y).colour.Number();
+}
 
 // Every byte of the three arrays and the background from a fixed seed.
 inline model::PictureImage RandomPicture(unsigned seed) {
@@ -51,5 +81,26 @@ inline std::string ReadText(const std::filesystem::path& path) {
   const app::Bytes bytes = ReadFile(path);
   return {bytes.begin(), bytes.end()};
 }
+
+class TempFolder {
+ public:
+  TempFolder()
+      : path_(std::filesystem::temp_directory_path() / ("kelvo-test-" + std::to_string(std::random_device()()))) {
+    std::filesystem::create_directories(path_);
+  }
+  ~TempFolder() {
+    std::error_code ignored;
+    std::filesystem::permissions(path_, std::filesystem::perms::owner_all, ignored);
+    std::filesystem::remove_all(path_, ignored);
+  }
+  TempFolder(const TempFolder&) = delete;
+  TempFolder& operator=(const TempFolder&) = delete;
+
+  const std::filesystem::path& Path() const { return path_; }
+  std::filesystem::path operator/(const std::filesystem::path& name) const { return path_ / name; }
+
+ private:
+  std::filesystem::path path_;
+};
 
 }  // namespace kelvo::support

@@ -1,13 +1,117 @@
-// The program below its windows: real folders and files, and ports that remember.
+// The program below its windows: real folders and files, and ports that remember what they were told and answer what a
+// test wants.
 #pragma once
 
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "app/clock.h"
 #include "app/error_log.h"
+#include "app/messages.h"
 #include "app/program_folders.h"
+#include "app/settings_store.h"
+#include "app/wait_pointer.h"
 #include "files/picture_files.h"
-#include "support/recorders.h"
-#include "support/temp_folder.h"
+#include "model/picture_views.h"
+#include "support/pictures.h"
 
 namespace kelvo::support {
+
+using Lines = std::vector<std::string>;
+
+class MapSettings final : public app::SettingsStore {
+ public:
+  std::string Read(const app::Setting& setting) const override {
+    const auto found = values.find(NameOf(setting));
+    return found == values.end() ? std::string(setting.default_value) : found->second;
+  }
+  void Write(const app::Setting& setting, std::string_view value) override { values[NameOf(setting)] = value; }
+
+  static std::string NameOf(const app::Setting& setting) {
+    return std::string(setting.section) + "/" + std::string(setting.key);
+  }
+  std::map<std::string, std::string> values;
+};
+
+class FixedClock final : public app::Clock {
+ public:
+  std::tm Now() const override { return time; }
+  std::tm time = [] {
+    std::tm start{};  // 2026-02-03 09:07:05
+    start.tm_year = 126;
+    start.tm_mon = 1;
+    start.tm_mday = 3;
+    start.tm_hour = 9;
+    start.tm_min = 7;
+    start.tm_sec = 5;
+    return start;
+  }();
+};
+
+class RecordingMessages : public app::Messages {
+ public:
+  void Inform(std::string_view text) override { shown.emplace_back(text); }
+  void Warn(std::string_view text) override { shown.emplace_back(text); }
+  void Tell(std::string_view text) override { shown.emplace_back(text); }
+  bool Ask(std::string_view text) override {
+    shown.emplace_back(text);
+    return yes;
+  }
+  app::UnsavedAnswer AskUnsaved(std::string_view text) override {
+    shown.emplace_back(text);
+    return unsaved;
+  }
+  Lines shown;
+  bool yes = false;
+  app::UnsavedAnswer unsaved = app::UnsavedAnswer::kCancel;
+};
+
+class RecordingPrompt final : public app::PromptOutput {
+ public:
+  void CommandPromptList(std::string_view line) override { lines.emplace_back(line); }
+  Lines lines;
+};
+
+class RecordingViews final : public model::PictureViews {
+ public:
+  void PixelChanged(int x, int y) override { pixels.push_back({x, y}); }
+  void CellChanged(int cell) override { cells.push_back(cell); }
+  void PictureChanged() override { ++pictures; }
+  std::vector<std::pair<int, int>> pixels;
+  std::vector<int> cells;
+  int pictures = 0;
+};
+
+class NoWaitPointer final : public app::WaitPointer {
+ public:
+  void Show() override {}
+  void Hide() override {}
+};
+
+class PlannedDialogs final : public files::FileDialogs {
+ public:
+  std::optional<files::ChosenFile> SelectFile(const std::string& folder) override {
+    folders.push_back(folder);
+    return open;
+  }
+  std::optional<std::string> SaveAs(const std::string& path) override {
+    proposals.push_back(path);
+    return save;
+  }
+  std::optional<files::ChosenFile> open;
+  std::optional<std::string> save;
+  Lines folders, proposals;
+};
+
+class RecordingDisplay final : public files::FileDisplay {
+ public:
+  void ShowFile(const files::CurrentFile& file) override { title = files::WindowTitle(file); }
+  void PictureReplaced() override { ++replaced; }
+  std::string title;
+  int replaced = 0;
+};
 
 struct Program {
   Program() { folders.Create(); }

@@ -30,5 +30,8 @@ class RunningTool {
 };
 
 ToolRun RunTool(const std::string& program, const std::vector<std::string>& arguments);
+inline bool IsInstalled(const std::string& tool) {
+  return RunTool("sh", {"-c", "command -v " + tool}).exit_code == 0;
+}
 
 }  // namespace kelvo::support

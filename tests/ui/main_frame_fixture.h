@@ -16,9 +16,7 @@
 #include <QTimer>
 
 #include "app/path_text.h"
-#include "support/pictures.h"
-#include "support/recorders.h"
-#include "support/temp_folder.h"
+#include "support/program.h"
 #include "ui/main_frame.h"
 #include "ui/qt_text.h"
 

@@ -1,16 +1,17 @@
-// What the program finds around it when it starts: settings full of nonsense, none at all, other programs in its
-// folder.
+// What the program finds around it: settings full of nonsense, none at all, other programs in its folder, and child
+// processes that behave and misbehave.
 #include <QCoreApplication>
 #include <QLockFile>
 #include <QScreen>
 #include <QSettings>
+#include <csignal>
 #include <optional>
 #include <random>
 
 #include "main_frame_fixture.h"
-#include "support/program.h"
 #include "ui/program_slot.h"
 #include "ui/qt_settings.h"
+#include "ui/qt_tool_runner.h"
 #include "ui/recovery_desk.h"
 
 namespace kelvo::ui {
@@ -118,6 +119,79 @@ TEST(RecoveryDesk, WorkThatCannotBeKeptAgainIsTakenUpAndStillKept) {
   EXPECT_EQ(program.document.picture.BackgroundColour, support::RandomPicture(3).BackgroundColour);
   EXPECT_TRUE(files::RecoveryFiles(program.folders, 2).Read());
 }
+
+#ifndef _WIN32
+class ToolRunnerTest : public testing::Test {
+ protected:
+  // A tool that is a shell script of these lines; it runs in a folder of the test's own.
+  c64out::ToolCommand Tool(const std::string& lines) {
+    support::WriteText(tool, "#!/bin/sh\ncd '" + app::TextFromPath(folder.Path()) + "'\n" + lines + "\n");
+    permissions(tool, std::filesystem::perms::owner_all);
+    return {app::TextFromPath(tool), {}};
+  }
+  std::string FailureOf(const std::string& lines) { return runner.RunAndWait(Tool(lines)).failure; }
+  bool IsThereSoon(const char* name) {
+    return QTest::qWaitFor([&] { return exists(folder / name); }, 5000);
+  }
+  void StopOnceStarted() {
+    QTimer::singleShot(0, &runner, [this] {
+      EXPECT_TRUE(IsThereSoon("started"));
+      runner.Stop();
+    });
+  }
+
+  support::TempFolder folder;
+  std::filesystem::path tool = folder / "tool";
+  QtToolRunner runner;
+};
+
+TEST_F(ToolRunnerTest, SaysWhyAToolFailed) {
+  EXPECT_EQ(FailureOf("echo noise"), "");
+  EXPECT_EQ(FailureOf("exit 3"), "ended with code 3");
+  EXPECT_EQ(FailureOf("echo; echo ' what is wrong '; echo more >&2; exit 1"), "what is wrong");
+  EXPECT_EQ(FailureOf("echo begin; echo 'C64MEM: Error - no ROM'; echo end; exit 1"), "C64MEM: Error - no ROM");
+  EXPECT_EQ(FailureOf("kill -9 $$"), "crashed");
+  EXPECT_EQ(FailureOf("cat; exit 4"), "ended with code 4");  // there is no input to wait for
+  EXPECT_EQ(FailureOf("head -c 5000000 /dev/zero | tr '\\0' x; exit 1"), std::string(200, 'x'));
+  EXPECT_EQ(runner.ShowAndWait(Tool("echo no ROMs >&2; exit 1")).failure, "no ROMs");
+  permissions(tool, std::filesystem::perms::owner_read);
+  for (const std::string& cannot_start : {app::TextFromPath(tool), std::string("/gone/tool")}) {
+    EXPECT_TRUE(runner.RunAndWait({cannot_start, {}}).failure.starts_with("could not be started: "));
+  }
+}
+
+TEST_F(ToolRunnerTest, AStopEndsAToolWithItsChildren) {
+  StopOnceStarted();
+  EXPECT_TRUE(runner.RunAndWait(Tool("(sleep 1; touch survived) & touch started; sleep 60")).stopped);
+  QTest::qWait(1500);
+  EXPECT_FALSE(exists(folder / "survived"));
+}
+
+TEST_F(ToolRunnerTest, AToolIsEndedBeforeTheProgramIs) {
+  QTimer::singleShot(0, [&] {
+    EXPECT_TRUE(IsThereSoon("started"));
+    runner.EndNow();
+    const pid_t process = std::stoi(support::ReadText(folder / "started"));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return ::kill(process, 0) != 0; }));
+  });
+  runner.RunAndWait(Tool("printf $$ > pid; mv pid started; exec sleep 60"));
+}
+
+TEST_F(ToolRunnerTest, WhatIsLeftRunningGoesOn) {
+  EXPECT_EQ(FailureOf("(while [ ! -e go ]; do sleep 0.05; done; touch done) & echo ready"), "");
+  EXPECT_FALSE(exists(folder / "done"));
+  support::WriteText(folder / "go", "");
+  EXPECT_TRUE(IsThereSoon("done"));
+
+  StopOnceStarted();  // a program that is looked at outlives the wait
+  const auto shown = runner.ShowAndWait(Tool("touch started; sleep 1; echo still here; touch survived"));
+  EXPECT_FALSE(shown.stopped);
+  EXPECT_EQ(shown.failure, "");
+  EXPECT_FALSE(exists(folder / "survived"));
+  EXPECT_TRUE(IsThereSoon("survived"));
+}
+
+#endif
 
 }  // namespace
 }  // namespace kelvo::ui

@@ -3,7 +3,6 @@
 
 #include "editing/preferences.h"
 #include "main_frame_fixture.h"
-#include "support/painted.h"
 
 namespace kelvo::ui {
 namespace {

@@ -22,19 +22,19 @@ class PromptTest : public MainFrameTest {
 };
 
 TEST_F(PromptTest, TypingKeepsTheRulesOfTheLine) {
-  Type("load pic.\\=");
-  EXPECT_EQ(line->text(), ">LOAD PIC");
+  Type("load pic.prg,8\\=[`{@/:Z09");
+  EXPECT_EQ(line->text(), ">LOAD PICPRG,8@Z09");
   QTest::keyClick(line, Qt::Key_Home);
   EXPECT_EQ(line->cursorPosition(), 1);
   QTest::keyClick(line, Qt::Key_Delete);
   Type("x");
-  EXPECT_EQ(line->text(), ">XOAD PIC");
+  EXPECT_EQ(line->text(), ">XOAD PICPRG,8@Z09");
   EXPECT_EQ(line->cursorPosition(), 2);
   line->selectAll();
   Type("a");
   EXPECT_EQ(line->text(), ">");
   EXPECT_EQ(line->cursorPosition(), 1);
-  line->setText(">new. and" + QString(10000, 'z'));  // as a paste does
+  line->setText(">new. \u00e5and\U0001F600" + QString(10000, 'z'));  // as a paste does
   EXPECT_TRUE(line->text().startsWith(">NEW ANDZZZ"));
 }
 

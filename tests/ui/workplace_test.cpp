@@ -100,6 +100,13 @@ TEST_F(WorkplaceTest, KeysWheelDragAndClickMoveTheZoomArea) {
   EXPECT_EQ(Find("frmZoom")->windowTitle(), " Zoom (8:1)");
   EXPECT_FALSE(Action("mnuZoom_4X")->isChecked());
   EXPECT_EQ(ZoomOrigin(), QPoint(0, 0));
+  QTest::mouseClick(full_view, Qt::LeftButton, {}, {160, 100});
+  EXPECT_EQ(ZoomOrigin(), QPoint(128, 64));
+  QTest::keyClick(Box("frmZoom"), Qt::Key_PageDown);
+  QTest::keyClick(Box("frmZoom"), Qt::Key_End);
+  EXPECT_EQ(ZoomOrigin(), QPoint(240, 128));
+  QTest::keyClick(Box("frmZoom"), Qt::Key_Up, Qt::ControlModifier);
+  EXPECT_EQ(ZoomOrigin(), QPoint(240, 56));
   EXPECT_EQ(frame->Document().picture, model::PictureImage());
 }
 

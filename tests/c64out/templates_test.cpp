@@ -1,18 +1,75 @@
-// The program that saves the picture on the C64: its source filled in, and what it does when a C64 runs it.
-#include "c64out/saver_template.h"
-
+// Templates and command lines filled in; the program that saves the picture, and what it does when a C64 runs it.
 #include <gtest/gtest.h>
 
+#include "app/whole_file.h"
+#include "c64out/disk_ending.h"
+#include "c64out/fill_template.h"
+#include "c64out/saver_template.h"
+#include "c64out/tool_command.h"
 #include "support/kernal_disk.h"
-#include "support/picture_program.h"
 #include "support/pictures.h"
 #include "support/run_tool.h"
-#include "support/temp_folder.h"
 
 namespace kelvo::c64out {
 namespace {
 
 using namespace std::string_literals;
+
+class FillTemplateTest : public testing::Test {
+ protected:
+  std::string Fill(std::string_view text, bool via_codenet) {
+    support::WriteText(folder / "in", text);
+    FillTemplate(folder / "in", folder / "out", {"[bitmap]", "/pic.kvp", via_codenet});
+    return support::ReadText(folder / "out");
+  }
+  support::TempFolder folder;
+};
+
+TEST_F(FillTemplateTest, ReplacesPlaceholdersAndKeepsNetworkLinesForNetworkBuilds) {
+  struct Case {
+    std::string_view text, local, network;
+  };
+  for (const Case& row : {
+           Case{"a\nb [bitmap]\n", "a\r\nb /pic.kvp\r\n", "a\r\nb /pic.kvp\r\n"},
+           Case{"[bitmap] [bitmap]\r\n\r\nend", "/pic.kvp /pic.kvp\r\n\r\nend\r\n", "/pic.kvp /pic.kvp\r\n\r\nend\r\n"},
+           Case{"[Bitmap] [bitmap]", "[Bitmap] /pic.kvp\r\n", "[Bitmap] /pic.kvp\r\n"},
+           Case{"[bitmap]1\n<CC>[bitmap]2\nx<CC>y<CC>\n", "/pic.kvp1\r\n", "/pic.kvp1\r\n/pic.kvp2\r\nxy\r\n"},
+       }) {
+    EXPECT_EQ(Fill(row.text, false), row.local) << row.text;
+    EXPECT_EQ(Fill(row.text, true), row.network) << row.text;
+  }
+}
+
+TEST_F(FillTemplateTest, SaysWhatIsWrongWithATemplateAndLeavesNoOldResult) {
+  Fill("[bitmap]", false);
+  EXPECT_THROW(Fill("no placeholder", false), std::runtime_error);
+  EXPECT_FALSE(exists(folder / "out"));
+  EXPECT_THROW(Fill("<CC> [bitmap]", false), std::runtime_error);
+  EXPECT_THROW(FillTemplate(folder / "gone", folder / "out", {"[bitmap]", "", false}), app::FileError);
+}
+
+TEST(ToolCommand, RendersForTheWindowsInterpreter) {
+  const ToolCommand command{"C:\\KELVO\\SYSTEM\\TASS.EXE", {"C:\\KELVO\\SYSTEM\\bmpshow.tmp", "", "$cf00"}};
+  EXPECT_EQ(command.WindowsCommandLine("c:\\windows\\system32\\CMD.exe"),
+            "c:\\windows\\system32\\CMD.exe /C C:\\KELVO\\SYSTEM\\TASS.EXE C:\\KELVO\\SYSTEM\\bmpshow.tmp  $cf00");
+  EXPECT_THROW((ToolCommand{"c1541.exe", {"a&calc"}}.InterpreterArguments()), std::runtime_error);
+}
+
+TEST(NameOnDisk, IsCutBeforeItsEnding) {
+  EXPECT_EQ(NameOnDisk("My.Pic"), "my.pic.prg");
+  EXPECT_EQ(NameOnDisk("ABCDEFGHIJKLMNOPQRST"), "abcdefghijklmnop.prg");
+  std::string umlauts;
+  for (int i = 0; i < 16; ++i) umlauts += "\u00e4";
+  EXPECT_EQ(NameOnDisk(umlauts + "X"), umlauts + ".prg");
+  EXPECT_EQ(NameOnDisk(""), ".prg");
+}
+
+#ifndef _WIN32
+TEST(Assembler, ThatIsNotInstalledSaysWhatToInstall) {
+  const std::string without_any_tool = "PATH=/nowhere \"" KELVO_ASSETS "/system/tass\" in out";
+  EXPECT_EQ(support::RunTool("sh", {"-c", without_any_tool}).errors, "64tass is missing: install the package 64tass\n");
+}
+#endif
 
 TEST(SaverTemplate, ConvertsNames) {
   for (const auto& [name, converted] : {
@@ -50,7 +107,7 @@ TEST(SaverTemplate, FillsOneKindOfPlaceholderInEachLine) {
 class SaverOnTheC64 : public testing::Test {
  protected:
   void SetUp() override {
-    if (!support::HasAssembler()) GTEST_SKIP() << "64tass is not installed";
+    if (!support::IsInstalled("64tass")) GTEST_SKIP() << "64tass is not installed";
   }
 
   app::Bytes Assemble(const std::string& name, std::uintmax_t program_size = 7000) const {
@@ -118,22 +175,19 @@ TEST_F(SaverOnTheC64, TakesEveryByteInANameAndCutsItToSixteen) {
   EXPECT_EQ(disk_.name, "\"'\"'\x1B");
 }
 
-TEST_F(SaverOnTheC64, ShowsRedWhenTheFileIsNotOnTheDisk) {
-  disk_.message = "63,FILE EXISTS,00,00\r";
-  Run(Assemble("a"));
-  EXPECT_EQ(Border(), kRed);
-}
-
-TEST_F(SaverOnTheC64, ShowsRedWithoutADriveOrAName) {
+TEST_F(SaverOnTheC64, ShowsRedWithoutADriveANameOrTheFileOnTheDisk) {
   disk_.present = false;
   machine_.Poke(0xBA, 1);
   Run(Assemble("a"));
   EXPECT_EQ(disk_.device, 8);
   EXPECT_EQ(Border(), kRed);
   disk_.present = true;
-  machine_.Write(0xD020, kGreen);
-  Run(Assemble(""));
-  EXPECT_EQ(Border(), kRed);
+  for (const auto& [name, message] : {std::pair{"", disk_.message}, {"a", "63,FILE EXISTS,00,00\r"}}) {
+    disk_.message = message;
+    machine_.Write(0xD020, kGreen);
+    Run(Assemble(name));
+    EXPECT_EQ(Border(), kRed);
+  }
 }
 #endif
 
