@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include "app/path_text.h"
 #include "command/process_command.h"
 #include "support/program.h"
 
@@ -37,7 +36,6 @@ class AnimModeTest : public testing::Test, protected support::Program {
     EXPECT_EQ(shows.window, shows.check_mark);
     return messages.shown;
   }
-  std::string Text(const std::string& name) const { return app::TextFromPath(folder / name); }
 
   RecordingAnimDisplay shows;
   AnimMode mode{{settings, messages, document, files}, shows};

@@ -7,7 +7,6 @@
 
 #include "anim/frame_navigation.h"
 #include "anim/frame_player.h"
-#include "app/path_text.h"
 #include "files/picture_format.h"
 #include "support/program.h"
 
@@ -31,7 +30,6 @@ class FramesTest : public testing::Test, protected support::Program {
     settings.Write(kFolder, Text("a/"));
     settings.Write(kAnimPrefix, "Anim");
   }
-  std::string Text(const std::string& name) const { return app::TextFromPath(folder / name); }
   fs::path File(int number) const { return app::PathFromText(FrameNames({Text("a/"), "Anim"}).Path(number)); }
   void WriteFrames(std::initializer_list<int> numbers) {
     for (const int number : numbers) WriteFrame(File(number), number);

@@ -64,12 +64,6 @@ struct Scene : support::Program {
     return (result.emulator ? ShowInEmulator(*result.emulator, with) : result.outcome) == BuildOutcome::kDone;
   }
   std::string System(std::string_view name) const { return app::TextFromPath(folders.System() / name); }
-  static Lines FilesIn(const std::filesystem::path& place) {
-    Lines names;
-    for (const auto& entry : std::filesystem::directory_iterator(place)) names.push_back(entry.path().filename());
-    std::sort(names.begin(), names.end());
-    return names;
-  }
 
   PretendedTools tools;
 };
@@ -92,14 +86,14 @@ TEST_F(BuildCompoPicTest, MakesAPrgBesideThePicture) {
   EXPECT_EQ(tools.sources,
             (Lines{"show " + System("temp.kvp") + "\r\n colour 0B\r\n", "unpack " + System("bmpshow.pak") + "\r\n"}));
   EXPECT_EQ(support::ReadText(folder / "art/My Pic.prg"), System("decrush.tmp") + " made");
-  EXPECT_EQ(FilesIn(folders.System()), kCleanSystem);
+  EXPECT_EQ(support::NamesIn(folders.System()), kCleanSystem);
   EXPECT_EQ(document.picture, before.picture);
   EXPECT_TRUE(document.HasUnsavedWork());
   EXPECT_EQ(settings.Read(files::kFilePath), "/pictures");
   EXPECT_TRUE(messages.shown.empty());
   document.file = files::SetFileParameters(app::TextFromPath(folder / "art/no dot"));
   EXPECT_TRUE(Build(kPrg));
-  EXPECT_EQ(FilesIn(folder / "art"), (Lines{".prg", "My Pic.prg"}));
+  EXPECT_EQ(support::NamesIn(folder / "art"), (Lines{".prg", "My Pic.prg"}));
 }
 
 TEST_F(BuildCompoPicTest, MakesADiskAndShowsIt) {
@@ -110,8 +104,8 @@ TEST_F(BuildCompoPicTest, MakesADiskAndShowsIt) {
   ASSERT_EQ(tools.commands.size(), 5U);
   EXPECT_EQ(tools.commands[3], "c1541 My Pic.d64 -write bmpshow.prg a.name.of.twenty.prg");
   EXPECT_EQ(tools.commands[4], "x64sc -autostart My Pic.d64:a.name.of.twenty.prg");
-  EXPECT_EQ(FilesIn(folder / "art"), (Lines{"My Pic.d64"}));
-  EXPECT_EQ(FilesIn(folders.System()), kCleanSystem);
+  EXPECT_EQ(support::NamesIn(folder / "art"), (Lines{"My Pic.d64"}));
+  EXPECT_EQ(support::NamesIn(folders.System()), kCleanSystem);
 }
 
 TEST_F(BuildCompoPicTest, SendsToTheC64WithoutVice) {
@@ -122,7 +116,7 @@ TEST_F(BuildCompoPicTest, SendsToTheC64WithoutVice) {
                                  "--> Sending to 127.0.0.1", "--> Transfer complete"}));
   EXPECT_EQ(tools.commands.back(), "codenet -x bmpshow.prg -n 127.0.0.1");
   EXPECT_EQ(tools.sources.front(), "show " + System("temp.kvp") + "\r\n colour 0B\r\n net\r\n");
-  EXPECT_TRUE(FilesIn(folder / "art").empty());
+  EXPECT_TRUE(support::NamesIn(folder / "art").empty());
   EXPECT_TRUE(messages.shown.empty());
 }
 
@@ -137,7 +131,7 @@ TEST(BuildCompoPic, KeepsAPrgThatIsNoProgramInBackup) {
       EXPECT_TRUE(scene.Build(choice));
       const std::string copy = "My Pic_" + app::BackupStamp(scene.clock.Now()) + "_replaced.prg";
       const auto backup = scene.folders.Backup();
-      EXPECT_EQ(Scene::FilesIn(backup), older == program ? Lines{} : Lines{copy});
+      EXPECT_EQ(support::NamesIn(backup), older == program ? Lines{} : Lines{copy});
       EXPECT_EQ(support::ReadFile(backup / copy), older == program ? app::Bytes{} : older);
     }
   }
@@ -220,7 +214,7 @@ TEST(BuildCompoPic, TellsWhateverFailsAndLeavesTheOlderResult) {
       EXPECT_FALSE(exists(system / work)) << work;
     }
     if (!exists(art)) continue;
-    EXPECT_EQ(Scene::FilesIn(art), (Lines{"My Pic.d64", "My Pic.prg"}));
+    EXPECT_EQ(support::NamesIn(art), (Lines{"My Pic.d64", "My Pic.prg"}));
     EXPECT_EQ(support::ReadText(art / "My Pic.prg"), "older");
     EXPECT_EQ(support::ReadText(art / "My Pic.d64"), row.choice.LaunchVice ? "written image" : "older");
   }

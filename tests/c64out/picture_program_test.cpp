@@ -12,19 +12,6 @@
 namespace kelvo::support {
 namespace {
 
-// Cells drawn one by one; `seed` decides their kind.
-model::PictureImage PaintedPicture(unsigned seed) {
-  model::PictureImage picture{.BackgroundColour = Colour(static_cast<int>(seed % 16))};
-  std::mt19937 random(seed);
-  for (int cell = 1; cell <= 1000; ++cell) {
-    if (random() % 3 == 0) continue;
-    const auto dither = static_cast<std::uint8_t>(random() % 2 == 0 ? 0x66 : 0x99);
-    SetCell(picture, cell, random() % 4 == 0 ? kAllSlots : std::array<std::uint8_t, 8>{dither, 0x1B, dither, 0, 0, 3},
-            static_cast<int>(random() % 16), cell / 40 % 16, 7);
-  }
-  return picture;
-}
-
 // Upright stripes and level ones: the first pack better in columns, the second in rows of cells.
 model::PictureImage StripedPicture(bool upright) {
   model::PictureImage picture{.BackgroundColour = Colour(0)};
@@ -54,7 +41,7 @@ TEST_F(PictureProgram, ShowsThePictureThatWasPainted) {
   const std::pair<const char*, model::PictureImage> cases[] = {
       {"blank", {.BackgroundColour = Colour(6)}},
       {"random, with high nibbles in its colours", RandomPicture(77)},
-      {"painted", PaintedPicture(3)},
+      {"painted", BlotchyPicture(3)},
       {"maze", Maze()},
       {"upright", StripedPicture(true)},
       {"level", StripedPicture(false)},
@@ -68,7 +55,7 @@ TEST_F(PictureProgram, ShowsThePictureThatWasPainted) {
 }
 
 TEST_F(PictureProgram, ShowsItWhateverARunningProgramLeaves) {
-  for (const auto& picture : {PaintedPicture(4), RandomPicture(5)}) {
+  for (const auto& picture : {BlotchyPicture(4), RandomPicture(5)}) {
     C64Machine machine;
     machine.LeaveUnclean();
     ExpectShown(BuildPictureProgram(folder_.Path(), picture, StartedBy::kNetwork), picture, machine);
@@ -83,7 +70,7 @@ TEST_F(PictureProgram, TakesNoHarmFromTheRestoreKeyOrTheNameOfItsFolder) {
 #endif
   const std::filesystem::path odd = folder_ / "it's $HOME; [100%] & #1 <ü>";
   std::filesystem::create_directories(odd);
-  const model::PictureImage picture = PaintedPicture(5);
+  const model::PictureImage picture = BlotchyPicture(5);
   C64Machine machine;
   machine.PressRestoreEvery(977);
   ExpectShown(BuildPictureProgram(odd, picture), picture, machine);

@@ -4,7 +4,6 @@
 
 #include <stdexcept>
 
-#include "app/path_text.h"
 #include "command/input_line.h"
 #include "command/number_reading.h"
 #include "command/process_command.h"
@@ -101,8 +100,8 @@ TEST_F(ProcessCommandTest, NamesNeverLeadOutOfTheirFolder) {
   }
   EXPECT_EQ(Replies("LOAD ../X,8"), Lines{"LOAD ../X [err 902]"});
   EXPECT_TRUE(fs::is_directory(folders.Root() / "EMPTY"));
-  EXPECT_EQ(std::distance(fs::directory_iterator(folder.Path()), fs::directory_iterator()), 2);
-  EXPECT_EQ(std::distance(fs::directory_iterator(folders.Gfx()), fs::directory_iterator()), 0);
+  EXPECT_EQ(support::NamesIn(folder.Path()).size(), 2U);
+  EXPECT_EQ(support::NamesIn(folders.Gfx()), Lines());
 }
 
 TEST_F(ProcessCommandTest, LoadsFromGfxAndDevicesInAnyCase) {

@@ -93,19 +93,6 @@ class LiteralFill {
   std::size_t head_ = 0;
 };
 
-// A picture with large regions, so that fills reach far and the window of the queue overflows.
-PictureImage Blotchy(unsigned seed) {
-  std::mt19937 random(seed);
-  PictureImage picture{.BackgroundColour = Colour(static_cast<int>(random() % 4))};
-  for (int cell = 1; cell <= 1000; ++cell) {
-    std::array<std::uint8_t, 8> lines{};
-    for (std::uint8_t& line : lines) line = random() % 4 == 0 ? static_cast<std::uint8_t>(random()) : std::uint8_t{0};
-    const auto colour = [&] { return static_cast<int>(random() % 6); };
-    support::SetCell(picture, cell, lines, colour(), colour(), colour());
-  }
-  return picture;
-}
-
 class FloodFillTest : public testing::Test {
  protected:
   // Whether a fill came to its end before its queue was full.
@@ -142,7 +129,7 @@ class FloodFillTest : public testing::Test {
 TEST_F(FloodFillTest, EqualsTheLiteralRulesInContentAndOrder) {
   std::mt19937 random(99);
   for (unsigned seed = 0; seed < 12; ++seed) {
-    const PictureImage before = Blotchy(seed);
+    const PictureImage before = support::BlotchyPicture(seed);
     for (const bool replace : {false, true}) {
       SCOPED_TRACE(testing::Message() << "seed " << seed << ", replace " << replace);
       CompareWithLiteral(before, static_cast<int>(random() % 160) + 1, static_cast<int>(random() % 200) + 1,

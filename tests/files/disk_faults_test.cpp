@@ -12,7 +12,6 @@
 #include <random>
 #include <thread>
 
-#include "app/path_text.h"
 #include "files/recovery_copy.h"
 #include "support/faulty_disk.h"
 #include "support/program.h"
@@ -56,9 +55,6 @@ class DiskFaults : public testing::Test, protected support::Program {
                          messages.shown[0].find("pic.kvp") != std::string::npos;
     return is_told && document.picture.Bitmap[1] == value && document.HasUnsavedWork() &&
            document.file.CurrentFilePath == app::TextFromPath(file);
-  }
-  static std::size_t FilesIn(const fs::path& place) {
-    return static_cast<std::size_t>(std::distance(fs::directory_iterator(place), fs::directory_iterator()));
   }
   // Runs `work` in a program of its own, until it is killed or done.
   template <typename Work>
@@ -104,7 +100,7 @@ TEST_F(DiskFaults, AFullOrReadOnlyDiskKeepsTheOldFile) {
   disk.FillUp();
   EXPECT_TRUE(IsRefusedPlainly(2, "No space left on device"));
   EXPECT_EQ(PaintedIn(file), 1);
-  EXPECT_EQ(FilesIn(art), 2U);  // no temporary file
+  EXPECT_EQ(support::NamesIn(art).size(), 2U);  // no temporary file
   disk.MakeRoom();
   EXPECT_TRUE(files.Save());
   EXPECT_EQ(PaintedIn(file), 2);
@@ -127,6 +123,7 @@ TEST_F(DiskFaults, AFullProgramFolderDoesNotKeepFromSaving) {
   ASSERT_EQ(messages.shown.size(), 1U);
   EXPECT_TRUE(messages.shown[0].starts_with("The picture is saved, but its backup could not be made.\n"));
   EXPECT_EQ(PaintedIn(folders.Snapshot()), 1);
+  Paint(3);
   EXPECT_THROW(RecoveryCopy(document, RecoveryFiles(folders, 1)).KeepNow(), app::FileError);
 }
 
@@ -146,7 +143,7 @@ TEST_F(DiskFaults, AFolderOrFileWithoutRightsKeepsTheOldFile) {
     if (!holds) GTEST_SKIP() << "this user cannot become an ordinary one";
     EXPECT_TRUE(*holds);
     EXPECT_EQ(PaintedIn(file), 1);
-    EXPECT_EQ(FilesIn(art), 1U);
+    EXPECT_EQ(support::NamesIn(art).size(), 1U);
   }
 }
 
@@ -156,7 +153,7 @@ TEST_F(DiskFaults, AFolderThatVanishesLeavesThePictureInMemory) {
   EXPECT_TRUE(IsRefusedPlainly(2, "No such file or directory"));
   EXPECT_FALSE(files.Reload());
   EXPECT_EQ(document.picture.Bitmap[1], 2);
-  EXPECT_TRUE(files.SaveTo(app::TextFromPath(folder / "elsewhere.kvp")));
+  EXPECT_TRUE(files.SaveTo(Text("elsewhere.kvp")));
   EXPECT_EQ(PaintedIn(folder / "elsewhere.kvp"), 2);
 }
 
@@ -207,7 +204,7 @@ TEST_F(DiskFaults, TwoProgramsOnOneFolderSaveAndLogWholly) {
   EXPECT_EQ(PaintedIn(file), kRounds);
   EXPECT_NE(PaintedIn(folders.Snapshot()), -1);
   EXPECT_NE(PaintedIn(folders.Backup() / "pic.kvp_2602030907.prg"), -1);
-  EXPECT_EQ(FilesIn(art), 1U);
+  EXPECT_EQ(support::NamesIn(art).size(), 1U);
   std::string expected;
   for (int line = 0; line < 2 * kRounds; ++line) expected += "260203 09:07:05 " + long_line + "\n";
   EXPECT_TRUE(support::ReadText(folders.ErrorLogFile()) == expected);

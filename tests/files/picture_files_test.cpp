@@ -3,9 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <set>
-
-#include "app/path_text.h"
 #include "app/whole_file.h"
 #include "files/recovery_copy.h"
 #include "support/program.h"
@@ -19,15 +16,9 @@ using support::Lines;
 
 class PictureFilesTest : public testing::Test, protected support::Program {
  protected:
-  std::string Place(const std::string& name) const { return app::TextFromPath(folder / name); }
   std::string WriteKoala(const std::string& name) {
     support::WriteFile(folder / name, support::CountingBytes(10003));
-    return Place(name);
-  }
-  std::set<std::string> Backups() const {
-    std::set<std::string> names;
-    for (const auto& entry : fs::directory_iterator(folders.Backup())) names.insert(entry.path().filename().string());
-    return names;
+    return Text(name);
   }
 };
 
@@ -67,14 +58,14 @@ TEST_F(PictureFilesTest, AFailedLoadChangesNothing) {
     SCOPED_TRACE(name);
     prompt.lines.clear();
     messages.shown.clear();
-    EXPECT_FALSE(files.OpenPicture(Place(name)));
+    EXPECT_FALSE(files.OpenPicture(Text(name)));
     EXPECT_EQ(document.picture, before.picture);
     EXPECT_EQ(document.file.CurrentFilePath, before.file.CurrentFilePath);
     EXPECT_EQ(messages.shown.size(), 1U);
     EXPECT_EQ(prompt.lines, size_message ? Lines{} : Lines{"LOAD " + NameOfPath(name) + " [err 902]"});
   }
   messages.shown.clear();
-  files.OpenPicture(Place("missing.kvp"), OnFailure::kPromptOnly);
+  files.OpenPicture(Text("missing.kvp"), OnFailure::kPromptOnly);
   EXPECT_TRUE(messages.shown.empty());
   EXPECT_EQ(files.RecentPaths().size(), 1U);
   EXPECT_TRUE(support::ReadText(folders.ErrorLogFile()).starts_with("260203 09:07:05 MDIFormMenu_LoadPicture: "));
@@ -84,12 +75,12 @@ TEST_F(PictureFilesTest, SavingKeepsTheStateBeforeAsBackup) {
   files.OpenPicture(WriteKoala("pic.koa"));
   document.picture.Bitmap[5] ^= 1;
   EXPECT_TRUE(files.Save());
-  EXPECT_EQ(document.file.CurrentFilePath, Place("pic.kvp"));
+  EXPECT_EQ(document.file.CurrentFilePath, Text("pic.kvp"));
   EXPECT_EQ(prompt.lines.back(), "SAVE pic.koa");
   EXPECT_EQ(fs::file_size(folder / "pic.kvp"), 10050U);
   EXPECT_EQ(document.picture.ScreenMemory[1017], 11);  // the signature stays in memory
   EXPECT_FALSE(document.HasUnsavedWork());
-  EXPECT_EQ(Backups(), std::set<std::string>{"pic.koa_2602030907.prg"});
+  EXPECT_EQ(support::NamesIn(folders.Backup()), Lines{"pic.koa_2602030907.prg"});
   EXPECT_EQ(support::ReadFile(folders.Backup() / "pic.koa_2602030907.prg"), support::ReadFile(folder / "pic.koa"));
   EXPECT_EQ(support::ReadFile(folders.Snapshot()), support::ReadFile(folder / "pic.kvp"));
 }
@@ -103,7 +94,7 @@ TEST_F(PictureFilesTest, SavingElsewhereMayBeRefusedAndThenNothingChanges) {
   document.picture.Bitmap[5] ^= 1;
   const Document before = document;
   for (const std::string& path :
-       {Place("gone/pic.kvp"), std::string("abc"), app::TextFromPath(folders.Gfx()) + ".kvp/x.kvp"}) {
+       {Text("gone/pic.kvp"), std::string("abc"), app::TextFromPath(folders.Gfx()) + ".kvp/x.kvp"}) {
     messages.shown.clear();
     EXPECT_FALSE(files.SaveTo(path)) << path;
     EXPECT_EQ(messages.shown.size(), 1U);
@@ -128,8 +119,9 @@ TEST_F(PictureFilesTest, UnsavedWorkIsKeptBeforeItIsThrownAway) {
   EXPECT_TRUE(files.Reload());
   drawn = 3;
   files.OpenPicture(WriteKoala("other.koa"));
-  EXPECT_EQ(Backups(), (std::set<std::string>{"pic.koa_2602030907_unsaved.kvp", "pic.koa_2602030907_unsaved_2.kvp",
-                                              "pic.koa_2602030907_unsaved_3.kvp"}));
+  EXPECT_EQ(support::NamesIn(folders.Backup()),
+            (Lines{"pic.koa_2602030907_unsaved.kvp", "pic.koa_2602030907_unsaved_2.kvp",
+                   "pic.koa_2602030907_unsaved_3.kvp"}));
   EXPECT_EQ(support::ReadFile(folders.Backup() / "pic.koa_2602030907_unsaved_2.kvp").at(2050 + 8), 2);
 
   drawn = 4;
@@ -149,12 +141,12 @@ TEST_F(PictureFilesTest, ClosingAsksAboutUnsavedWorkAndSavesItByDialog) {
   messages.unsaved = app::UnsavedAnswer::kSave;
   EXPECT_FALSE(files.MayClose());  // the save dialog was cancelled
   EXPECT_EQ(dialogs.proposals, Lines{app::TextFromPath(folders.Gfx()) + "/unnamed.kvp"});
-  dialogs.save = Place("kept.kvp");
+  dialogs.save = Text("kept.kvp");
   EXPECT_TRUE(files.MayClose());
   EXPECT_TRUE(fs::exists(folder / "kept.kvp"));
   EXPECT_EQ(document.file.CurrentFileName, "kept.kvp");
   EXPECT_EQ(settings.values["Settings/FilePath"], app::TextFromPath(folder.Path()));
-  EXPECT_TRUE(Backups().empty());
+  EXPECT_TRUE(support::NamesIn(folders.Backup()).empty());
   document.picture.Bitmap[9] = 2;
   messages.unsaved = app::UnsavedAnswer::kDiscard;
   EXPECT_TRUE(files.MayClose());

@@ -3,16 +3,51 @@
 
 #include <filesystem>
 
-#include "app/whole_file.h"
-#include "model/picture_image.h"
+#include "app/path_text.h"
+#include "c64out/build_compo_pic.h"
+#include "c64out/output_settings.h"
+#include "support/program.h"
+#include "support/run_tool.h"
 
 namespace kelvo::support {
 
 // How the program will be started: by RUN, or over the network, with the template lines that are meant for it.
 enum class StartedBy { kRun, kNetwork };
 
+// Runs every tool but the loader, of which it keeps what it was to send.
+class RealTools final : public c64out::ToolRunner {
+ public:
+  bool CanRun() const override { return true; }
+  c64out::ToolResult RunAndWait(const c64out::ToolCommand& command) override {
+    if (app::FileNamePart(command.tool).starts_with("codenet")) {
+      sent = ReadFile(app::PathFromText(command.arguments.at(1)));
+      return {};
+    }
+    const ToolRun run = RunTool(command.tool, command.arguments);
+    return {.failure = run.exit_code == 0 ? "" : "failed: " + run.errors};
+  }
+  c64out::ToolResult ShowAndWait(const c64out::ToolCommand& command) override { return RunAndWait(command); }
+
+  app::Bytes sent;
+};
+
 // The program of `picture`, made in `folder`, which keeps the work files; empty when the build failed.
-app::Bytes BuildPictureProgram(const std::filesystem::path& folder, const model::PictureImage& picture,
-                               StartedBy start = StartedBy::kRun);
+inline app::Bytes BuildPictureProgram(const std::filesystem::path& folder, const model::PictureImage& picture,
+                                      StartedBy start = StartedBy::kRun) {
+  const app::ProgramFolders folders(folder / "program");
+  folders.Create();
+  folders.Seed(KELVO_SHARE);
+  WriteText(folder / "x64", "an emulator, to look at");
+  Program with;
+  with.settings.Write(c64out::kVicePath, app::TextFromPath(folder));
+  RealTools tools;
+  const files::Document document{.picture = picture,
+                                 .file = files::SetFileParameters(app::TextFromPath(folder / "picture.kvp"))};
+  const c64out::CompoPicChoice choice{.MakePrg = true, .ViaCodenet = start == StartedBy::kNetwork};
+  const c64out::BuildResult result = c64out::BuildCompoPic(
+      document, choice, {folders, with.settings, with.clock, with.log, with.messages, with.prompt, tools});
+  if (result.outcome != c64out::BuildOutcome::kDone) return {};
+  return start == StartedBy::kNetwork ? tools.sent : ReadFile(folder / "picture.prg");
+}
 
 }  // namespace kelvo::support

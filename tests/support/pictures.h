@@ -1,6 +1,7 @@
 // Pictures, files and folders for tests.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <filesystem>
@@ -56,6 +57,20 @@ inline model::PictureImage RandomPicture(unsigned seed) {
   return picture;
 }
 
+// Cells of few colours and many empty lines: large regions, so that fills reach far and the window of their queue
+// overflows, and much that can be packed.
+inline model::PictureImage BlotchyPicture(unsigned seed) {
+  std::mt19937 random(seed);
+  model::PictureImage picture{.BackgroundColour = Colour(static_cast<int>(random() % 4))};
+  for (int cell = 1; cell <= 1000; ++cell) {
+    std::array<std::uint8_t, 8> lines{};
+    for (std::uint8_t& line : lines) line = random() % 4 == 0 ? static_cast<std::uint8_t>(random()) : std::uint8_t{0};
+    const auto colour = [&] { return static_cast<int>(random() % 6); };
+    SetCell(picture, cell, lines, colour(), colour(), colour());
+  }
+  return picture;
+}
+
 // `size` bytes that tell their place: byte p is (p * 7 + 3) mod 256.
 inline app::Bytes CountingBytes(std::size_t size) {
   app::Bytes bytes(size);
@@ -71,6 +86,13 @@ inline void WriteFile(const std::filesystem::path& path, const app::Bytes& bytes
 inline app::Bytes ReadFile(const std::filesystem::path& path) {
   std::ifstream stream(path, std::ios::binary);
   return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
+}
+
+inline std::vector<std::string> NamesIn(const std::filesystem::path& folder) {
+  std::vector<std::string> names;
+  for (const auto& entry : std::filesystem::directory_iterator(folder)) names.push_back(entry.path().filename());
+  std::sort(names.begin(), names.end());
+  return names;
 }
 
 inline void WriteText(const std::filesystem::path& path, std::string_view text) {

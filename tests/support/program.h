@@ -10,6 +10,7 @@
 #include "app/clock.h"
 #include "app/error_log.h"
 #include "app/messages.h"
+#include "app/path_text.h"
 #include "app/program_folders.h"
 #include "app/settings_store.h"
 #include "app/wait_pointer.h"
@@ -115,6 +116,8 @@ class RecordingDisplay final : public files::FileDisplay {
 
 struct Program {
   Program() { folders.Create(); }
+  // The path of something in the folder, as the program's texts have it.
+  std::string Text(std::string_view name) const { return app::TextFromPath(folder / name); }
 
   TempFolder folder;
   app::ProgramFolders folders{folder / "program"};
