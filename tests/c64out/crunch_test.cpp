@@ -39,6 +39,8 @@ Bytes RandomBytes(std::size_t size, unsigned seed) {
 }
 
 TEST(Crunch, GivesBackWhateverWentIn) {
+  Bytes nibbles = RandomBytes(10050, 5);
+  for (std::uint8_t& byte : nibbles) byte &= 0x0F;  // as colours are
   const Bytes cases[] = {
       {},
       {0x5A},
@@ -51,7 +53,9 @@ TEST(Crunch, GivesBackWhateverWentIn) {
       Patchwork(65536, 6),
       RandomBytes(10001, 8),  // a picture with high nibbles in its colours
       Patchwork(10001, 9),    // a picture of few bytes
-      Patchwork(10050, 2),    // a picture program
+      Patchwork(10050, 2),    // a picture program with high nibbles
+      nibbles,                // one without
+      Bytes(10001, 16),       // a picture whose colours have the lowest bit of a high nibble
       Bytes(10000, 1),        // one byte short of a picture
       Bytes(10002, 1),        // one byte more
       Bytes(10003, 1),        // the smallest picture program
