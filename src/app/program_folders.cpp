@@ -60,7 +60,9 @@ void ProgramFolders::Seed(const fs::path& shipped) const {
 }
 
 std::filesystem::path ChooseProgramFolder(const fs::path& executable_folder, const fs::path& user_folder) {
-  return CanWriteIn(executable_folder) ? executable_folder : user_folder;
+  std::error_code ignored;
+  const bool installed = fs::exists(executable_folder / ".." / "share" / "applications" / "kelvo.desktop", ignored);
+  return !installed && CanWriteIn(executable_folder) ? executable_folder : user_folder;
 }
 
 }  // namespace kelvo::app

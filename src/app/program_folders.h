@@ -30,7 +30,8 @@ class ProgramFolders {
   std::filesystem::path root_;
 };
 
-// The folder of the executable where that can be written (a portable copy, a build folder), else the user's own.
+// The folder of the executable where that can be written (a portable copy, a build folder), else the user's own. An
+// installed program, whose desktop file lies in ../share/applications, writes nothing beside itself, not even for root.
 std::filesystem::path ChooseProgramFolder(const std::filesystem::path& executable_folder,
                                           const std::filesystem::path& user_folder);
 

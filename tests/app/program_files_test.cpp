@@ -57,6 +57,9 @@ TEST(ProgramFolders, LieBesideTheProgramOnlyWhereThatCanBeWritten) {
   EXPECT_EQ(ChooseProgramFolder(folder.Path(), "user"), folder.Path());
   EXPECT_EQ(ChooseProgramFolder(folder / "gone", "user"), "user");
   EXPECT_TRUE(std::filesystem::is_empty(folder.Path()));
+  for (const char* place : {"bin", "share/applications"}) std::filesystem::create_directories(folder / place);
+  support::WriteText(folder / "share/applications/kelvo.desktop", "");
+  EXPECT_EQ(ChooseProgramFolder(folder / "bin", "user"), "user");
 }
 
 TEST(PathText, PartsEndAtTheLastSeparator) {
