@@ -7,11 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "app/clock.h"
-#include "app/error_log.h"
-#include "app/messages.h"
-#include "app/program_folders.h"
-#include "app/settings_store.h"
+#include "app/surroundings.h"
 #include "c64out/compo_pic_entries.h"
 #include "c64out/tool_runner.h"
 #include "files/document.h"
@@ -19,13 +15,7 @@
 namespace kelvo::c64out {
 
 // What builds work with; all of it outlives them.
-struct BuildSurroundings {
-  const app::ProgramFolders& folders;
-  app::SettingsStore& settings;
-  const app::Clock& clock;
-  const app::ErrorLog& log;
-  app::Messages& messages;
-  app::PromptOutput& prompt;
+struct BuildSurroundings : app::Surroundings {
   ToolRunner& runner;
 };
 

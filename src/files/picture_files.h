@@ -6,11 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "app/clock.h"
-#include "app/error_log.h"
-#include "app/messages.h"
-#include "app/program_folders.h"
-#include "app/settings_store.h"
+#include "app/surroundings.h"
 #include "app/wait_pointer.h"
 #include "files/document.h"
 #include "files/file_ports.h"
@@ -21,13 +17,7 @@
 namespace kelvo::files {
 
 // What the file operations work with; all of it outlives them.
-struct FileSurroundings {
-  const app::ProgramFolders& folders;
-  app::SettingsStore& settings;
-  const app::Clock& clock;
-  const app::ErrorLog& log;
-  app::Messages& messages;
-  app::PromptOutput& prompt;
+struct FileSurroundings : app::Surroundings {
   app::WaitPointer& pointer;
   FileDialogs& dialogs;
   FileDisplay& display;

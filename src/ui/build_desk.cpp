@@ -56,7 +56,7 @@ c64out::BuildResult BuildDesk::BuildAlone(const c64out::CompoPicChoice& choice) 
 }
 
 c64out::BuildSurroundings BuildDesk::ForBuilds() const {
-  return {with_.folders, with_.settings, with_.clock, with_.log, with_.messages, with_.prompt, runner_};
+  return {with_, runner_};
 }
 
 void BuildDesk::Stop() {

@@ -11,13 +11,7 @@
 namespace kelvo::ui {
 
 // What builds take from the main window.
-struct BuildDeskSurroundings {
-  const app::ProgramFolders& folders;
-  app::SettingsStore& settings;
-  const app::Clock& clock;
-  const app::ErrorLog& log;
-  app::Messages& messages;
-  app::PromptOutput& prompt;
+struct BuildDeskSurroundings : app::Surroundings {
   const files::Document& document;
   files::PictureFiles& files;
   QtToolRunner& runner;
