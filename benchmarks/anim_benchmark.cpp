@@ -4,7 +4,7 @@
 #include "anim/frame_row.h"
 #include "files/picture_format.h"
 #include "goals.h"
-#include "support/pictures.h"
+#include "support/files.h"
 
 namespace kelvo::anim {
 namespace {

@@ -9,7 +9,7 @@
 #include "c64out/codenet_sender.h"
 #include "goals.h"
 #include "support/codenet_server.h"
-#include "support/pictures.h"
+#include "support/files.h"
 #include "support/run_tool.h"
 #include "udp_socket.h"
 

@@ -5,6 +5,7 @@
 
 #include "files/picture_format.h"
 #include "goals.h"
+#include "support/files.h"
 #include "support/pictures.h"
 
 namespace kelvo::files {

@@ -8,7 +8,7 @@
 #include "command/number_reading.h"
 #include "command/process_command.h"
 #include "input.h"
-#include "support/pictures.h"
+#include "support/files.h"
 #include "support/program.h"
 
 namespace kelvo::fuzz {

@@ -10,8 +10,8 @@
 #include "c64out/crunch.h"
 #include "row.h"
 #include "support/c64_machine.h"
+#include "support/files.h"
 #include "support/picture_program.h"
-#include "support/pictures.h"
 
 namespace kelvo::bench {
 namespace {

@@ -17,6 +17,7 @@
 #include "c64out/output_settings.h"
 #include "files/picture_format.h"
 #include "row.h"
+#include "support/files.h"
 #include "support/pictures.h"
 #include "ui/application.h"
 #include "ui/main_frame.h"

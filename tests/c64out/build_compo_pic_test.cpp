@@ -8,6 +8,7 @@
 #include "app/path_text.h"
 #include "c64out/output_settings.h"
 #include "files/save_bitmap.h"
+#include "support/pictures.h"
 #include "support/program.h"
 
 namespace kelvo::c64out {

@@ -6,7 +6,7 @@
 #include <random>
 
 #include "c64out/codenet_transfer.h"
-#include "support/pictures.h"
+#include "support/files.h"
 #include "support/simulated_line.h"
 
 namespace kelvo::c64out {

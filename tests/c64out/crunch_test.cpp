@@ -8,7 +8,7 @@
 #include <string>
 
 #include "app/whole_file.h"
-#include "support/pictures.h"
+#include "support/files.h"
 #include "support/run_tool.h"
 
 namespace kelvo::c64out {

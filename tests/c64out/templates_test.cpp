@@ -6,8 +6,8 @@
 #include "c64out/fill_template.h"
 #include "c64out/saver_template.h"
 #include "c64out/tool_command.h"
+#include "support/files.h"
 #include "support/kernal_disk.h"
-#include "support/pictures.h"
 #include "support/run_tool.h"
 
 namespace kelvo::c64out {

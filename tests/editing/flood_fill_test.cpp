@@ -9,6 +9,7 @@
 #include "editing/cell_slots.h"
 #include "editing/set_data.h"
 #include "support/mazes.h"
+#include "support/pictures.h"
 #include "support/program.h"
 
 namespace kelvo::editing {

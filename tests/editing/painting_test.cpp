@@ -8,6 +8,7 @@
 #include "editing/pen_keys.h"
 #include "editing/preferences.h"
 #include "support/mazes.h"
+#include "support/pictures.h"
 #include "support/program.h"
 
 namespace kelvo::editing {

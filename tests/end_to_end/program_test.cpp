@@ -16,6 +16,7 @@
 #include "editing/painting.h"
 #include "editing/pen_keys.h"
 #include "model/palette.h"
+#include "support/pictures.h"
 #include "support/run_tool.h"
 
 namespace kelvo::end_to_end {

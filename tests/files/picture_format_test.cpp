@@ -7,7 +7,7 @@
 #include <set>
 #include <tuple>
 
-#include "support/pictures.h"
+#include "support/files.h"
 
 namespace kelvo::files {
 namespace {

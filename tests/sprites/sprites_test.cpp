@@ -6,6 +6,7 @@
 #include "app/path_text.h"
 #include "sprites/sprite_source.h"
 #include "sprites/sprite_text.h"
+#include "support/files.h"
 #include "support/pictures.h"
 #include "support/run_tool.h"
 

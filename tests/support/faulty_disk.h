@@ -10,7 +10,7 @@
 #include <functional>
 #include <optional>
 
-#include "support/pictures.h"
+#include "support/files.h"
 
 namespace kelvo::support {
 

@@ -16,7 +16,7 @@
 #include "app/wait_pointer.h"
 #include "files/picture_files.h"
 #include "model/picture_views.h"
-#include "support/pictures.h"
+#include "support/files.h"
 
 namespace kelvo::support {
 

@@ -12,6 +12,7 @@
 #include "files/picture_format.h"
 #include "main_frame_fixture.h"
 #include "model/full_view.h"
+#include "support/pictures.h"
 #include "ui/frm_bmp_view.h"
 
 namespace kelvo::ui {

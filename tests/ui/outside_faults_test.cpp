@@ -9,6 +9,7 @@
 #include <random>
 
 #include "main_frame_fixture.h"
+#include "support/pictures.h"
 #include "ui/program_slot.h"
 #include "ui/qt_settings.h"
 #include "ui/qt_tool_runner.h"

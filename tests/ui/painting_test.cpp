@@ -3,6 +3,7 @@
 
 #include "editing/preferences.h"
 #include "main_frame_fixture.h"
+#include "support/pictures.h"
 
 namespace kelvo::ui {
 namespace {
