@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "app/path_text.h"
+#include "app/text.h"
 
 namespace kelvo::anim {
 namespace {

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "app/text.h"
+
 namespace kelvo::app {
 namespace {
 
@@ -36,13 +38,6 @@ std::string LowerExtension(std::string_view path) {
   const std::string name = FileNamePart(path);
   const auto dot = name.rfind('.');
   return dot == std::string::npos ? std::string() : ToLower(std::string_view(name).substr(dot));
-}
-
-std::string ToLower(std::string_view text) {
-  std::string lower(text);
-  std::transform(lower.begin(), lower.end(), lower.begin(),
-                 [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
-  return lower;
 }
 
 }  // namespace kelvo::app

@@ -20,7 +20,4 @@ std::string FileNamePart(std::string_view path);
 // The last `.` and what follows it, in lower case (ASCII letters); empty when the file name has none.
 std::string LowerExtension(std::string_view path);
 
-// `text` with its ASCII letters in lower case.
-std::string ToLower(std::string_view text);
-
 }  // namespace kelvo::app

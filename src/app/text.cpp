@@ -17,6 +17,13 @@ std::string ToUpper(std::string_view text) {
   return upper;
 }
 
+std::string ToLower(std::string_view text) {
+  std::string lower(text);
+  std::transform(lower.begin(), lower.end(), lower.begin(),
+                 [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
+  return lower;
+}
+
 std::string Without(std::string_view unwanted, std::string_view text) {
   std::string rest(text);
   std::erase_if(rest, [&](char c) { return unwanted.find(c) != std::string_view::npos; });

@@ -12,6 +12,7 @@
 #include "c64out/short_path.h"
 #include "c64out/vice_folder.h"
 #include "files/save_bitmap.h"
+#include "model/number_text.h"
 
 namespace kelvo::c64out {
 namespace {
@@ -45,17 +46,13 @@ void SavePicture(const BuildJob& job) {
   if (!trouble.empty()) with.log.Write("modVICEandCodenet_BuildCompoPic: " + trouble);
 }
 
-std::string ScreenColour(model::C64Colour background) {
-  constexpr std::string_view kDigits = "0123456789ABCDEF";
-  return {'0', kDigits[static_cast<std::size_t>(background.Number())]};
-}
-
 void FillViewer(const BuildJob& job) {
   const WorkFiles& files = job.Files();
   FillTemplate(job.System("bmpshow.src"), files.viewer_half_filled,
                {"[bitmap]", ShortPath(files.picture), job.Choice().ViaCodenet});
-  FillTemplate(files.viewer_half_filled, files.viewer_source,
-               {"[screencolor]", ScreenColour(job.Picture().picture.BackgroundColour), job.Choice().ViaCodenet});
+  FillTemplate(
+      files.viewer_half_filled, files.viewer_source,
+      {"[screencolor]", model::ToHex(job.Picture().picture.BackgroundColour.Number()), job.Choice().ViaCodenet});
   Remove(files.viewer_half_filled);
 }
 

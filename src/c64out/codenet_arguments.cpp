@@ -1,8 +1,9 @@
 #include "c64out/codenet_arguments.h"
 
 #include <algorithm>
-#include <charconv>
 #include <set>
+
+#include "app/text.h"
 
 namespace kelvo::c64out {
 namespace {
@@ -34,14 +35,6 @@ struct Option {
   throw UsageError(std::string(subject) + ": " + std::string(what));
 }
 
-template <typename Number>
-std::optional<Number> NumberIn(std::string_view digits, int base) {
-  Number number = 0;
-  const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number, base);
-  if (error != std::errc() || end != digits.data() + digits.size()) return std::nullopt;
-  return number;
-}
-
 std::uint16_t ReadAddress(const Option& option, Values& values) {
   const std::string& text = values.ValueOf(option.name, "an address such as $0801");
   const auto address = ParseC64Address(text);
@@ -56,7 +49,7 @@ void ReadHost(const Option& option, Values& values, CodenetArguments& arguments)
 
 void ReadPort(const Option& option, Values& values, CodenetArguments& arguments) {
   const std::string& text = values.ValueOf(option.name, "a port");
-  const auto port = NumberIn<std::uint16_t>(text, 10);
+  const auto port = app::WholeNumber<std::uint16_t>(text);
   if (!port || *port == 0) Fail(option.name, "\"" + text + "\" is no port; one is a number from 1 to 65535");
   arguments.port = *port;
 }
@@ -148,7 +141,7 @@ CodenetArguments ParseCodenetArguments(std::span<const std::string> arguments) {
 std::optional<std::uint16_t> ParseC64Address(std::string_view text) {
   constexpr std::size_t kLongest = 5;
   if (text.size() > kLongest || !text.starts_with('$')) return std::nullopt;
-  return NumberIn<std::uint16_t>(text.substr(1), 16);
+  return app::WholeNumber<std::uint16_t>(text.substr(1), 16);
 }
 
 bool IsHostText(std::string_view text) {

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "app/path_text.h"
 #include "app/text.h"
 #include "app/utf8.h"
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "app/path_text.h"
+#include "app/text.h"
 #include "app/utf8.h"
 #include "app/whole_file.h"
 #include "c64out/output_settings.h"

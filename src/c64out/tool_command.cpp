@@ -4,7 +4,6 @@
 #include <array>
 #include <stdexcept>
 
-#include "app/path_text.h"
 #include "app/text.h"
 
 namespace kelvo::c64out {

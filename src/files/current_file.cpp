@@ -1,6 +1,7 @@
 #include "files/current_file.h"
 
 #include "app/path_text.h"
+#include "app/text.h"
 #include "app/version.h"
 
 namespace kelvo::files {

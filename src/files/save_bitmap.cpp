@@ -1,6 +1,7 @@
 #include "files/save_bitmap.h"
 
 #include "app/path_text.h"
+#include "app/text.h"
 #include "app/utf8.h"
 #include "app/whole_file.h"
 #include "files/picture_format.h"
