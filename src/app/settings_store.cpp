@@ -5,8 +5,7 @@
 namespace kelvo::app {
 
 int ReadNumber(const SettingsStore& settings, const Setting& setting, int lowest, int highest) {
-  const std::string text = settings.Read(setting);
-  const auto stored = WholeNumber<int>(text);
+  const auto stored = WholeNumber<int>(settings.Read(setting));
   if (stored && *stored >= lowest && *stored <= highest) return *stored;
   return WholeNumber<int>(setting.default_value).value_or(lowest);
 }

@@ -1,6 +1,7 @@
 #include "app/text.h"
 
 #include <algorithm>
+#include <charconv>
 
 namespace kelvo::app {
 
@@ -29,5 +30,15 @@ std::string Without(std::string_view unwanted, std::string_view text) {
   std::erase_if(rest, [&](char c) { return unwanted.find(c) != std::string_view::npos; });
   return rest;
 }
+
+template <typename Number>
+std::optional<Number> WholeNumber(std::string_view text, int base) {
+  Number number = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number, base);
+  if (error != std::errc() || end != text.data() + text.size()) return std::nullopt;
+  return number;
+}
+template std::optional<int> WholeNumber(std::string_view text, int base);
+template std::optional<std::uint16_t> WholeNumber(std::string_view text, int base);
 
 }  // namespace kelvo::app

@@ -1,7 +1,7 @@
 // Small changes to texts, the same whatever the user's language: only ASCII letters have a case here.
 #pragma once
 
-#include <charconv>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -17,12 +17,9 @@ std::string ToLower(std::string_view text);
 
 // The whole number that all of `text` spells in `base`; nothing for any other text and one that `Number` cannot hold.
 template <typename Number>
-std::optional<Number> WholeNumber(std::string_view text, int base = 10) {
-  Number number = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number, base);
-  if (error != std::errc() || end != text.data() + text.size()) return std::nullopt;
-  return number;
-}
+std::optional<Number> WholeNumber(std::string_view text, int base = 10);
+extern template std::optional<int> WholeNumber(std::string_view text, int base);
+extern template std::optional<std::uint16_t> WholeNumber(std::string_view text, int base);
 
 // `text` without any of the characters in `unwanted`.
 std::string Without(std::string_view unwanted, std::string_view text);
