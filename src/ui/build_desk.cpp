@@ -56,7 +56,7 @@ c64out::BuildResult BuildDesk::BuildAlone(const c64out::CompoPicChoice& choice) 
 }
 
 c64out::BuildSurroundings BuildDesk::ForBuilds() const {
-  return {with_, runner_};
+  return {static_cast<const app::Surroundings&>(with_), runner_};
 }
 
 void BuildDesk::Stop() {
