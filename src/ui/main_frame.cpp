@@ -59,11 +59,11 @@ MainFrame::MainFrame(const app::ProgramFolders& folders, app::SettingsStore& set
       dialogs_(this),
       events_(pointer_),
       views_(*full_view_, *zoom_),
-      files_(document_, {folders, settings, clock, log_, messages_, prompt_, pointer_, dialogs_, *this, views_}),
+      files_(document_, {{folders, settings, clock, log_, messages_, prompt_}, pointer_, dialogs_, *this, views_}),
       desk_(document_, {views_, settings, messages_, events_, pointer_, log_},
             {*full_view_, *zoom_, *colors_, *pens_, *char_data_, *Toolbar1_}),
       animation_({settings, messages_, document_, files_}, *this, *full_view_, *zoom_),
-      builds_({folders, settings, clock, log_, messages_, prompt_, document_, files_, runner_}, this),
+      builds_({{folders, settings, clock, log_, messages_, prompt_}, document_, files_, runner_}, this),
       recovery_({folders, clock, log_, messages_, document_, files_}) {
   setObjectName("MDIFormMenu");
   area_->setObjectName("mdiArea");

@@ -60,7 +60,7 @@ struct Scene : support::Program {
   }
 
   bool Build(const CompoPicChoice& choice) {
-    const BuildSurroundings with{folders, settings, clock, log, messages, prompt, tools};
+    const BuildSurroundings with{{folders, settings, clock, log, messages, prompt}, tools};
     const BuildResult result = BuildCompoPic(document, choice, with);
     return (result.emulator ? ShowInEmulator(*result.emulator, with) : result.outcome) == BuildOutcome::kDone;
   }

@@ -132,7 +132,7 @@ struct Program {
   RecordingViews views;
   files::Document document;
   files::PictureFiles files{document,
-                            {folders, settings, clock, log, messages, prompt, pointer, dialogs, display, views}};
+                            {{folders, settings, clock, log, messages, prompt}, pointer, dialogs, display, views}};
 };
 
 }  // namespace kelvo::support
