@@ -1,5 +1,5 @@
 // A Qt program that shows an empty main window with four empty child windows: what any program like ours costs at
-// least.
+// least. The windows have titles, as any have: reading the fonts is a third of the time.
 #include <QApplication>
 #include <QMainWindow>
 #include <QMdiArea>
@@ -11,7 +11,9 @@ int main(int argc, char** argv) {
   auto* area = new QMdiArea;
   window.setCentralWidget(area);
   for (int child = 0; child < 4; ++child) {
-    area->addSubWindow(new QWidget)->setGeometry(child * 60, child * 60, 400, 300);
+    QMdiSubWindow* inside = area->addSubWindow(new QWidget);
+    inside->setWindowTitle("Empty");
+    inside->setGeometry(child * 60, child * 60, 400, 300);
   }
   window.setWindowTitle("empty-mdi");
   window.resize(1016, 700);
