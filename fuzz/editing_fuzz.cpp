@@ -114,12 +114,11 @@ class Session final : public app::Messages, public app::ProcessEvents {
         return Undo();
       case 8:
         painting_.Escape();
-        points_ = 0;
-        return;
+        return GiveUpShape();
       case 9:
+        Tick();
         painting_.ChooseTool(1 + input_.Below(7));
-        points_ = 0;
-        return;
+        return GiveUpShape();
       case 10:
         return SetPens();
       default:
@@ -150,6 +149,7 @@ class Session final : public app::Messages, public app::ProcessEvents {
     if (stroke && *stroke != event.button) return painting_.Press(event);
     const bool is_shape = tool == kLineTool || tool == kContinuousLineTool || tool == kCircleTool;
     const bool only_takes = tool == kMouseCopyTool && event.button == Button::kRight;
+    if (is_shape && points_ == 0) undo_before_shape_ = undo_;
     if (is_shape ? points_ == 0 : !only_takes) undo_ = before;
     if (is_shape) points_ = std::min(points_ + 1, 2);
     painting_.Press(event);
@@ -158,7 +158,15 @@ class Session final : public app::Messages, public app::ProcessEvents {
 
   void Tick() {
     painting_.Tick();
-    if (points_ == 2) points_ = painting_.ToolIndex() == kContinuousLineTool ? 1 : 0;
+    if (points_ != 2) return;
+    points_ = painting_.ToolIndex() == kContinuousLineTool ? 1 : 0;
+    undo_before_shape_.reset();
+  }
+
+  // What was drawn can be taken back; a shape of which nothing is drawn leaves the step before it.
+  void GiveUpShape() {
+    if (points_ > 0 && undo_before_shape_) undo_ = *undo_before_shape_;
+    points_ = 0;
   }
 
   void Undo() {
@@ -230,8 +238,9 @@ class Session final : public app::Messages, public app::ProcessEvents {
   support::FixedClock clock_;
   app::ErrorLog log_{"/dev/null", clock_};
   editing::Painting painting_{picture_, {views_, settings_, *this, *this, pointer_, log_}};
-  std::optional<PictureImage> undo_;  // what Undo has to bring back
-  int points_ = 0;                    // of the shape under way that are set
+  std::optional<PictureImage> undo_;                              // what Undo has to bring back
+  std::optional<std::optional<PictureImage>> undo_before_shape_;  // none: something of the shape is drawn
+  int points_ = 0;                                                // of the shape under way that are set
   int fills_ = 0;
   int processed_ = 0;
 };

@@ -1,5 +1,6 @@
 // Templates of the C64 output with any text in them and any name or path filled in.
 #include <algorithm>
+#include <optional>
 #include <stdexcept>
 
 #include "app/utf8.h"
@@ -40,6 +41,41 @@ void CheckViewer(const std::string& text, std::string_view placeholder, bool via
   Require(other && c64out::Replaced(*filled, mark, placeholder) == *other, "a replacement goes in as it is");
 }
 
+// What stands between the quotes of the only line that `filled` may have; nothing else may be in it.
+bool IsOneLiteral(std::string_view filled, char quote) {
+  if (!filled.starts_with(quote) || !filled.ends_with(quote + std::string("\r\n"))) return false;
+  return filled.substr(1, filled.size() - 4).find_first_of("\"'\r\n") == std::string_view::npos;
+}
+
+// A path that is filled in stays in its literal and as it is, also when the next placeholder is filled in.
+void CheckPath(const std::string& folder, char quote, bool via_codenet) {
+  const std::string name = "temp.kvp", path = c64out::PathInTemplate(folder + "/" + name);
+  const auto once = c64out::FilledTemplate(quote + std::string("[bitmap]") + quote, {"[bitmap]", path, via_codenet});
+  Require(once && IsOneLiteral(*once, quote), "a path stays in its literal");
+  Require(once->substr(1, once->size() - 4) == path, "a path goes in whole");
+  Require(!c64out::FilledTemplate(*once, {"[screencolor]", "00", via_codenet}), "a path holds no placeholder");
+  const auto more = c64out::FilledTemplate(*once + "[screencolor]", {"[screencolor]", "00", via_codenet});
+  Require(more && *more == *once + "00\r\n", "a path is no marker");
+  Require(path == folder + "/" + name || path == name, "a path leads to its file");
+}
+
+// A name as text stays in its literal or is refused; as numbers it is always the same line.
+void CheckName(const std::string& name, char quote) {
+  const auto filled = [&name](const std::string& line) -> std::optional<std::string> {
+    try {
+      return c64out::FilledSaver(line, name, 100);
+    } catch (const std::runtime_error&) {
+      return std::nullopt;
+    }
+  };
+  const auto text = filled(quote + std::string("[filename]") + quote);
+  Require(!text || IsOneLiteral(*text, quote), "a name stays in its literal");
+  const auto numbers = filled("[filename_bytes]");
+  if (!numbers) return;
+  Require(numbers->size() == 16 * 4 + 1, "a name is sixteen numbers");
+  Require(numbers->find_first_not_of("$,0123456789ABCDEF\r\n") == std::string::npos, "numbers are numbers");
+}
+
 void CheckSaver(const std::string& text, const std::string& name, std::uintmax_t program_size) {
   try {
     const std::string filled = c64out::FilledSaver(text, name, program_size);
@@ -49,7 +85,8 @@ void CheckSaver(const std::string& text, const std::string& name, std::uintmax_t
     Require(c64out::ToC64FileName(name).size() == app::CharactersOf(name).size(), "a byte for each character");
   } catch (const std::runtime_error&) {
     const bool has_control = std::any_of(name.begin(), name.end(), [](unsigned char c) { return c < ' '; });
-    Require(has_control || program_size + 2049 > 0xFFFF, "only these are refused");
+    const bool is_text = text.find("[filename]") != std::string::npos;
+    Require(has_control || is_text || program_size + 2049 > 0xFFFF, "only these are refused");
   }
 }
 
@@ -74,5 +111,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   fuzz::CheckNames(name);
   fuzz::CheckViewer(text, placeholder, via_codenet);
   fuzz::CheckSaver(text, name, program_size);
+  for (const char quote : {'"', '\''}) {
+    fuzz::CheckPath(name, quote, via_codenet);
+    fuzz::CheckPath(text, quote, via_codenet);
+    fuzz::CheckName(name, quote);
+  }
   return 0;
 }

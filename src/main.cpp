@@ -38,7 +38,7 @@ bool OnlyAsks(int argc, char** argv) {
 }
 
 void Parse(QCommandLineParser& parser, const QCoreApplication& application) {
-  parser.setApplicationDescription("Editor for Commodore 64 multicolour pictures.");
+  parser.setApplicationDescription("Editor for Commodore 64 multicolor pictures.");
   parser.addHelpOption();
   parser.addVersionOption();
   parser.addPositionalArgument("picture", "The picture to open (.kvp, .vid, .koa, .kla).", "[picture]");
@@ -56,14 +56,18 @@ kelvo::app::ProgramFolders FindFolders() {
 
 // Runs within the event loop, so that an end of the program also ends what is asked here. The window comes up even when
 // something goes wrong before it.
-void Begin(kelvo::ui::MainFrame& frame, const QStringList& pictures) {
+void Begin(kelvo::ui::MainFrame& frame, kelvo::app::Messages& messages, const QStringList& pictures) {
   {
     const auto show = qScopeGuard([&frame] { frame.show(); });
     frame.StartUp();
   }
   if (!frame.OfferRecovery() && !pictures.isEmpty()) {
     frame.Files().OpenPicture(FromQt(QFileInfo(pictures.first()).absoluteFilePath()));
+    if (pictures.size() > 1) {
+      messages.Inform("Kelvo opens one picture at a time: the first that is named, and no other.");
+    }
   }
+  frame.LookAtFolders();
 }
 
 }  // namespace
@@ -91,6 +95,6 @@ int main(int argc, char** argv) {
   };
   const kelvo::ui::SuddenEnd sudden_end([&frame] { frame.EndSuddenly(); });
   QMetaObject::invokeMethod(
-      &frame, [&] { Begin(frame, parser.positionalArguments()); }, Qt::QueuedConnection);
+      &frame, [&] { Begin(frame, messages, parser.positionalArguments()); }, Qt::QueuedConnection);
   return kelvo::ui::KelvoApplication::exec();
 }

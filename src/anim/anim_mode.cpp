@@ -48,6 +48,7 @@ void AnimMode::FrameWindowUnloaded(const FrameWindowPlace& place) {
 void AnimMode::Check(bool on) {
   checked_ = on;
   display_.ShowCheckMark(on);
+  SetAnimFlag(on);
 }
 
 // The folder is looked at last, on purpose: a folder that is missing is first heard of as a first frame that is

@@ -31,8 +31,8 @@ struct AnimSurroundings {
 };
 
 // The menu's check mark and the flag, which stands in the status bar alone, are two states, on purpose: the check mark
-// says whether the frame window is open, the flag what the command prompt set last. They may disagree until the menu
-// entry is used again.
+// says whether the frame window is open, and the flag follows it; but the command prompt can set the flag alone. Then
+// they disagree until the mode is switched again.
 class AnimMode final : public app::AnimationSwitch {
  public:
   AnimMode(const AnimSurroundings& with, AnimDisplay& display) : with_(with), display_(display) {}

@@ -105,7 +105,7 @@ std::string FrameNavigation::OfferToCreate(int number) {
 
 // A picture that is no frame is not touched here: opening a frame keeps a rescue copy of it.
 bool FrameNavigation::SaveChanges() {
-  return !CurrentFrame() || !with_.document.HasUnsavedWork() || with_.files.SaveTo("");
+  return !CurrentFrame() || !with_.document.HasUnsavedWork() || with_.files.SaveChanges();
 }
 
 }  // namespace kelvo::anim

@@ -7,7 +7,8 @@ class AnimationSwitch {
  public:
   virtual ~AnimationSwitch() = default;
 
-  // What the menu entry Animation mode does, with all its questions: its check mark tells how it ended.
+  // What the menu entry Animation mode does, with all its questions: its check mark tells how it ended, and the flag
+  // follows it.
   virtual void ToggleAnimMode() = 0;
   virtual bool IsAnimModeChecked() const = 0;
 

@@ -1,7 +1,8 @@
 #include "app/error_log.h"
 
 #include <algorithm>
-#include <fstream>
+
+#include "app/durable_file.h"
 
 namespace kelvo::app {
 
@@ -10,7 +11,7 @@ void ErrorLog::Write(std::string_view message) const {
   std::replace_if(
       line.begin(), line.end(), [](char c) { return c == '\n' || c == '\r'; }, ' ');
   line += '\n';
-  std::ofstream(file_, std::ios::app) << line;  // in one piece: several programs may share the log
+  AppendText(file_, line);  // in one piece: several programs may share the log
 }
 
 }  // namespace kelvo::app

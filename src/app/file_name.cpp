@@ -2,11 +2,12 @@
 
 #include <algorithm>
 #include <array>
-#include <string>
 #include <system_error>
 
+#include "app/folder_entries.h"
 #include "app/path_text.h"
 #include "app/text.h"
+#include "app/utf8.h"
 
 namespace kelvo::app {
 namespace {
@@ -37,14 +38,21 @@ bool IsPlainName(std::string_view name) {
 
 fs::path EntryOf(const fs::path& folder, std::string_view name) {
   fs::path exact = folder / PathFromText(name);
-  std::error_code error;
-  if (fs::exists(fs::symlink_status(exact, error))) return exact;
+  std::error_code ignored;
+  if (fs::exists(fs::symlink_status(exact, ignored))) return exact;
   const std::string wanted = ToLower(name);
   fs::path found;
-  for (fs::directory_iterator entry(folder, error), end; entry != end; entry.increment(error)) {
-    if (ToLower(TextFromPath(entry->path().filename())) == wanted) found = std::max(found, entry->path());
+  for (const fs::path& entry : EntriesOf(folder)) {
+    if (ToLower(TextFromPath(entry.filename())) == wanted) found = std::max(found, entry);
   }
   return found.empty() ? exact : found;
+}
+
+std::string FittingName(std::string_view stem, std::string_view ending) {
+  constexpr std::size_t kMostBytes = 255;
+  const std::size_t room = kMostBytes - std::min(ending.size(), kMostBytes);
+  for (std::size_t characters = room; stem.size() > room; --characters) stem = FirstCharacters(stem, characters);
+  return std::string(stem) + std::string(ending);
 }
 
 }  // namespace kelvo::app

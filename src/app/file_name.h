@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <string>
 #include <string_view>
 
 namespace kelvo::app {
@@ -14,5 +15,9 @@ bool IsPlainName(std::string_view name);
 // The entry of `folder` that is called `name`, whatever the case of its ASCII letters: the one of exactly that name if
 // there is one, else always the same one of several. `folder` / `name` when there is none or the folder cannot be read.
 std::filesystem::path EntryOf(const std::filesystem::path& folder, std::string_view name);
+
+// `stem` and `ending` as one name, the stem cut at a character so that the whole is no longer than the 255 bytes that
+// file systems take.
+std::string FittingName(std::string_view stem, std::string_view ending);
 
 }  // namespace kelvo::app

@@ -1,7 +1,6 @@
 #include "app/whole_file.h"
 
 #include <fstream>
-#include <random>
 #include <string>
 #include <system_error>
 
@@ -13,17 +12,28 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::uintmax_t kMostToCopy = 64U << 20;
-
 [[noreturn]] void Fail(const fs::path& file, const std::string& what) {
   throw FileError(TextFromPath(file) + ": " + what);
 }
 
-// The place that a chain of links names in the end, so that saving does not replace a link by a file.
+// The place that a chain of links names in the end, there or not, so that saving does not replace a link by a file.
 fs::path BehindLinks(const fs::path& file) {
-  std::error_code error;
-  const fs::path target = fs::is_symlink(file, error) ? fs::weakly_canonical(file, error) : file;
-  return error ? file : target;
+  constexpr int kMostLinks = 40;
+  fs::path target = file;
+  std::error_code ignored;
+  for (int links = 0; links < kMostLinks && fs::is_symlink(target, ignored); ++links) {
+    target = target.parent_path() / fs::read_symlink(target, ignored);
+  }
+  return target;
+}
+
+void RequireNoFolder(const fs::path& file) {
+  std::error_code ignored;
+  if (fs::is_directory(fs::symlink_status(file, ignored))) Fail(file, "this is a folder, not a file");
+}
+
+void Require(const std::error_code& error, const fs::path& file) {
+  if (error) Fail(file, "it cannot be written: " + error.message());
 }
 
 }  // namespace
@@ -54,20 +64,24 @@ Bytes ReadWholeFile(const fs::path& file, std::uintmax_t most) {
 
 void WriteWholeFile(const fs::path& file, std::span<const std::uint8_t> bytes, Flush flush) {
   const fs::path target = BehindLinks(file);
-  std::error_code error;
-  if (fs::is_directory(target, error)) Fail(file, "this is a folder, not a file");
-  const fs::path temporary = target.parent_path() / (".kelvo-" + std::to_string(std::random_device()()) + ".tmp");
-  error = WriteBytes(temporary, bytes, flush);
-  if (!error) error = RenameOver(temporary, target, flush);
-  if (error) {
-    std::error_code ignored;
-    fs::remove(temporary, ignored);
-    Fail(file, "it cannot be written: " + error.message());
-  }
+  RequireNoFolder(target);
+  Require(PlaceFile(target, bytes, {.flush = flush}), file);
+}
+
+void WriteOwnFile(const fs::path& file, std::span<const std::uint8_t> bytes, Flush flush) {
+  RequireNoFolder(file);
+  Require(PlaceFile(file, bytes, {.flush = flush, .is_private = true}), file);
+}
+
+bool MakeOwnFile(const fs::path& file, std::span<const std::uint8_t> bytes, Flush flush) {
+  const std::error_code error = PlaceFile(file, bytes, {.flush = flush, .is_private = true, .must_be_new = true});
+  if (error == std::errc::file_exists) return false;
+  Require(error, file);
+  return true;
 }
 
 void CopyWholeFile(const fs::path& from, const fs::path& to) {
-  WriteWholeFile(to, ReadWholeFile(from, kMostToCopy), Flush::kLater);
+  WriteWholeFile(to, ReadWholeFile(from, kMostBytesToCopy), Flush::kLater);
 }
 
 }  // namespace kelvo::app

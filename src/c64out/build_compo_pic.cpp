@@ -11,6 +11,7 @@
 #include "c64out/output_settings.h"
 #include "c64out/short_path.h"
 #include "c64out/vice_folder.h"
+#include "files/backups.h"
 #include "files/save_bitmap.h"
 #include "model/number_text.h"
 
@@ -39,9 +40,10 @@ void Begin(const BuildJob& job) {
 void SavePicture(const BuildJob& job) {
   const BuildSurroundings& with = job.With();
   files::Document copy = job.Picture();
-  copy.file.CurrentFilePath = app::TextFromPath(job.Files().picture);
+  Remove(job.Files().picture);  // what an earlier build left is no work of anybody's
   const std::string dialogs_folder = with.settings.Read(files::kFilePath);
-  const std::string trouble = files::SaveBitmap(copy, "", {with.folders, with.settings, with.clock});
+  const std::string trouble =
+      files::SaveBitmap(copy, app::TextFromPath(job.Files().picture), {with.folders, with.settings, with.clock});
   with.settings.Write(files::kFilePath, dialogs_folder);
   if (!trouble.empty()) with.log.Write("modVICEandCodenet_BuildCompoPic: " + trouble);
 }
@@ -49,7 +51,7 @@ void SavePicture(const BuildJob& job) {
 void FillViewer(const BuildJob& job) {
   const WorkFiles& files = job.Files();
   FillTemplate(job.System("bmpshow.src"), files.viewer_half_filled,
-               {"[bitmap]", ShortPath(files.picture), job.Choice().ViaCodenet});
+               {"[bitmap]", PathInTemplate(ShortPath(files.picture)), job.Choice().ViaCodenet});
   FillTemplate(
       files.viewer_half_filled, files.viewer_source,
       {"[screencolor]", model::ToHex(job.Picture().picture.BackgroundColour.Number()), job.Choice().ViaCodenet});
@@ -83,7 +85,7 @@ void Crush(const BuildJob& job) {
 void AddDepacker(const BuildJob& job) {
   const WorkFiles& files = job.Files();
   FillTemplate(job.System("decrush.tas"), files.depacker_source,
-               {"[packedfile]", ShortPath(files.viewer_packed), job.Choice().ViaCodenet});
+               {"[packedfile]", PathInTemplate(ShortPath(files.viewer_packed)), job.Choice().ViaCodenet});
   const std::string source = ShortPath(files.depacker_source);
   job.Make(files.program, job.System(ToolName("tass")), {source, WithEnding(source, "decrush.tmp", "bmpshow.prg")});
   Remove(files.viewer_packed);
@@ -104,8 +106,8 @@ void KeepForeignFile(const BuildJob& job, const std::filesystem::path& prg) {
   std::error_code error;
   if (!std::filesystem::is_regular_file(prg, error) || IsProgram(prg)) return;
   const BuildSurroundings& with = job.With();
-  const std::string name = job.BaseName() + "_" + app::BackupStamp(with.clock.Now()) + "_replaced.prg";
-  app::CopyWholeFile(prg, with.folders.Backup() / app::PathFromText(name));
+  files::Backups(with.folders, with.clock)
+      .Keep(app::ReadWholeFile(prg, app::kMostBytesToCopy), job.BaseName(), "_replaced", ".prg");
 }
 
 void KeepProgram(const BuildJob& job) {

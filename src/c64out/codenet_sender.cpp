@@ -31,16 +31,25 @@ void CodenetSender::WriteMemory(std::uint16_t address, std::span<const std::uint
     throw TransferError(std::to_string(bytes.size()) + " bytes at $" + model::ToHex(address, 4) + " run past $FFFF");
   }
   const app::ProgressScope scope(progress, static_cast<int>(bytes.size()));
-  for (std::size_t done = 0; done < bytes.size(); done += kMostData) {
-    progress.Advance(static_cast<int>(done));
-    const auto data = bytes.subspan(done, std::min(kMostData, bytes.size() - done));
-    const std::uint8_t sequence = NextSequence();
-    const Reply reply = Confirm(sequence, EncodeData(sequence, static_cast<std::uint16_t>(address + done), data));
-    if (reply == Reply::kRefused) throw TransferError("the C64 refuses the data; " + Confirmed(done, bytes.size()));
-    if (reply == Reply::kNone) throw TransferError("the C64 does not answer; " + Confirmed(done, bytes.size()));
+  std::size_t done = 0;
+  try {
+    for (; done < bytes.size(); done += kMostData) {
+      progress.Advance(static_cast<int>(done));
+      WriteData(static_cast<std::uint16_t>(address + done),
+                bytes.subspan(done, std::min(kMostData, bytes.size() - done)));
+    }
+    Settle();
+  } catch (const std::exception& error) {
+    throw TransferError(std::string(error.what()) + "; " + Confirmed(std::min(done, bytes.size()), bytes.size()));
   }
-  Settle();
   progress.Advance(static_cast<int>(bytes.size()));
+}
+
+void CodenetSender::WriteData(std::uint16_t address, std::span<const std::uint8_t> data) {
+  const std::uint8_t sequence = NextSequence();
+  const Reply reply = Confirm(sequence, EncodeData(sequence, address, data));
+  if (reply == Reply::kRefused) throw TransferError("the C64 refuses the data");
+  if (reply == Reply::kNone) throw TransferError("the C64 does not answer");
 }
 
 void CodenetSender::Jump(std::uint16_t address) {

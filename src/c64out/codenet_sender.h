@@ -35,15 +35,16 @@ struct Patience {
   std::chrono::microseconds packet_life = std::chrono::milliseconds(500);  // from sending to the answer's arrival
 };
 
-// Each call returns only when the C64 has confirmed all of it. Throws TransferError, also when a stop is wanted, and
-// what the socket throws.
+// Each call returns only when the C64 has confirmed all of it. Throws TransferError, also when a stop is wanted; a
+// start also throws what the socket throws.
 class CodenetSender {
  public:
   // `first_sequence` is best a random one, so that answers to an earlier transfer fit no packet of this one.
   CodenetSender(DatagramSocket& socket, const TransferWatch& watch, std::uint8_t first_sequence,
                 const Patience& patience = {});
 
-  // `bytes` must end at $FFFF or before; else nothing is sent. The progress counts bytes.
+  // `bytes` must end at $FFFF or before; else nothing is sent. The progress counts bytes. An error tells how many of
+  // them are confirmed.
   void WriteMemory(std::uint16_t address, std::span<const std::uint8_t> bytes, app::Progress& progress);
 
   // Leaves the C64's Codenet for the program at `address`, or for BASIC's RUN. A program must not start twice, and a
@@ -69,6 +70,7 @@ class CodenetSender {
     Time sent;
   };
 
+  void WriteData(std::uint16_t address, std::span<const std::uint8_t> data);
   std::uint8_t NextSequence();
   Reply Confirm(std::uint8_t sequence, std::span<const std::uint8_t> packet);
   void Start(std::uint8_t sequence, std::span<const std::uint8_t> packet);

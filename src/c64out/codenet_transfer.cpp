@@ -52,7 +52,7 @@ void SendTransfer(const CodenetTransfer& transfer, CodenetSender& sender, app::P
   sender.WriteMemory(transfer.address, transfer.bytes, progress);
   try {
     Start(transfer, sender);
-  } catch (const TransferError& error) {
+  } catch (const std::exception& error) {
     throw TransferError(std::string("the C64's memory is written; ") + error.what());
   }
 }

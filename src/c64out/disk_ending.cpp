@@ -16,10 +16,16 @@ namespace {
 
 constexpr std::size_t kNameCharacters = 16;
 
+#ifdef _WIN32
+constexpr std::string_view kNotInNames = ":,=*?\" ";  // a blank would end the argument
+#else
+constexpr std::string_view kNotInNames = ":,=*?\"";
+#endif
+
 // Refuses what c1541 takes for a command, and what a C64's disk system acts upon or cannot write.
 void RequireDiskName(const std::string& name) {
   const bool is_ascii = std::all_of(name.begin(), name.end(), [](char c) { return c >= ' ' && c <= '~'; });
-  if (is_ascii && name.find_first_of(":,=*?\"") == std::string::npos && name.find_first_of("-@$#&") != 0) return;
+  if (is_ascii && name.find_first_of(kNotInNames) == std::string::npos && name.find_first_of("-@$#&") != 0) return;
   throw std::runtime_error("c1541: a disk cannot hold the name " + name + "; set a PRG name in the VICE settings");
 }
 

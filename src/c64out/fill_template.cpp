@@ -9,6 +9,8 @@ namespace kelvo::c64out {
 namespace {
 
 constexpr std::string_view kNetworkOnly = "<CC>";
+constexpr std::string_view kEndsLiteral = "\"'\r\n";
+constexpr std::string_view kBeginsMark = "[<";  // a placeholder, or the marker of a line
 
 }  // namespace
 
@@ -23,6 +25,15 @@ std::optional<std::string> FilledTemplate(std::string_view text, const TemplateF
   }
   if (!is_found) return std::nullopt;
   return JoinedLines(filled);
+}
+
+bool FitsLiteral(std::string_view text) {
+  return text.find_first_of(kEndsLiteral) == std::string_view::npos;
+}
+
+std::string PathInTemplate(std::string_view path) {
+  const bool fits = FitsLiteral(path) && path.find_first_of(kBeginsMark) == std::string_view::npos;
+  return fits ? std::string(path) : app::FileNamePart(path);
 }
 
 void FillTemplate(const std::filesystem::path& source, const std::filesystem::path& destination,

@@ -19,8 +19,16 @@ struct TemplateFilling {
 // holds. Empty when no line that is left holds the placeholder.
 std::optional<std::string> FilledTemplate(std::string_view text, const TemplateFilling& filling);
 
-// The same from file to file. Throws app::FileError when a file cannot be read or written, and std::runtime_error for a
-// template without the placeholder; the destination is then not there.
+// False for a text that would leave a text literal, or its line, in an assembler source: one with a quote or a line
+// end.
+bool FitsLiteral(std::string_view text);
+
+// A path as a template gets it: its last part alone, which the assembler looks for beside its source, where the whole
+// path would leave its literal or look like a part of the template when that is filled in again.
+std::string PathInTemplate(std::string_view path);
+
+// FilledTemplate from file to file. Throws app::FileError when a file cannot be read or written, and std::runtime_error
+// for a template without the placeholder; the destination is then not there.
 void FillTemplate(const std::filesystem::path& source, const std::filesystem::path& destination,
                   const TemplateFilling& filling);
 

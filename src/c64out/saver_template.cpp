@@ -6,6 +6,7 @@
 
 #include "app/utf8.h"
 #include "c64out/codenet_protocol.h"
+#include "c64out/fill_template.h"
 #include "c64out/text_lines.h"
 #include "model/number_text.h"
 
@@ -19,7 +20,18 @@ struct Placeholder {
   std::string_view text;
   std::string replacement;
 };
-using Placeholders = std::array<Placeholder, 4>;
+using Placeholders = std::array<Placeholder, 5>;
+
+// The name as numbers, which no name can leave, filled up like the names in a disk's directory.
+std::string BytesOnDisk(std::string_view converted) {
+  constexpr std::uint8_t kFiller = 0xA0;
+  std::string numbers;
+  for (std::size_t i = 0; i < kLongestName; ++i) {
+    const std::uint8_t byte = i < converted.size() ? static_cast<std::uint8_t>(converted[i]) : kFiller;
+    numbers += ",$" + model::ToHex(byte);
+  }
+  return numbers.substr(1);
+}
 
 Placeholders PlaceholdersFor(std::string_view name, std::uintmax_t program_size) {
   if (program_size >= kMemorySize || SaverEndAddress(program_size) >= kMemorySize) {
@@ -27,16 +39,23 @@ Placeholders PlaceholdersFor(std::string_view name, std::uintmax_t program_size)
                              " bytes does not fit into the C64's memory");
   }
   const std::string end = model::ToHex(static_cast<int>(SaverEndAddress(program_size)), 4);
-  const auto length = static_cast<int>(std::min(kLongestName, app::CharactersOf(name).size()));
+  const std::string converted = ToC64FileName(name);
+  const auto length = static_cast<int>(std::min(kLongestName, converted.size()));
   return {{{"[filenamelen]", model::ToHex(length)},
-           {"[filename]", ToC64FileName(name)},
+           {"[filename]", converted},
            {"[end_low]", end.substr(2)},
-           {"[end_high]", end.substr(0, 2)}}};
+           {"[end_high]", end.substr(0, 2)},
+           {"[filename_bytes]", BytesOnDisk(converted)}}};
 }
 
 std::string Filled(const std::string& line, const Placeholders& placeholders) {
   for (const Placeholder& placeholder : placeholders) {
     if (line.find(placeholder.text) == std::string::npos) continue;
+    if (!FitsLiteral(placeholder.replacement)) {
+      throw std::runtime_error(
+          "the saver's template takes the name as text, which can hold none of -, *, B and G; set a "
+          "PRG name without them in the Codenet settings");
+    }
     return Replaced(line, placeholder.text, placeholder.replacement);
   }
   return line;

@@ -20,9 +20,10 @@ constexpr std::uintmax_t SaverEndAddress(std::uintmax_t program_size) {
 std::string ToC64FileName(std::string_view name);
 
 // `source` with its placeholders filled in, each line ended by CR LF. A line has all its placeholders of one kind
-// replaced, the first that it holds of "[filenamelen]" (two hexadecimal digits, at most 10), "[filename]",
-// "[end_low]" and "[end_high]" (two hexadecimal digits each). Throws std::runtime_error for a name that
-// ToC64FileName does not take, and for a program that ends past $FFFF.
+// replaced, the first that it holds of "[filenamelen]" (two hexadecimal digits, at most 10), "[filename]", "[end_low]",
+// "[end_high]" (two hexadecimal digits each) and "[filename_bytes]" (the name on the disk as 16 numbers with commas
+// between; those behind its end are $A0). Throws std::runtime_error for a name that ToC64FileName does not take, for a
+// "[filename]" that would get a text which FitsLiteral does not take, and for a program that ends past $FFFF.
 std::string FilledSaver(std::string_view source, std::string_view name, std::uintmax_t program_size);
 
 // The same from file to file. Throws app::FileError too.

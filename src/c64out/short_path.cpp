@@ -5,8 +5,7 @@
 #ifdef _WIN32
 #include <windows.h>
 
-#include <algorithm>
-#include <array>
+#include <stdexcept>
 #endif
 
 namespace kelvo::c64out {
@@ -14,9 +13,11 @@ namespace kelvo::c64out {
 #ifdef _WIN32
 
 std::string ShortPath(const std::filesystem::path& path) {
-  std::array<char, 255> buffer{};
-  const DWORD length = GetShortPathNameA(path.string().c_str(), buffer.data(), static_cast<DWORD>(buffer.size()));
-  return {buffer.data(), std::min<std::size_t>(length, buffer.size())};
+  std::wstring buffer(GetShortPathNameW(path.c_str(), nullptr, 0), L'\0');  // with room for the final zero
+  buffer.resize(GetShortPathNameW(path.c_str(), buffer.data(), static_cast<DWORD>(buffer.size())));
+  const std::string text = app::TextFromPath(buffer);
+  if (text.find_first_of(" \t,;=") == std::string::npos) return text;
+  throw std::runtime_error(text + ": a tool cannot be given this path, which has no short form on its disk");
 }
 
 #else

@@ -45,7 +45,7 @@ std::string ReadText(const std::filesystem::path& file) {
 }
 
 void WriteText(const std::filesystem::path& file, std::string_view text) {
-  app::WriteWholeFile(file, app::Bytes(text.begin(), text.end()), app::Flush::kLater);
+  app::WriteOwnFile(file, app::Bytes(text.begin(), text.end()));
 }
 
 }  // namespace kelvo::c64out

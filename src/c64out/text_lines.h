@@ -19,7 +19,8 @@ std::string JoinedLines(const Lines& lines);
 // `text` with every occurrence of `what`, which is not empty, replaced. The replacements are not looked at again.
 std::string Replaced(std::string_view text, std::string_view what, std::string_view replacement);
 
-// Whole text files. Both throw app::FileError, reading also for more than 1 MB.
+// Whole text files; those that are written are the program's own. Both throw app::FileError, reading also for more than
+// 1 MB.
 std::string ReadText(const std::filesystem::path& file);
 void WriteText(const std::filesystem::path& file, std::string_view text);
 

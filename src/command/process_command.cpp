@@ -112,7 +112,7 @@ void Load(Call& call) {
 void Reload(Call& call) {
   if (!call.with.document.file.HasFile()) return call.Fail(call.word, kNoCurrentFile);
   call.Reply("RELOAD");
-  call.with.files.Reload();
+  call.with.files.OpenPicture(call.with.document.file.CurrentFilePath, files::OnFailure::kPromptOnly);
 }
 
 void New(Call& call) {
@@ -125,7 +125,6 @@ void Anim(Call& call) {
   app::AnimationSwitch& animation = call.with.animation;
   if (call.argument.empty()) {
     animation.ToggleAnimMode();
-    animation.SetAnimFlag(animation.IsAnimModeChecked());
     call.Reply(animation.IsAnimModeChecked() ? "ANIM ON" : "ANIM OFF");
   } else if (call.argument == "ON" || call.argument == "OFF") {
     animation.SetAnimFlag(call.argument == "ON");
@@ -164,7 +163,7 @@ constexpr std::array kWords{
     Word{"HI", Say, "HI THERE, PIXEL PAINTER"},
     Word{"KELVO", Say, "AT YOUR SERVICE"},
     Word{"THANKS", Say, "THE PLEASURE IS MINE"},
-    Word{"BYE", Say, "SEE YOU IN 16 COLOURS"},
+    Word{"BYE", Say, "SEE YOU IN 16 COLORS"},
 };
 
 constexpr Word kAnyOther{"", Refuse};

@@ -1,24 +1,26 @@
 #include "editing/cell_tools.h"
 
+#include <utility>
+
 namespace kelvo::editing {
 
 PressResult CellTool::Press(const PointerEvent& event) {
   const std::string_view caption = UndoCaption(event.button);
   if (!caption.empty()) undo_.SaveUndoData(caption);
-  last_cell_ = 0;
-  ApplyAt(event.at, event.button);
+  ApplyAt(model::LookUpPixel(event.at.x, event.at.y), event.button);
   return PressResult::kStroke;
 }
 
 void CellTool::Drag(model::PixelPoint from, const PointerEvent& to) {
-  for (const model::PixelPoint& point : PathBetween(from, to.at)) ApplyAt(point, to.button);
+  int last_cell = 0;
+  for (const model::PixelPoint& point : PathBetween(from, to.at)) {
+    if (!model::IsInPicture(point.x, point.y)) continue;
+    const model::PixelPlace place = model::LookUpPixel(point.x, point.y);
+    if (std::exchange(last_cell, place.cell) != place.cell) ApplyAt(place, to.button);
+  }
 }
 
-void CellTool::ApplyAt(model::PixelPoint at, Button button) {
-  if (!model::IsInPicture(at.x, at.y)) return;
-  const model::PixelPlace place = model::LookUpPixel(at.x, at.y);
-  if (place.cell == last_cell_) return;
-  last_cell_ = place.cell;
+void CellTool::ApplyAt(const model::PixelPlace& place, Button button) {
   Apply(place, button);
   views_.CellChanged(place.cell);
 }

@@ -27,11 +27,10 @@ class CellTool : public Tool {
   model::PictureImage& picture_;
 
  private:
-  void ApplyAt(model::PixelPoint at, Button button);
+  void ApplyAt(const model::PixelPlace& place, Button button);
 
   model::PictureViews& views_;
   UndoStep& undo_;
-  int last_cell_ = 0;
 };
 
 // The right button takes a cell into the buffer, the left one puts the buffer into a cell.

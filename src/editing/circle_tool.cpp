@@ -4,7 +4,7 @@
 
 namespace kelvo::editing {
 
-void CircleTool::Choose() {
+void CircleTool::BeginAfresh() {
   centre_.reset();
   radius_.reset();
 }
@@ -19,11 +19,19 @@ PressResult CircleTool::Press(const PointerEvent& event) {
   return PressResult::kHandled;
 }
 
-void CircleTool::Tick() {
-  if (!radius_) return;
+bool CircleTool::Cancel() {
+  if (!centre_) return false;
+  undo_.Withdraw();
+  BeginAfresh();
+  return true;
+}
+
+bool CircleTool::Tick() {
+  if (!radius_) return false;
   const Points points = DrawCircle(*centre_, *radius_);
-  Choose();
+  BeginAfresh();
   plotter_.Plot(points, pens_.left);
+  return true;
 }
 
 Points CircleTool::Preview(model::PixelPoint pointer) const {

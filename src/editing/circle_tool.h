@@ -16,13 +16,14 @@ class CircleTool final : public Tool {
   CircleTool(Plotter& plotter, const Pens& pens, UndoStep& undo) : plotter_(plotter), pens_(pens), undo_(undo) {}
 
   std::string_view Prompt() const override { return centre_ ? "SET RADIUS POINT" : "SET CENTER POINT"; }
-  void Choose() override;
   PressResult Press(const PointerEvent& event) override;
-  void Tick() override;
-  void Cancel() override { Choose(); }
+  bool Tick() override;
+  bool Cancel() override;
   Points Preview(model::PixelPoint pointer) const override;
 
  private:
+  void BeginAfresh();
+
   Plotter& plotter_;
   const Pens& pens_;
   UndoStep& undo_;

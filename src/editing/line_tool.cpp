@@ -2,9 +2,10 @@
 
 namespace kelvo::editing {
 
-void LineTool::Choose() {
+void LineTool::BeginAfresh() {
   start_.reset();
   end_.reset();
+  has_segments_ = false;
   prompt_ = "SET STARTING POINT";
 }
 
@@ -18,19 +19,28 @@ PressResult LineTool::Press(const PointerEvent& event) {
   return PressResult::kHandled;
 }
 
-void LineTool::Tick() {
+bool LineTool::Cancel() {
+  if (!start_) return false;
+  if (!has_segments_) undo_.Withdraw();
+  BeginAfresh();
+  return true;
+}
+
+bool LineTool::Tick() {
   if (!end_) {
     if (start_) prompt_ = "SET ENDING POINT";
-    return;
+    return false;
   }
   const model::PixelPoint from = *start_, to = *end_;
   if (kind_ == LineKind::kSingle) {
-    Choose();
+    BeginAfresh();
   } else {
     start_ = to;
     end_.reset();
+    has_segments_ = true;
   }
   plotter_.Plot(DrawLine(from, to), pens_.left);
+  return true;
 }
 
 Points LineTool::Preview(model::PixelPoint pointer) const {

@@ -20,19 +20,21 @@ class LineTool final : public Tool {
       : kind_(kind), plotter_(plotter), pens_(pens), undo_(undo) {}
 
   std::string_view Prompt() const override { return prompt_; }
-  void Choose() override;
   PressResult Press(const PointerEvent& event) override;
-  void Tick() override;
-  void Cancel() override { Choose(); }
+  bool Tick() override;
+  bool Cancel() override;
   Points Preview(model::PixelPoint pointer) const override;
 
  private:
+  void BeginAfresh();
+
   LineKind kind_;
   Plotter& plotter_;
   const Pens& pens_;
   UndoStep& undo_;
   std::string_view prompt_ = "SET STARTING POINT";
   std::optional<model::PixelPoint> start_, end_;
+  bool has_segments_ = false;  // of the continuous line under way
 };
 
 }  // namespace kelvo::editing

@@ -56,8 +56,8 @@ void Painting::ChooseTool(int index) {
   Tick();  // a shape whose last point is set is drawn before the tool changes
   if (busy_) return;
   stroke_.reset();
+  Active().Cancel();
   index_ = index;
-  Active().Choose();
 }
 
 void Painting::Press(const PointerEvent& event) {
@@ -78,22 +78,20 @@ void Painting::Move(model::PixelPoint at, bool held) {
   Active().Drag(from, to);
 }
 
-void Painting::Tick() {
-  if (busy_) return;
+bool Painting::Tick() {
+  if (busy_) return false;
   const BusyScope busy(busy_);
-  Active().Tick();
+  return Active().Tick();
 }
 
 void Painting::Escape() {
-  if (busy_) return;
-  Active().Cancel();
-  ChooseTool(kDrawToolIndex);
+  if (!busy_ && !Active().Cancel()) ChooseTool(kDrawToolIndex);
 }
 
 void Painting::Undo() {
   if (busy_ || stroke_) return;
-  Active().Cancel();
   undo_.Undo();
+  Active().Cancel();
 }
 
 void Painting::Forget() {

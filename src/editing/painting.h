@@ -28,7 +28,7 @@ struct ToolRow {
   char key;  // chooses it
 };
 
-inline constexpr int kDrawToolIndex = 1;
+inline constexpr int kDrawToolIndex = 1, kBlockFillToolIndex = 7;
 
 std::span<const ToolRow> ToolTable();
 
@@ -57,9 +57,10 @@ class Painting {
   // `held`: the stroke's button is still down. Where it is not, its release was lost and the stroke ends.
   void Move(model::PixelPoint at, bool held);
   void Release() { stroke_.reset(); }
-  void Tick();
+  // True when a shape was drawn.
+  bool Tick();
 
-  // Takes back an unfinished shape and returns to Draw.
+  // Takes back an unfinished shape, whose tool stays chosen; where there is none, returns to Draw.
   void Escape();
   void Undo();
   // Another picture is in memory: nothing of the old one is left to undo or to finish.

@@ -28,19 +28,16 @@ class Tool {
   // What the status bar shows: the tool, or the point to set next.
   virtual std::string_view Prompt() const = 0;
 
-  // The tool was chosen: it begins afresh.
-  virtual void Choose() {}
-
   virtual PressResult Press(const PointerEvent& event) = 0;
 
   // The pointer moved on from `from` while the stroke lasts; the places in between were crossed.
   virtual void Drag([[maybe_unused]] model::PixelPoint from, [[maybe_unused]] const PointerEvent& to) {}
 
-  // The timer ticked, ten times a second.
-  virtual void Tick() {}
+  // The timer ticked, ten times a second. True when a shape was drawn.
+  virtual bool Tick() { return false; }
 
-  // Takes back an unfinished shape.
-  virtual void Cancel() {}
+  // Takes back an unfinished shape, and its undo step where nothing of it is drawn yet. False when there is none.
+  virtual bool Cancel() { return false; }
 
   // The points that a press at `pointer` would plot now.
   virtual Points Preview([[maybe_unused]] model::PixelPoint pointer) const { return {}; }

@@ -1,17 +1,27 @@
 #include "editing/undo_step.h"
 
+#include <utility>
+
 namespace kelvo::editing {
 
 void UndoStep::SaveUndoData(std::string_view caption) {
-  before_ = picture_;
-  caption_ = caption;
+  earlier_ = std::move(last_);
+  last_ = {picture_, std::string(caption)};
+}
+
+void UndoStep::Withdraw() {
+  last_ = std::exchange(earlier_, {});
+}
+
+void UndoStep::Forget() {
+  last_ = earlier_ = {};
 }
 
 void UndoStep::Undo() {
   if (!CanUndo()) return;
-  picture_.Bitmap = before_.Bitmap;
-  picture_.ColourMemory = before_.ColourMemory;
-  picture_.ScreenMemory = before_.ScreenMemory;
+  picture_.Bitmap = last_.before.Bitmap;
+  picture_.ColourMemory = last_.before.ColourMemory;
+  picture_.ScreenMemory = last_.before.ScreenMemory;
   Forget();
   views_.PictureChanged();
 }

@@ -20,17 +20,25 @@ class UndoStep {
   // Puts the snapshot back; nothing when there is none.
   void Undo();
 
-  // Another picture is in memory: the snapshot is none of its.
-  void Forget() { caption_.clear(); }
+  // The last action came to nothing: the step before it is back.
+  void Withdraw();
 
-  bool CanUndo() const { return !caption_.empty(); }
-  std::string Caption() const { return CanUndo() ? caption_ : "Undo"; }
+  // Another picture is in memory: the snapshot is none of its.
+  void Forget();
+
+  bool CanUndo() const { return !last_.caption.empty(); }
+  std::string Caption() const { return CanUndo() ? last_.caption : "Undo"; }
 
  private:
+  struct Step {
+    model::PictureImage before;
+    std::string caption;  // empty: nothing to undo
+  };
+
   model::PictureImage& picture_;
   model::PictureViews& views_;
-  model::PictureImage before_;
-  std::string caption_;  // empty: nothing to undo
+  Step last_;
+  Step earlier_;  // what the last one took the place of
 };
 
 }  // namespace kelvo::editing

@@ -1,6 +1,7 @@
 // The picture that is being edited, with the file it belongs to.
 #pragma once
 
+#include "app/whole_file.h"
 #include "files/current_file.h"
 #include "model/picture_image.h"
 
@@ -10,6 +11,7 @@ struct Document {
   model::PictureImage picture;
   model::PictureImage kept = picture;  // as it was last loaded, saved or begun
   CurrentFile file;
+  app::Bytes on_disk = {};  // what the file held when this program last read or wrote it; empty where that is not known
 
   bool HasUnsavedWork() const { return picture != kept; }
 };

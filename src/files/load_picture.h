@@ -3,13 +3,17 @@
 
 #include <string_view>
 
+#include "app/whole_file.h"
 #include "files/picture_format.h"
 #include "model/picture_image.h"
 
 namespace kelvo::files {
 
-// The picture in the file at `path`, read as `type`; `background` stays where the file carries none. Throws FormatError
-// for a file of another size, app::FileError for one that cannot be read.
+// The file at `path`, which `type` takes by its size. Throws FormatError for one of another size, app::FileError for
+// one that cannot be read.
+app::Bytes ReadPictureFile(std::string_view path, FormatType type);
+
+// The picture in that file; `background` stays where the file carries none.
 model::PictureImage LoadPicture(std::string_view path, FormatType type, model::C64Colour background);
 
 }  // namespace kelvo::files

@@ -1,8 +1,11 @@
 #include "files/picture_files.h"
 
+#include <utility>
+
 #include "app/path_text.h"
 #include "app/utf8.h"
 #include "app/whole_file.h"
+#include "files/backups.h"
 #include "files/load_picture.h"
 #include "files/picture_format.h"
 #include "files/rescue_copy.h"
@@ -48,27 +51,31 @@ bool PictureFiles::OpenPicture(std::string_view path, OnFailure on_failure) {
 
 bool PictureFiles::OpenAs(const std::string& path, FormatType type, OnFailure on_failure) {
   const app::WaitScope wait(with_.pointer);
-  const auto picture = Read(path, type, on_failure);
-  if (!picture || !MayThrowAwayPicture()) return false;
-  TakeOver(*picture, SetFileParameters(path));
+  auto read = Read(path, type, on_failure);
+  if (!read || !MayThrowAwayPicture()) return false;
+  TakeOver(std::move(*read));
   with_.prompt.CommandPromptList("LOAD " + document_.file.CurrentFileName);
   app::Guarded(with_.log, "MDIFormMenu_OpenPicture",
-               [&] { app::CopyWholeFile(app::PathFromText(path), with_.folders.Snapshot()); });
+               [&] { app::WriteOwnFile(with_.folders.Snapshot(), document_.on_disk); });
   recent_.Add(path);
   return true;
 }
 
-std::optional<model::PictureImage> PictureFiles::Read(const std::string& path, FormatType type, OnFailure on_failure) {
-  std::optional<model::PictureImage> picture;
+std::optional<Document> PictureFiles::Read(const std::string& path, FormatType type, OnFailure on_failure) {
+  std::optional<Document> read;
   app::Guarded(
       with_.log, "MDIFormMenu_LoadPicture",
-      [&] { picture = LoadPicture(path, type, document_.picture.BackgroundColour); },
+      [&] {
+        app::Bytes bytes = ReadPictureFile(path, type);
+        const auto picture = Decode(FormatOf(type), bytes, document_.picture.BackgroundColour);
+        read = {.picture = picture, .kept = picture, .file = SetFileParameters(path), .on_disk = std::move(bytes)};
+      },
       [&](const std::exception& error) {
         const bool wrong_size = dynamic_cast<const FormatError*>(&error) != nullptr;
         if (wrong_size && !FormatOf(type).size_message.empty()) return with_.messages.Inform(error.what());
         TellFailedLoad(path, error.what(), on_failure);
       });
-  return picture;
+  return read;
 }
 
 void PictureFiles::TellFailedLoad(std::string_view path, const std::string& why, OnFailure on_failure) {
@@ -76,9 +83,8 @@ void PictureFiles::TellFailedLoad(std::string_view path, const std::string& why,
   if (on_failure == OnFailure::kMessageBox) with_.messages.Warn(why);
 }
 
-void PictureFiles::TakeOver(const model::PictureImage& picture, const CurrentFile& file) {
-  document_.picture = document_.kept = picture;
-  document_.file = file;
+void PictureFiles::TakeOver(Document document) {
+  document_ = std::move(document);
   with_.display.PictureReplaced();
   with_.display.ShowFile(document_.file);
   with_.views.PictureChanged();
@@ -90,9 +96,9 @@ bool PictureFiles::Reload() {
 
 bool PictureFiles::Save() {
   if (!document_.file.HasFile()) return SaveAs();
-  if (!MayWrite(document_.file.CurrentFilePath, document_.file.CurrentFilePath)) return false;
+  if (!MayReplace(document_.file.CurrentFilePath, document_.file.CurrentFilePath)) return false;
   with_.prompt.CommandPromptList("SAVE " + document_.file.CurrentFileName);
-  return SaveTo("");
+  return Write(document_.file.CurrentFilePath);
 }
 
 bool PictureFiles::SaveAs() {
@@ -101,16 +107,40 @@ bool PictureFiles::SaveAs() {
   const auto chosen = with_.dialogs.SaveAs(proposal);
   if (!chosen) return false;
   const std::string path = WithExtension(*chosen);
-  return MayWrite(path, *chosen) && SaveTo(path);
+  return MayReplace(path, *chosen) && Write(path);
 }
 
-// Saving under `path` may write another file than the one that was chosen: none is replaced unasked.
-bool PictureFiles::MayWrite(const std::string& path, const std::string& chosen) {
+bool PictureFiles::SaveChanges() {
+  return SaveTo(document_.file.CurrentFilePath);
+}
+
+bool PictureFiles::SaveTo(const std::string& path) {
+  return MayReplace(path, path) && Write(path);
+}
+
+// Saving under `path` may write another file than the one that was chosen.
+bool PictureFiles::MayReplace(const std::string& path, const std::string& chosen) {
   const std::string target = path.size() < kExtensionSize ? path : SavedName(path);
-  return target == chosen || !IsThere(target) || with_.messages.Ask(target + " exists already. Replace it?");
+  if (!IsThere(target)) return true;
+  if (target == document_.file.CurrentFilePath && IsChangedElsewhere()) {
+    return with_.messages.Ask(target + " was changed by another program. Replace it?\n" +
+                              "What that program wrote is kept in the BACKUP folder.");
+  }
+  std::error_code ignored;
+  if (fs::equivalent(app::PathFromText(target), app::PathFromText(chosen), ignored)) return true;
+  return with_.messages.Ask(target + " exists already. Replace it?");
 }
 
-bool PictureFiles::SaveTo(std::string_view path) {
+bool PictureFiles::IsChangedElsewhere() const {
+  try {
+    const std::filesystem::path file = app::PathFromText(document_.file.CurrentFilePath);
+    return !document_.on_disk.empty() && app::ReadWholeFile(file, app::kMostBytesToCopy) != document_.on_disk;
+  } catch (const app::FileError&) {
+    return false;  // it is gone, or saving tells what is wrong with it
+  }
+}
+
+bool PictureFiles::Write(const std::string& path) {
   const app::WaitScope wait(with_.pointer);
   std::string trouble;
   const bool saved = app::Guarded(
@@ -132,14 +162,20 @@ bool PictureFiles::SaveTo(std::string_view path) {
 
 void PictureFiles::New() {
   if (!MayThrowAwayPicture()) return;
-  TakeOver({.BackgroundColour = document_.picture.BackgroundColour}, {});
+  const model::PictureImage empty{.BackgroundColour = document_.picture.BackgroundColour};
+  TakeOver({.picture = empty, .kept = empty, .file = {}});
   with_.prompt.CommandPromptList("NEW");
 }
 
 bool PictureFiles::Recover(const Document& rescued) {
   if (!MayThrowAwayPicture()) return false;
-  TakeOver(rescued.picture, rescued.file);
-  document_.kept = {};
+  Document recovered{.picture = rescued.picture, .kept = {}, .file = rescued.file};
+  if (IsThere(recovered.file.CurrentFilePath)) {
+    app::Guarded(with_.log, "MDIFormMenu_Recover", [&] {
+      recovered.on_disk = app::ReadWholeFile(app::PathFromText(recovered.file.CurrentFilePath), app::kMostBytesToCopy);
+    });
+  }
+  TakeOver(std::move(recovered));
   return true;
 }
 
@@ -148,6 +184,12 @@ bool PictureFiles::MayClose() {
   const app::UnsavedAnswer answer =
       with_.messages.AskUnsaved("The picture " + StatusName(document_.file) + " has unsaved changes.");
   return answer == app::UnsavedAnswer::kDiscard || (answer == app::UnsavedAnswer::kSave && Save());
+}
+
+void PictureFiles::ThinBackups() {
+  app::Guarded(with_.log, "MDIFormMenu_ThinBackups", [this] {
+    Backups(with_.folders, with_.clock).Thin(app::ReadNumber(with_.settings, kKeepBackupsDays, 0, kMostBackupDays));
+  });
 }
 
 void PictureFiles::OpenRecent(std::string_view path) {

@@ -41,10 +41,16 @@ class PictureFiles {
   // Opens the current file again, without asking. False without a current file.
   bool Reload();
 
-  // True when the picture is on the disk. Save on a picture that has no file yet is SaveAs.
+  // True when the picture is on the disk. Save on a picture that has no file yet is SaveAs; SaveChanges is Save without
+  // its line in the prompt. What stands at the place already is never replaced unasked, but for the current file as
+  // this program knows it and for just the name that the save dialog gave.
   bool Save();
   bool SaveAs();
-  bool SaveTo(std::string_view path);
+  bool SaveChanges();
+  bool SaveTo(const std::string& path);
+
+  // Whether another program changed the current file since this one last read or wrote it.
+  bool IsChangedElsewhere() const;
 
   // An empty picture without a file; the background colour stays.
   void New();
@@ -55,6 +61,9 @@ class PictureFiles {
   // True when the program may end: nothing is unsaved, or the user saved it or gave it up.
   bool MayClose();
 
+  // Removes backups that nobody would miss, as the settings say.
+  void ThinBackups();
+
   std::vector<std::string> RecentPaths() const { return recent_.Paths(); }
   // Opens a path of the recent list; one that is gone is passed over in silence.
   void OpenRecent(std::string_view path);
@@ -64,11 +73,13 @@ class PictureFiles {
 
  private:
   bool OpenAs(const std::string& path, FormatType type, OnFailure on_failure);
-  std::optional<model::PictureImage> Read(const std::string& path, FormatType type, OnFailure on_failure);
+  std::optional<Document> Read(const std::string& path, FormatType type, OnFailure on_failure);
   void TellFailedLoad(std::string_view path, const std::string& why, OnFailure on_failure);
-  void TakeOver(const model::PictureImage& picture, const CurrentFile& file);
+  // The picture becomes that of `document`, with nothing left to save.
+  void TakeOver(Document document);
   bool MayThrowAwayPicture();
-  bool MayWrite(const std::string& path, const std::string& chosen);
+  bool MayReplace(const std::string& path, const std::string& chosen);
+  bool Write(const std::string& path);
 
   Document& document_;
   FileSurroundings with_;

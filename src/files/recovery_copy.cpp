@@ -1,5 +1,7 @@
 #include "files/recovery_copy.h"
 
+#include <algorithm>
+
 #include "app/path_text.h"
 #include "app/whole_file.h"
 #include "files/load_picture.h"
@@ -16,9 +18,9 @@ constexpr app::Flush kFlush = app::Flush::kLater;
 
 }  // namespace
 
-RecoveryFiles::RecoveryFiles(const app::ProgramFolders& folders, int slot)
-    : picture(folders.Backup() / ("recovery_" + std::to_string(slot) + ".kvp")),
-      name(folders.Backup() / ("recovery_" + std::to_string(slot) + ".txt")) {}
+RecoveryFiles::RecoveryFiles(const std::filesystem::path& folder, int slot)
+    : picture(folder / ("recovery_" + std::to_string(slot) + ".kvp")),
+      name(folder / ("recovery_" + std::to_string(slot) + ".txt")) {}
 
 std::optional<Document> RecoveryFiles::Read() const {
   try {
@@ -32,34 +34,60 @@ std::optional<Document> RecoveryFiles::Read() const {
   }
 }
 
-void RecoveryFiles::Remove() const {
+bool RecoveryFiles::Remove() const {
   std::error_code ignored;
   std::filesystem::remove(picture, ignored);
   std::filesystem::remove(name, ignored);
+  return !std::filesystem::exists(picture, ignored);
 }
 
 void RecoveryCopy::Keep(Time now) {
   if (!document_.HasUnsavedWork()) return Remove();
   if (last_try_ && now - *last_try_ < kBetweenCopies) return;
-  if (is_there_ && written_ == document_.picture) return;
+  if (written_ == document_.picture) return;
   last_try_ = now;
   KeepNow();
 }
 
 void RecoveryCopy::KeepNow() {
   if (!document_.HasUnsavedWork()) return Remove();
+  std::string why = "there is no place for it";
+  for (Place& place : places_) {
+    try {
+      place.is_used = true;
+      Write(place.files);
+      written_ = document_.picture;
+      return RemoveBut(&place);
+    } catch (const app::FileError& error) {
+      why = error.what();
+    }
+  }
+  throw app::FileError(why);
+}
+
+void RecoveryCopy::Write(const RecoveryFiles& files) const {
   const std::string& path = document_.file.CurrentFilePath;
-  app::WriteWholeFile(files_.name, {reinterpret_cast<const std::uint8_t*>(path.data()), path.size()}, kFlush);
+  app::WriteOwnFile(files.name, {reinterpret_cast<const std::uint8_t*>(path.data()), path.size()}, kFlush);
   model::PictureImage signed_picture = document_.picture;
   Sign(signed_picture);
-  app::WriteWholeFile(files_.picture, Encode(signed_picture), kFlush);
-  written_ = document_.picture;
-  is_there_ = true;
+  app::WriteOwnFile(files.picture, Encode(signed_picture), kFlush);
 }
 
 void RecoveryCopy::Remove() {
-  if (is_there_) files_.Remove();
-  is_there_ = false;
+  RemoveBut(nullptr);
+  written_.reset();
+  last_try_.reset();
+}
+
+bool RecoveryCopy::IsIn(const RecoveryFiles& files) const {
+  return std::any_of(places_.begin(), places_.end(),
+                     [&](const Place& place) { return place.is_used && place.files.picture == files.picture; });
+}
+
+void RecoveryCopy::RemoveBut(const Place* newest) {
+  for (Place& place : places_) {
+    if (&place != newest && place.is_used) place.is_used = !place.files.Remove();
+  }
 }
 
 }  // namespace kelvo::files

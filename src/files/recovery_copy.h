@@ -5,20 +5,20 @@
 #include <filesystem>
 #include <optional>
 #include <utility>
+#include <vector>
 
-#include "app/program_folders.h"
 #include "files/document.h"
 
 namespace kelvo::files {
 
-// Two files in BACKUP: the picture in the own format, and the path of the file it belongs to.
+// Two files in a folder: the picture in the own format, and the path of the file it belongs to.
 struct RecoveryFiles {
-  // `slot` tells apart the programs that share a program folder, from 1.
-  RecoveryFiles(const app::ProgramFolders& folders, int slot);
+  // `slot` tells apart the programs that share the folder, from 1.
+  RecoveryFiles(const std::filesystem::path& folder, int slot);
 
   // What is kept there; empty when there is nothing that can be read.
   std::optional<Document> Read() const;
-  void Remove() const;
+  bool Remove() const;  // true when the copy is gone
 
   std::filesystem::path picture, name;
 };
@@ -28,22 +28,34 @@ class RecoveryCopy {
   using Time = std::chrono::steady_clock::time_point;
 
   // `document` outlives the copy.
-  RecoveryCopy(const Document& document, RecoveryFiles files) : document_(document), files_(std::move(files)) {}
+  explicit RecoveryCopy(const Document& document) : document_(document) {}
 
-  // Brings the copy up to date: writes unsaved work that has changed, at most once a minute, and removes the copy of
-  // work that was saved or thrown away. Cheap enough to be called often. Throws app::FileError when the copy could not
-  // be written; the next try is a minute later.
+  // Another place for the copy, for when it cannot be written to those that were added before.
+  void AddPlace(RecoveryFiles files) { places_.push_back({std::move(files)}); }
+
+  // Brings the copy up to date: writes unsaved work at once when it begins, then at most once a minute while it
+  // changes, and removes the copy of work that was saved or thrown away. Cheap enough to be called often. Throws
+  // app::FileError when the copy could be written nowhere; the next try is a minute later.
   void Keep(Time now);
   // The same at once, when the program has to end.
   void KeepNow();
   // The user saved the work or gave it up.
   void Remove();
 
+  // Whether the copy lies in just these files now.
+  bool IsIn(const RecoveryFiles& files) const;
+
  private:
+  struct Place {
+    RecoveryFiles files;
+    bool is_used = false;
+  };
+  void Write(const RecoveryFiles& files) const;
+  void RemoveBut(const Place* newest);
+
   const Document& document_;
-  RecoveryFiles files_;
-  model::PictureImage written_;
-  bool is_there_ = false;
+  std::vector<Place> places_;
+  std::optional<model::PictureImage> written_;  // what the copy holds; empty where there is none
   std::optional<Time> last_try_;
 };
 

@@ -1,9 +1,13 @@
 #include "files/save_bitmap.h"
 
+#include <utility>
+
+#include "app/durable_file.h"
 #include "app/path_text.h"
 #include "app/text.h"
 #include "app/utf8.h"
 #include "app/whole_file.h"
+#include "files/backups.h"
 #include "files/picture_format.h"
 
 namespace kelvo::files {
@@ -26,11 +30,10 @@ std::string NameForBackup(const std::string& name) {
   return app::ToLower(name).starts_with(kDrive) ? name.substr(kDrive.size()) : name;
 }
 
-void BackUpSnapshot(const CurrentFile& file, const SavePlaces& places) {
+// The bytes of a file; empty where there is none.
+app::Bytes BytesOf(const fs::path& file) {
   std::error_code ignored;
-  if (!file.HasFile() || !fs::exists(places.folders.Snapshot(), ignored)) return;
-  const std::string name = NameForBackup(file.CurrentFileName) + "_" + app::BackupStamp(places.clock.Now()) + ".prg";
-  app::CopyWholeFile(places.folders.Snapshot(), places.folders.Backup() / app::PathFromText(name));
+  return fs::exists(file, ignored) ? app::ReadWholeFile(file, app::kMostBytesToCopy) : app::Bytes();
 }
 
 template <typename Step>
@@ -42,6 +45,24 @@ void Collect(std::string& troubles, Step&& step) {
   }
 }
 
+// Keeps the snapshot, and what else stands in `file`: a build's copy takes the snapshot's place, so even this program's
+// own last state may be another. Only what this program did not put there itself must be kept before it may go.
+void KeepWhatGoes(const Document& document, const fs::path& file, const app::Bytes& written, const SavePlaces& places,
+                  std::string& troubles) {
+  const Backups backups(places.folders, places.clock);
+  const CurrentFile& before = document.file;
+  app::Bytes snapshot;
+  Collect(troubles, [&] {
+    if (before.HasFile()) snapshot = BytesOf(places.folders.Snapshot());
+    if (snapshot.empty()) return;
+    backups.KeepSnapshot(snapshot, {before.CurrentFilePath, NameForBackup(before.CurrentFileName)});
+  });
+  const app::Bytes standing = BytesOf(file);
+  if (standing.empty() || standing == snapshot || standing == written) return;
+  const auto keep = [&] { backups.Keep(standing, app::TextFromPath(file.filename()), "_replaced", kEnding); };
+  standing == document.on_disk ? Collect(troubles, keep) : keep();
+}
+
 }  // namespace
 
 std::string SavedName(std::string_view path) {
@@ -51,17 +72,20 @@ std::string SavedName(std::string_view path) {
 
 std::string SaveBitmap(Document& document, std::string_view path, const SavePlaces& places) {
   const std::string target = SavedName(path.empty() ? document.file.CurrentFilePath : path);
+  const fs::path file = app::PathFromText(target);
   model::PictureImage picture = document.picture;
   Sign(picture);
-  app::WriteWholeFile(app::PathFromText(target), Encode(picture));
-
-  document.picture = document.kept = picture;
-  const CurrentFile before = document.file;
-  document.file = SetFileParameters(target);
-  places.settings.Write(kFilePath, app::FolderPart(before.HasFile() ? before.CurrentFilePath : target));
+  const app::Bytes written = Encode(picture);
   std::string troubles;
-  Collect(troubles, [&] { BackUpSnapshot(before, places); });
-  Collect(troubles, [&] { app::CopyWholeFile(app::PathFromText(target), places.folders.Snapshot()); });
+  KeepWhatGoes(document, file, written, places, troubles);
+  app::WriteWholeFile(file, written);
+
+  const CurrentFile before = std::exchange(document.file, SetFileParameters(target));
+  document.picture = document.kept = picture;
+  document.on_disk = written;
+  places.settings.Write(kFilePath, app::FolderPart(before.HasFile() ? before.CurrentFilePath : target));
+  Collect(troubles, [&] { app::WriteOwnFile(places.folders.Snapshot(), written); });
+  app::SweepTemporaryFiles(file.has_parent_path() ? file.parent_path() : ".");
   return troubles;
 }
 

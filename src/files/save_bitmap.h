@@ -25,10 +25,14 @@ struct SavePlaces {
 };
 
 // Writes the picture to SavedName(`path`), an empty path meaning the current file, and makes that the current file. The
-// signature and the background stay in the picture's spare screen bytes. The snapshot of the last load or save goes
-// into the BACKUP folder under the old name with the time, and the new file becomes the snapshot. Throws app::FileError
-// when the picture could not be written: then nothing has changed. Gives what went wrong with the backup or the
-// snapshot after the picture was written, else an empty text.
+// signature and the background stay in the picture's spare screen bytes.
+//
+// Nothing that is replaced is lost, whenever the program ends: first the snapshot of the last load or save goes into
+// the BACKUP folder under the old name with the time, then what else stands at the target (another program's, or
+// another picture's) goes there as "_replaced"; then the file is written, and it becomes the snapshot. Throws
+// app::FileError when the picture could not be written, or what another program left there could not be kept: then the
+// picture and the file are as they were. Gives what went wrong with the backup or the snapshot of a picture that was
+// written, else an empty text.
 std::string SaveBitmap(Document& document, std::string_view path, const SavePlaces& places);
 
 }  // namespace kelvo::files

@@ -2,6 +2,7 @@
 
 #include <QScopedValueRollback>
 #include <array>
+#include <utility>
 
 #include "anim/anim_settings.h"
 #include "ui/qt_text.h"
@@ -72,8 +73,8 @@ void AnimationDesk::MakeFrameWindow() {
   connect(frame_window_, &frmAnim::KeyReleased, this, &AnimationDesk::KeyReleased);
   connect(frame_window_, &frmAnim::Closed, this, [this](QPoint at) {
     StopPlay();
-    frame_window_->deleteLater();
-    frame_window_ = nullptr;
+    frame_window_->disconnect(this);  // until it is deleted it may be closed again
+    std::exchange(frame_window_, nullptr)->deleteLater();
     zoom_.SetOnionSkin(std::nullopt);
     mode_.FrameWindowUnloaded({at.x(), at.y()});
   });

@@ -1,18 +1,13 @@
 #include "ui/application.h"
 
-#include <QIcon>
 #include <exception>
 
-// The icons lie in a static library, so they register only when asked to; the macro must stand in no namespace.
-static void RegisterIcons() {
-  Q_INIT_RESOURCE(icons);
-}
+#include "ui/icons.h"
 
 namespace kelvo::ui {
 
 KelvoApplication::KelvoApplication(int& argc, char** argv) : QApplication(argc, argv) {
-  RegisterIcons();
-  setWindowIcon(QIcon(":/icons/kelvo.svg"));
+  setWindowIcon(IconNamed("kelvo"));
 }
 
 bool KelvoApplication::notify(QObject* receiver, QEvent* event) {

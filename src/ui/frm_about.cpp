@@ -2,11 +2,11 @@
 
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
-#include <QIcon>
 #include <QLabel>
 #include <QVBoxLayout>
 
 #include "app/version.h"
+#include "ui/icons.h"
 #include "ui/qt_text.h"
 
 namespace kelvo::ui {
@@ -15,13 +15,13 @@ frmAbout::frmAbout(QWidget* parent) : QDialog(parent) {
   setObjectName("frmAbout");
   setWindowTitle("About Kelvo");
   auto* icon = new QLabel(this);
-  icon->setPixmap(QIcon(":/icons/kelvo.svg").pixmap(64, 64));
+  icon->setPixmap(IconNamed("kelvo").pixmap(64, 64));
   icon->setAlignment(Qt::AlignTop);
   auto* text = new QLabel(
       "<h2>Kelvo " + ToQt(app::kVersionWord) +
           "</h2>"
-          "<p>An editor for Commodore 64 multicolour pictures:<br>160 × 200 pixels in 40 × 25 cells, each with the "
-          "picture's<br>background colour and three colours of its own.</p>"
+          "<p>An editor for Commodore 64 multicolor pictures:<br>160 × 200 pixels in 40 × 25 cells, each with the "
+          "picture's<br>background color and three colors of its own.</p>"
           "<p>By the Kelvo developers. Free software under the MIT licence.</p>",
       this);
   text->setTextFormat(Qt::RichText);

@@ -2,11 +2,10 @@
 
 #include <QCloseEvent>
 #include <QHBoxLayout>
-#include <QIntValidator>
+#include <QRegularExpressionValidator>
 #include <QVBoxLayout>
 
 #include "anim/anim_settings.h"
-#include "anim/frame_names.h"
 
 namespace kelvo::ui {
 namespace {
@@ -75,7 +74,7 @@ QWidget* frmAnim::MakeNumber() {
   label->setBuddy(txtFrame_);
   txtFrame_->setObjectName("txtFrame");
   txtFrame_->setAccessibleName("Current frame");
-  txtFrame_->setValidator(new QIntValidator(anim::kFirstFrame, anim::kLastFrame, txtFrame_));
+  txtFrame_->setValidator(new QRegularExpressionValidator(QRegularExpression("[0-9]{0,4}"), txtFrame_));
   txtFrame_->setFixedWidth(fontMetrics().horizontalAdvance("00000000"));
   count_->setObjectName("lblCount");
   connect(txtFrame_, &QLineEdit::returnPressed, this, [this] { emit NumberTyped(txtFrame_->text()); });

@@ -17,6 +17,7 @@
 #include "model/palette.h"
 #include "sprites/sprite_source.h"
 #include "sprites/sprite_view.h"
+#include "ui/qt_file_dialogs.h"
 #include "ui/qt_messages.h"
 #include "ui/qt_text.h"
 
@@ -116,9 +117,9 @@ QWidget* frmBMP2SpriteMain::MakeSide() {
   picSprite_->setAccessibleName("Captured sprites");
   picSprite_->setFocusPolicy(Qt::NoFocus);
   column->addWidget(picSprite_);
-  auto* colours = new QGroupBox("Colours", side);
+  auto* colours = new QGroupBox("Colors", side);
   auto* form = new QFormLayout(colours);
-  for (int number = 1; number <= 3; ++number) form->addRow(QString("Colour &%1").arg(number), MakeColourList(number));
+  for (int number = 1; number <= 3; ++number) form->addRow(QString("Color &%1").arg(number), MakeColourList(number));
   column->addWidget(colours);
   auto* notation = new QGroupBox("Output", side);
   auto* options = new QHBoxLayout(notation);
@@ -139,7 +140,7 @@ QWidget* frmBMP2SpriteMain::MakeSide() {
 QComboBox* frmBMP2SpriteMain::MakeColourList(int number) {
   auto* list = new QComboBox(this);
   list->setObjectName(QString("cboCol%1").arg(number));
-  list->setAccessibleName(QString("Colour %1").arg(number));
+  list->setAccessibleName(QString("Color %1").arg(number));
   for (int colour = 0; colour < model::C64Colour::kCount; ++colour) {
     list->addItem(SwatchOf(colour), kColourNames[static_cast<std::size_t>(colour)], colour);
   }
@@ -149,8 +150,8 @@ QComboBox* frmBMP2SpriteMain::MakeColourList(int number) {
 }
 
 void frmBMP2SpriteMain::AskForSource() {
-  const QString path =
-      QFileDialog::getOpenFileName(this, "Select file", folder_, "Pictures (*.kvp *.lmp *.vid *.prg);;All files (*)");
+  const QString path = QFileDialog::getOpenFileName(this, "Select file", StillThere(folder_),
+                                                    "Pictures (*.kvp *.lmp *.vid *.prg);;All files (*)");
   if (path.isEmpty()) return;
   folder_ = QFileInfo(path).absolutePath();
   OpenSource(path);

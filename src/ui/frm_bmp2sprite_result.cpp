@@ -11,6 +11,7 @@
 #include <QSaveFile>
 #include <QVBoxLayout>
 
+#include "ui/qt_file_dialogs.h"
 #include "ui/qt_messages.h"
 #include "ui/qt_text.h"
 
@@ -48,8 +49,9 @@ void frmBMP2SpriteResult::Copy() const {
 }
 
 void frmBMP2SpriteResult::Save() {
-  const QString path = QFileDialog::getSaveFileName(this, "Save sprite output", QDir(folder_).filePath("sprite.asm"),
-                                                    "Assembler source (*.asm *.txt);;All files (*)");
+  const QString path =
+      QFileDialog::getSaveFileName(this, "Save sprite output", QDir(StillThere(folder_)).filePath("sprite.asm"),
+                                   "Assembler source (*.asm *.txt);;All files (*)");
   if (path.isEmpty()) return;
   folder_ = QFileInfo(path).absolutePath();
   SaveTo(path);

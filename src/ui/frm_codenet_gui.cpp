@@ -10,6 +10,7 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include "ui/qt_file_dialogs.h"
 #include "ui/qt_text.h"
 
 namespace kelvo::ui {
@@ -73,6 +74,9 @@ frmCodenetGUI::frmCodenetGUI(const Surroundings& with, QWidget* parent)
     connect(group, &QButtonGroup::idToggled, this, &frmCodenetGUI::Compose);
   }
   connect(chkStd_, &QCheckBox::toggled, this, &frmCodenetGUI::Compose);
+  connect(&with_.runner, &QtToolRunner::Told, this, [this](const QString& line) {
+    if (is_sending_) outcome_->setText("Sending... " + line);
+  });
   Load(c64out::LoadCodenetForm(with_.settings));
   text_[kFile]->setFocus();
 }
@@ -215,7 +219,7 @@ void frmCodenetGUI::Compose() {
   TrimTo(*text_[kPort], ToQt(form.port));
   TrimTo(*text_[kDestination], ToQt(form.destination));
   TrimTo(*text_[kHost], ToQt(form.host));
-  const c64out::ComposedOptions composed = c64out::ComposeOptions(form, QFileInfo::exists(ToQt(form.file)));
+  const c64out::ComposedOptions composed = c64out::ComposeOptions(form, QFileInfo(ToQt(form.file)).isFile());
   text_[kPreview]->setText("codenet.exe " + ToQt(composed.options));
   QPalette colours = palette();
   if (composed.incomplete) colours.setColor(QPalette::Text, QColor(255, 0, 0));
@@ -231,7 +235,7 @@ void frmCodenetGUI::Compose() {
 }
 
 void frmCodenetGUI::Browse() {
-  const QString file = QFileDialog::getOpenFileName(this, "File to send to C64", text_[kFile]->text(),
+  const QString file = QFileDialog::getOpenFileName(this, "File to send to C64", StillThere(text_[kFile]->text()),
                                                     "PRG-files (*.prg);;All files (*.*)");
   if (!file.isEmpty()) text_[kFile]->setText(file);
 }

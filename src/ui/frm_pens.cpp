@@ -1,9 +1,10 @@
 #include "ui/frm_pens.h"
 
 #include <QHBoxLayout>
-#include <QIcon>
 #include <QLabel>
 #include <QToolButton>
+
+#include "ui/icons.h"
 
 namespace kelvo::ui {
 namespace {
@@ -19,7 +20,7 @@ model::C64Colour Step(model::C64Colour colour, Qt::MouseButton button, Qt::Keybo
 frmPens::PenRow frmPens::MakeRow(const char* object_name) {
   const PenRow pen{new SwatchButton(this), new QLabel(this)};
   pen.swatch->setObjectName(object_name);
-  pen.swatch->setAccessibleDescription("A click takes the next colour, with Shift the one before.");
+  pen.swatch->setAccessibleDescription("A click takes the next color, with Shift the one before.");
   pen.swatch->setStatusTip(pen.swatch->accessibleDescription());
   pen.name->setMinimumWidth(pen.name->fontMetrics().horizontalAdvance("R: Middle gray "));
   layout()->addWidget(pen.swatch);
@@ -36,7 +37,7 @@ frmPens::frmPens(QWidget* parent) : QWidget(parent) {
   right_ = MakeRow("RightPen");
   auto* swap = new QToolButton(this);
   swap->setObjectName("cmdSwap");
-  swap->setIcon(QIcon(":/icons/swap.svg"));
+  swap->setIcon(IconNamed("swap"));
   swap->setToolTip("Swap the pens");
   swap->setAccessibleName("Swap the pens");
   row->addWidget(swap);

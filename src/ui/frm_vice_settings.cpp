@@ -5,6 +5,7 @@
 
 #include "c64out/output_settings.h"
 #include "c64out/vice_folder.h"
+#include "ui/qt_file_dialogs.h"
 #include "ui/qt_text.h"
 
 namespace kelvo::ui {
@@ -22,7 +23,7 @@ frmViceSettings::frmViceSettings(app::SettingsStore& settings, app::Messages& me
 }
 
 void frmViceSettings::Browse() {
-  const QString folder = QFileDialog::getExistingDirectory(this, "VICE path", path_->text());
+  const QString folder = QFileDialog::getExistingDirectory(this, "VICE path", StillThere(path_->text()));
   if (!folder.isEmpty()) path_->setText(folder);
 }
 

@@ -46,7 +46,7 @@ class frmZoom : public QWidget {
   // Pointer events on the picture box, in pixels of the zoom surface.
   void Pressed(QPoint at, Qt::MouseButton button);
   void Moved(QPoint at, Qt::MouseButtons buttons);
-  void Released(QPoint at, Qt::MouseButton button);
+  void Released(Qt::MouseButton button);
 
  private:
   template <typename Change>

@@ -1,5 +1,6 @@
 #include "ui/main_frame.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDragEnterEvent>
@@ -8,10 +9,12 @@
 #include <QMenuBar>
 #include <QMimeData>
 #include <QStatusBar>
+#include <algorithm>
 
 #include "app/path_text.h"
 #include "command/process_command.h"
 #include "editing/preferences.h"
+#include "files/backups.h"
 #include "model/palette.h"
 #include "ui/frm_about.h"
 #include "ui/frm_fullscreen.h"
@@ -22,8 +25,11 @@
 namespace kelvo::ui {
 namespace {
 
-constexpr int kTimerMilliseconds = 100, kWordMilliseconds = 5000;
+constexpr int kTimerMilliseconds = 100, kWordMilliseconds = 5000, kWarningMilliseconds = 30000;
 constexpr QSize kFirstSize(1016, 720);
+// Those that Escape leaves.
+constexpr std::array kSideWindows{ChildWindowId::kColors, ChildWindowId::kPens, ChildWindowId::kCharData,
+                                  ChildWindowId::kPrompt};
 
 model::C64Colour ColourNumber(int number) {
   return model::C64Colour::FromNumber(number).value_or(model::C64Colour());
@@ -37,12 +43,19 @@ QStringList ColourCaptions() {
   return captions;
 }
 
+// The folders as they are when the program first locks something there.
+const app::ProgramFolders& MadeFolders(const app::ProgramFolders& folders) {
+  folders.Create();
+  return folders;
+}
+
 }  // namespace
 
 MainFrame::MainFrame(const app::ProgramFolders& folders, app::SettingsStore& settings, const app::Clock& clock)
-    : folders_(folders),
+    : slot_(MadeFolders(folders).System()),
+      folders_(folders.Root(), slot_.Number().value_or(kMostPrograms + 1)),
       settings_(settings),
-      log_(folders.ErrorLogFile(), clock),
+      log_(folders_.ErrorLogFile(), clock),
       area_(new QMdiArea(this)),
       full_view_(new frmBMPView(document_.picture, this)),
       colors_(new frmColors(this)),
@@ -59,12 +72,12 @@ MainFrame::MainFrame(const app::ProgramFolders& folders, app::SettingsStore& set
       dialogs_(this),
       events_(pointer_),
       views_(*full_view_, *zoom_),
-      files_(document_, {{folders, settings, clock, log_, messages_, prompt_}, pointer_, dialogs_, *this, views_}),
+      files_(document_, {{folders_, settings, clock, log_, messages_, prompt_}, pointer_, dialogs_, *this, views_}),
       desk_(document_, {views_, settings, messages_, events_, pointer_, log_},
             {*full_view_, *zoom_, *colors_, *pens_, *char_data_, *Toolbar1_}),
       animation_({settings, messages_, document_, files_}, *this, *full_view_, *zoom_),
-      builds_({{folders, settings, clock, log_, messages_, prompt_}, document_, files_, runner_}, this),
-      recovery_({folders, clock, log_, messages_, document_, files_}) {
+      builds_({{folders_, settings, clock, log_, messages_, prompt_}, document_, files_, runner_}, this),
+      recovery_({folders_, clock, log_, messages_, document_, files_, slot_}) {
   setObjectName("MDIFormMenu");
   area_->setObjectName("mdiArea");
   setCentralWidget(area_);
@@ -79,6 +92,13 @@ MainFrame::MainFrame(const app::ProgramFolders& folders, app::SettingsStore& set
   ConnectBuilds();
   Timer1_->setObjectName("Timer1");
   connect(Timer1_, &QTimer::timeout, this, &MainFrame::Timer1_Timer);
+  connect(&recovery_, &RecoveryDesk::Word, this,
+          [this](const QString& word) { statusBar()->showMessage(word, kWarningMilliseconds); });
+  connect(&file_watch_, &FileWatch::Touched, this, [this] {
+    if (files_.IsChangedElsewhere()) {
+      statusBar()->showMessage("The file was changed elsewhere: Reload?", kWarningMilliseconds);
+    }
+  });
 }
 
 void MainFrame::MakeChildren() {
@@ -192,6 +212,8 @@ void MainFrame::ProcessCommand(const QString& line) {
 
 void MainFrame::ShowPaintingState() {
   panels_.Show(StatusPanel::kTool, ToQt(desk_.Painting().Prompt()));
+  const bool fills_blocks = desk_.Painting().ToolIndex() == editing::kBlockFillToolIndex;
+  panels_.Show(StatusPanel::kBlockFill, fills_blocks ? "BF=ON" : "BF=OFF");
   QAction* undo = menu_.Action("mnuUndo");
   undo->setText("&" + ToQt(desk_.Painting().UndoData().Caption()));
   undo->setEnabled(desk_.Painting().UndoData().CanUndo());
@@ -204,13 +226,20 @@ void MainFrame::StartUp() {
   Timer1_->start(kTimerMilliseconds);
   ShowFile(document_.file);
   builds_.LookForVice();
-  folders_.Create();
   std::error_code ignored;
   std::filesystem::remove(folders_.Snapshot(), ignored);  // so that the first save makes no backup
   views_.PictureChanged();
   ArrangeWindows();
   RestorePlaces(settings_, *this, children_);
   RefreshMenus();
+}
+
+void MainFrame::LookAtFolders() {
+  if (const auto folder = folders_.FindReadOnly()) {
+    messages_.Warn("Kelvo cannot write to its folder " + app::TextFromPath(*folder) +
+                   ".\nPictures can be painted and saved, but backups, rescue copies or builds fail.");
+  }
+  files_.ThinBackups();
 }
 
 void MainFrame::SetMagnification(int magnification) {
@@ -280,13 +309,16 @@ void MainFrame::ShowFile(const files::CurrentFile& file) {
   setWindowTitle(ToQt(files::WindowTitle(file)));
   panels_.Show(StatusPanel::kFile, ToQt(files::StatusName(file)));
   animation_.FileChanged();
+  file_watch_.Follow(ToQt(file.CurrentFilePath));
   RefreshMenus();
 }
 
 void MainFrame::ShowPreferences() {
   SettingsDialog dialog(settings_, "frmPreferences", "Preferences", this);
-  dialog.AddCheckBox(editing::k4thColReplaces, "4th char color replaces selected color");
-  dialog.AddCheckBox(editing::kReplaceLeastUsedColWhenFilling, "Replace least used color when filling");
+  dialog.AddCheckBox(editing::k4thColReplaces, "&4th char color replaces selected color");
+  dialog.AddCheckBox(editing::kReplaceLeastUsedColWhenFilling, "&Replace least used color when filling");
+  dialog.AddNumber(files::kKeepBackupsDays, files::kMostBackupDays, "Days that every &backup is kept:", "for ever",
+                   "Of the days before those the last backup of each picture stays");
   dialog.exec();
 }
 
@@ -303,13 +335,19 @@ void MainFrame::Timer1_Timer() {
 
 void MainFrame::keyReleaseEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Escape && builds_.IsBuilding()) return builds_.Stop();
-  const QWidget* focus = focusWidget();
-  const bool in_tool_window =
-      colors_->isAncestorOf(focus) || char_data_->isAncestorOf(focus) || pens_->isAncestorOf(focus);
-  if (event->key() == Qt::Key_Escape && in_tool_window) return GiveFocusToPicture();
+  if (event->key() == Qt::Key_Escape && IsInSideWindow(focusWidget())) return GiveFocusToPicture();
+  const bool is_arrow = event->key() >= Qt::Key_Left && event->key() <= Qt::Key_Down;
+  if (is_arrow && qobject_cast<QAbstractButton*>(focusWidget()) != nullptr) return;  // it led from button to button
   // Ctrl+R with Ctrl let go first is still Ctrl+R, not the pen of R.
   const Qt::KeyboardModifiers modifiers = event->modifiers() | keys_.HeldAtPress(event->key());
   if (!desk_.HandleKeyUp(event->key(), modifiers)) QMainWindow::keyReleaseEvent(event);
+}
+
+bool MainFrame::IsInSideWindow(const QWidget* widget) const {
+  return std::any_of(kSideWindows.begin(), kSideWindows.end(), [&](ChildWindowId id) {
+    const QMdiSubWindow* window = children_[static_cast<std::size_t>(id)].window;
+    return window == widget || window->isAncestorOf(widget);  // one without a field of its own has the focus itself
+  });
 }
 
 void MainFrame::changeEvent(QEvent* event) {
@@ -334,6 +372,7 @@ void MainFrame::closeEvent(QCloseEvent* event) {
   KeepPlaces(settings_, *this, children_);
   animation_.UnloadFrameWindow();
   StopTools();
+  Timer1_->stop();  // a tick would keep the work that was given up
   recovery_.Remove();
   event->accept();
 }

@@ -15,6 +15,7 @@
 #include "ui/child_window.h"
 #include "ui/choice_menu.h"
 #include "ui/event_pump.h"
+#include "ui/file_watch.h"
 #include "ui/frm_bmp2sprite_main.h"
 #include "ui/frm_bmp_view.h"
 #include "ui/frm_char_data.h"
@@ -28,6 +29,7 @@
 #include "ui/paint_tool_bar.h"
 #include "ui/painting_desk.h"
 #include "ui/picture_windows.h"
+#include "ui/program_slot.h"
 #include "ui/prompt_lines.h"
 #include "ui/qt_file_dialogs.h"
 #include "ui/qt_messages.h"
@@ -47,7 +49,7 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   Q_OBJECT
 
  public:
-  // All three outlive the window.
+  // The settings and the clock outlive the window.
   MainFrame(const app::ProgramFolders& folders, app::SettingsStore& settings, const app::Clock& clock);
 
   // What happens once, before the window is first shown: settings, folders, timer, texts.
@@ -55,6 +57,8 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
 
   // Offers unsaved work that an earlier run left behind; true when the user took it up.
   bool OfferRecovery() { return recovery_.Offer(); }
+  // What has time until the window is there: says what cannot be written, and removes backups that nobody would miss.
+  void LookAtFolders();
   // The program has to end without asking: unsaved work and tools are seen to.
   void EndSuddenly();
 
@@ -108,6 +112,7 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   void BuildEnded(c64out::BuildOutcome outcome);
   void StopTools();
   void GiveFocusToPicture();
+  bool IsInSideWindow(const QWidget* widget) const;
   void MakeChoiceMenus();
   void MakeRecentMenu();
   void ConnectDesk();
@@ -115,7 +120,8 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   void RefreshMenus();
   void Timer1_Timer();
 
-  const app::ProgramFolders& folders_;
+  ProgramSlot slot_;
+  app::ProgramFolders folders_;  // with this program's number
   app::SettingsStore& settings_;
   app::ErrorLog log_;
   files::Document document_;
@@ -152,6 +158,7 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   QtToolRunner runner_;
   BuildDesk builds_;
   RecoveryDesk recovery_;
+  FileWatch file_watch_;
   frmBMP2SpriteMain* sprite_converter_ = nullptr;  // made when it is first asked for
   frmCodenetGUI* codenet_gui_ = nullptr;           // likewise
 };

@@ -2,6 +2,7 @@
 
 #include <QMenuBar>
 
+#include "ui/icons.h"
 #include "ui/main_frame.h"
 #include "ui/menu_table.h"
 
@@ -27,7 +28,7 @@ MainMenu::MainMenu(MainFrame& frame) : frame_(frame) {
       action->setObjectName(entry.name);
       action->setShortcut(QKeySequence(entry.key));
       action->setStatusTip(entry.tip);
-      if (entry.icon != nullptr) action->setIcon(QIcon(QString(":/icons/%1.svg").arg(entry.icon)));
+      if (entry.icon != nullptr) action->setIcon(IconNamed(entry.icon));
       action->setCheckable(entry.is_checked != nullptr);
       QObject::connect(action, &QAction::triggered, &frame, [&frame, this, run = entry.run] {
         run(frame);

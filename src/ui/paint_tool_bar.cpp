@@ -2,6 +2,7 @@
 
 #include "editing/painting.h"
 #include "model/cell_view.h"
+#include "ui/icons.h"
 #include "ui/qt_text.h"
 
 namespace kelvo::ui {
@@ -21,7 +22,7 @@ PaintToolBar::PaintToolBar(QWidget* parent)
   int index = 0;
   for (const editing::ToolRow& row : editing::ToolTable()) {
     ++index;
-    QAction* action = addAction(QIcon(":/icons/" + ToQt(row.name) + ".svg"), ToQt(row.caption));
+    QAction* action = addAction(IconNamed(ToQt(row.name)), ToQt(row.caption));
     action->setObjectName("tool_" + ToQt(row.name));
     action->setCheckable(true);
     action->setToolTip(QString("%1 (%2)").arg(ToQt(row.caption)).arg(QChar(row.key)));

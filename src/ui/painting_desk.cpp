@@ -55,7 +55,7 @@ PaintingDesk::PaintingDesk(files::Document& document, const editing::PaintingPor
 void PaintingDesk::ConnectZoom() {
   connect(&windows_.zoom, &frmZoom::Pressed, this, &PaintingDesk::Press);
   connect(&windows_.zoom, &frmZoom::Moved, this, &PaintingDesk::Move);
-  connect(&windows_.zoom, &frmZoom::Released, this, [this](QPoint, Qt::MouseButton button) {
+  connect(&windows_.zoom, &frmZoom::Released, this, [this](Qt::MouseButton button) {
     const auto stroke = painting_.StrokeButton();
     if (stroke && QtButton(*stroke) == button) painting_.Release();
     ActionDone();
@@ -85,10 +85,14 @@ void PaintingDesk::Press(QPoint at, Qt::MouseButton button) {
 void PaintingDesk::Move(QPoint at, Qt::MouseButtons buttons) {
   windows_.full_view.ShowPlainCaption();
   const model::PixelPoint point = windows_.zoom.Area().PixelAt(at.x(), at.y());
-  if (model::IsInPicture(point.x, point.y)) PointAt(point);
   const auto stroke = painting_.StrokeButton();
   if (stroke) painting_.Move(point, buttons.testFlag(QtButton(*stroke)));
-  windows_.zoom.ShowPreview(painting_.Preview(point), painting_.PenColours().left);
+  if (model::IsInPicture(point.x, point.y)) PointAt(point);
+  ShowPreview(point);
+}
+
+void PaintingDesk::ShowPreview(model::PixelPoint pointer) {
+  windows_.zoom.ShowPreview(painting_.Preview(pointer), painting_.PenColours().left);
 }
 
 // A hand moves the pointer up to a thousand times a second; what shows it follows once a display frame.
@@ -108,36 +112,32 @@ void PaintingDesk::ShowPointer() {
 }
 
 void PaintingDesk::ActionDone() {
+  windows_.toolbar.ShowTool(painting_.ToolIndex());
   windows_.toolbar.ShowCopy(painting_.CopyBuffer(), document_.picture.BackgroundColour);
+  ShowPreview(pointer_);
   ShowPointer();
   emit StateChanged();
 }
 
 void PaintingDesk::ChooseTool(int index) {
   painting_.ChooseTool(index);
-  windows_.toolbar.ShowTool(painting_.ToolIndex());
-  windows_.zoom.ShowPreview({}, {});
   ActionDone();
 }
 
 void PaintingDesk::Undo() {
   painting_.Undo();
-  windows_.zoom.ShowPreview({}, {});
   ActionDone();
 }
 
 void PaintingDesk::Tick() {
   const auto prompt = painting_.Prompt();
-  painting_.Tick();
-  if (painting_.Prompt() == prompt) return;
-  windows_.zoom.ShowPreview(painting_.Preview(pointer_), painting_.PenColours().left);
-  ActionDone();
+  if (painting_.Tick() || painting_.Prompt() != prompt) ActionDone();
 }
 
 bool PaintingDesk::HandleKeyUp(int key, Qt::KeyboardModifiers modifiers) {
   if (key == Qt::Key_Escape) {
     painting_.Escape();
-    ChooseTool(painting_.ToolIndex());
+    ActionDone();
     return true;
   }
   if (MoveZoomArea(key, modifiers)) return true;
@@ -182,6 +182,7 @@ void PaintingDesk::ShowCell(int cell) {
 
 void PaintingDesk::OptimizeBackgroundColor() {
   optimise::OptimizeBackgroundColor(document_.picture, windows_.full_view.Progress(), *this);
+  windows_.char_data.Show(model::LookUpPixel(pointer_.x, pointer_.y));
   views_.PictureChanged();
 }
 
@@ -191,7 +192,6 @@ void PaintingDesk::OptimizeForEORVector() {
 
 void PaintingDesk::PictureReplaced() {
   painting_.Forget();
-  windows_.zoom.ShowPreview({}, {});
   ShowColours();
 }
 

@@ -68,6 +68,7 @@ class PaintingDesk : public QObject, private optimise::CellDisplay {
   void Move(QPoint at, Qt::MouseButtons buttons);
   void PointAt(model::PixelPoint at);
   void ShowPointer();
+  void ShowPreview(model::PixelPoint pointer);
   void SetLeftPen(model::C64Colour colour);
   void SetRightPen(model::C64Colour colour);
   bool MoveZoomArea(int key, Qt::KeyboardModifiers modifiers);

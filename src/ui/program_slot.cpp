@@ -1,26 +1,41 @@
 #include "ui/program_slot.h"
 
 #include <QLockFile>
+#include <utility>
 
 #include "app/path_text.h"
 #include "ui/qt_text.h"
 
 namespace kelvo::ui {
-ProgramSlot::ProgramSlot(const app::ProgramFolders& folders) : folders_(folders) {
-  folders.Create();
-  for (int number = 1; number <= kMostPrograms && !lock_; ++number) {
-    lock_ = TryLock(number);
-    if (lock_) number_ = number;
+namespace {
+
+std::unique_ptr<QLockFile> LockOf(const std::filesystem::path& folder, int number) {
+  const std::string name = "running_" + std::to_string(number) + ".lock";
+  auto lock = std::make_unique<QLockFile>(ToQt(app::TextFromPath(folder / name)));
+  lock->setStaleLockTime(0);  // a lock is void only when its program is gone, however old it is
+  return lock;
+}
+
+}  // namespace
+
+ProgramSlot::ProgramSlot(std::filesystem::path folder, const std::function<bool(int)>& may_take)
+    : folder_(std::move(folder)) {
+  for (int number = 1; number <= kMostPrograms; ++number) {
+    if (!may_take(number)) continue;
+    auto lock = LockOf(folder_, number);
+    if (lock->tryLock(0)) {
+      lock_ = std::move(lock);
+      number_ = number;
+      return;
+    }
+    if (lock->error() != QLockFile::LockFailedError) return;
   }
 }
 
 ProgramSlot::~ProgramSlot() = default;
 
-// A lock is void only when its program is gone, however old it is.
 std::unique_ptr<QLockFile> ProgramSlot::TryLock(int number) const {
-  const std::string name = "running_" + std::to_string(number) + ".lock";
-  auto lock = std::make_unique<QLockFile>(ToQt(app::TextFromPath(folders_.System() / name)));
-  lock->setStaleLockTime(0);
+  auto lock = LockOf(folder_, number);
   return lock->tryLock(0) ? std::move(lock) : nullptr;
 }
 

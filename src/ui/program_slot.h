@@ -1,32 +1,37 @@
-// Which of the programs that share a program folder this one is.
+// Which of the programs that share a folder this one is.
 #pragma once
 
+#include <filesystem>
+#include <functional>
 #include <memory>
-
-#include "app/program_folders.h"
+#include <optional>
 
 class QLockFile;
 
 namespace kelvo::ui {
 
-inline constexpr int kMostPrograms = 16;
+inline constexpr int kMostPrograms = 99;
 
-// The first number, from 1 to kMostPrograms, that no running program holds; it is free again when this one ends,
-// however it ends.
+// The first number, from 1 to kMostPrograms, that no running program holds in the folder; it is free again when this
+// one ends, however it ends.
 class ProgramSlot {
  public:
-  explicit ProgramSlot(const app::ProgramFolders& folders);
+  // `folder` is where the lock files lie. Numbers that `may_take` says no to are passed over.
+  explicit ProgramSlot(
+      std::filesystem::path folder, const std::function<bool(int)>& may_take = [](int) { return true; });
   ~ProgramSlot();
 
-  int Number() const { return number_; }
+  // Empty where nothing can be locked, or all numbers are held: then there is no telling what belongs to whom.
+  std::optional<int> Number() const { return number_; }
 
-  // Holds `number` until the lock is destroyed; null when another program holds it.
+  // Whether what `number` names belongs to no other running program. Holds the number until the lock is destroyed; null
+  // when another program holds it, and when that cannot be told.
   std::unique_ptr<QLockFile> TryLock(int number) const;
 
  private:
-  const app::ProgramFolders& folders_;
+  std::filesystem::path folder_;
   std::unique_ptr<QLockFile> lock_;
-  int number_ = 1;
+  std::optional<int> number_;
 };
 
 }  // namespace kelvo::ui

@@ -21,9 +21,6 @@ class PromptLine : public QLineEdit {
  protected:
   void keyReleaseEvent(QKeyEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
-
- private:
-  void KeepRules(const QString& text);
 };
 
 }  // namespace kelvo::ui

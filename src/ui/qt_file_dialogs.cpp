@@ -1,6 +1,8 @@
 #include "ui/qt_file_dialogs.h"
 
+#include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QStringList>
 
 #include "ui/qt_text.h"
@@ -17,8 +19,14 @@ QString ToQtFilter(std::string_view filter) {
   return filters.join(";;");
 }
 
+QString StillThere(const QString& path) {
+  QFileInfo place(path);
+  while (!path.isEmpty() && !place.exists() && !place.isRoot()) place.setFile(place.absolutePath());
+  return place.exists() ? place.absoluteFilePath() : QDir::homePath();
+}
+
 std::optional<files::ChosenFile> QtFileDialogs::SelectFile(const std::string& folder) {
-  QFileDialog dialog(parent_, "Select file", ToQt(folder), ToQtFilter(files::OpenFilter()));
+  QFileDialog dialog(parent_, "Select file", StillThere(ToQt(folder)), ToQtFilter(files::OpenFilter()));
   dialog.setFileMode(QFileDialog::ExistingFile);
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
   const auto filter = dialog.nameFilters().indexOf(dialog.selectedNameFilter());
@@ -30,7 +38,7 @@ std::optional<std::string> QtFileDialogs::SaveAs(const std::string& path) {
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setDefaultSuffix("kvp");
   const QFileInfo proposal(ToQt(path));
-  dialog.setDirectory(proposal.absolutePath());
+  dialog.setDirectory(StillThere(proposal.absolutePath()));
   dialog.selectFile(proposal.completeBaseName() + ".kvp");
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
   return FromQt(dialog.selectedFiles().first());

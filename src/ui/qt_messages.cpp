@@ -1,5 +1,6 @@
 #include "ui/qt_messages.h"
 
+#include <QAbstractButton>
 #include <QCursor>
 #include <QGuiApplication>
 #include <QMessageBox>
@@ -22,6 +23,7 @@ int Show(QWidget* parent, QMessageBox::Icon icon, std::string_view text, QMessag
   const OrdinaryPointer pointer;
   QMessageBox box(icon, QGuiApplication::applicationDisplayName(), ToQt(text), buttons, parent);
   box.setTextFormat(Qt::PlainText);
+  if (QAbstractButton* discard = box.button(QMessageBox::Discard)) discard->setText("&Discard");
   return box.exec();
 }
 

@@ -4,64 +4,19 @@
 #include <QTemporaryFile>
 
 #include "ui/qt_text.h"
-
-#ifndef Q_OS_WIN
-#include <unistd.h>
-
-#include <csignal>
-#endif
+#include "ui/tool_output.h"
 
 namespace kelvo::ui {
 namespace {
 
-constexpr qint64 kMostOutput = 4096;  // bytes of a failing tool's output that are looked at
-constexpr int kLongestLine = 200, kEndMilliseconds = 2000;
+constexpr qint64 kMostOutput = 4096;  // bytes of what a failing program has printed that are looked at
+constexpr int kEndMilliseconds = 2000;
 
-// A child that may outlive this object.
-class Child final : public QProcess {
- public:
-  void LeaveRunning() { setProcessState(NotRunning); }
-};
-
-void SetCommand(QProcess& process, const c64out::ToolCommand& command) {
-#ifdef Q_OS_WIN
-  process.setProgram(ToQt(c64out::FindCommandInterpreter().value_or("")));
-  process.setNativeArguments(ToQt(command.InterpreterArguments()));
-#else
-  process.setProgram(ToQt(command.tool));
-  QStringList arguments;
-  for (const std::string& argument : command.arguments) arguments << ToQt(argument);
-  process.setArguments(arguments);
-  // A session of its own, so that it can be ended together with whatever it starts.
-  process.setChildProcessModifier([] { setsid(); });
-#endif
-}
-
-// `process` has been started.
-void Kill(QProcess& process) {
-#ifdef Q_OS_WIN
-  QProcess::execute("taskkill", {"/PID", QString::number(process.processId()), "/T", "/F"});
-#else
-  ::kill(static_cast<pid_t>(-process.processId()), SIGKILL);
-#endif
-  process.kill();
-}
-
-// The line of the output that tells most: the first that speaks of an error, else the first that says anything.
-QString TellingLine(const QByteArray& output) {
-  const QStringList lines = QString::fromUtf8(output).split('\n');
-  const QStringList errors = lines.filter("error", Qt::CaseInsensitive);
-  for (const QString& line : errors + lines) {
-    if (!line.trimmed().isEmpty()) return line.trimmed().left(kLongestLine);
-  }
-  return {};
-}
-
-QString WhyItFailed(const QProcess& process, const QByteArray& output) {
+QString WhyItFailed(const QProcess& process, const ToolOutput& output) {
   if (process.error() == QProcess::FailedToStart) return "could not be started: " + process.errorString();
   if (process.exitStatus() == QProcess::CrashExit) return "crashed";
   if (process.exitCode() == 0) return {};
-  const QString line = TellingLine(output);
+  const QString line = output.TellingLine();
   return line.isEmpty() ? QString("ended with code %1").arg(process.exitCode()) : line;
 }
 
@@ -79,7 +34,8 @@ bool QtToolRunner::CanRun() const {
 #endif
 }
 
-c64out::ToolResult QtToolRunner::Wait(QProcess& process, const c64out::ToolCommand& command, State state) {
+// True when the process has ended by itself.
+bool QtToolRunner::Wait(ToolProcess& process, State state, const std::function<void()>& start) {
   QEventLoop wait;
   // cppcheck-suppress danglingLifetime ; this pointer knows when the loop is gone
   wait_ = &wait;
@@ -87,47 +43,38 @@ c64out::ToolResult QtToolRunner::Wait(QProcess& process, const c64out::ToolComma
   connect(&process, &QProcess::errorOccurred, &wait, [&](QProcess::ProcessError error) {
     if (error == QProcess::FailedToStart) wait.quit();
   });
-  process.setStandardInputFile(QProcess::nullDevice());
-  SetCommand(process, command);
-  process.start();
+  start();
   process_ = &process;
   SetState(state);
   if (process.state() != QProcess::NotRunning) wait.exec();
   SetState(State::kIdle);
-  return {.stopped = process.state() != QProcess::NotRunning, .failure = {}};
+  return process.state() == QProcess::NotRunning;
 }
 
 c64out::ToolResult QtToolRunner::RunAndWait(const c64out::ToolCommand& command) {
-  QProcess process;
-  QByteArray output;
-  process.setProcessChannelMode(QProcess::MergedChannels);
-  connect(&process, &QProcess::readyRead, this, [&] {
-    const QByteArray part = process.readAll();
-    output += part.left(kMostOutput - output.size());
-  });
-  c64out::ToolResult result = Wait(process, command, State::kWorking);
-  if (result.stopped) {
-    Kill(process);
-    process.waitForFinished(kEndMilliseconds);
-  } else {
-    result.failure = FromQt(WhyItFailed(process, output));
+  ToolOutput output([this](const QString& line) { emit Told(line); });  // the process may add to it until it is gone
+  ToolProcess process;
+  connect(&process, &QProcess::readyRead, this, [&] { output.Add(process.readAll()); });
+  if (Wait(process, State::kWorking, [&] { process.Work(command); })) {
+    return {.stopped = false, .failure = FromQt(WhyItFailed(process, output))};
   }
-  return result;
+  process.End();
+  process.waitForFinished(kEndMilliseconds);
+  return {.stopped = true, .failure = {}};
 }
 
 // Its output goes into a file: a pipe would break, and end it, when this program ends first.
 c64out::ToolResult QtToolRunner::ShowAndWait(const c64out::ToolCommand& command) {
-  QTemporaryFile output;
-  Child process;
-  process.setProcessChannelMode(QProcess::MergedChannels);
-  if (output.open()) process.setStandardOutputFile(output.fileName());
-  c64out::ToolResult result = Wait(process, command, State::kShowing);
-  if (result.stopped) {
+  QTemporaryFile file;
+  file.open();
+  ToolProcess process;
+  if (!Wait(process, State::kShowing, [&] { process.Show(command, file.fileName()); })) {
     process.LeaveRunning();
-  } else {
-    result.failure = FromQt(WhyItFailed(process, output.read(kMostOutput)));
+    return {};
   }
-  return {.stopped = false, .failure = result.failure};
+  ToolOutput output;
+  output.Add(file.read(kMostOutput));
+  return {.stopped = false, .failure = FromQt(WhyItFailed(process, output))};
 }
 
 void QtToolRunner::SetState(State state) {
@@ -141,7 +88,7 @@ void QtToolRunner::Stop() {
 
 void QtToolRunner::EndNow() {
   Stop();
-  if (IsBusy() && process_->state() != QProcess::NotRunning) Kill(*process_);
+  if (IsBusy() && process_->state() != QProcess::NotRunning) process_->End();
 }
 
 }  // namespace kelvo::ui

@@ -3,16 +3,17 @@
 
 #include <QObject>
 #include <QPointer>
-#include <QProcess>
+#include <functional>
 
 #include "c64out/tool_runner.h"
+#include "ui/tool_process.h"
 
 class QEventLoop;
 
 namespace kelvo::ui {
 
-// One tool runs at a time. The wait is an event loop of its own, so every window stays alive. A tool gets no input, and
-// what it prints goes to nobody unless it fails.
+// One tool runs at a time. The wait is an event loop of its own, so every window stays alive. What a tool
+// prints goes to nobody unless it fails, or somebody listens.
 class QtToolRunner final : public QObject, public c64out::ToolRunner {
   Q_OBJECT
 
@@ -23,7 +24,8 @@ class QtToolRunner final : public QObject, public c64out::ToolRunner {
   c64out::ToolResult RunAndWait(const c64out::ToolCommand& command) override;
   c64out::ToolResult ShowAndWait(const c64out::ToolCommand& command) override;
 
-  // Ends the wait: a tool is ended with all that it started, a program that the user looks at is left running.
+  // Ends the wait: a tool is ended with all that it started, a program that the user looks at is left running. On Linux
+  // a tool (but not what it started) also ends when this program is killed.
   void Stop();
   // The same for a program that is about to end: the tool is ended here and now, because no wait may return any more.
   void EndNow();
@@ -34,14 +36,16 @@ class QtToolRunner final : public QObject, public c64out::ToolRunner {
 
  signals:
   void StateChanged();
+  // A tool at work has printed a line.
+  void Told(const QString& line);
 
  private:
   enum class State { kIdle, kWorking, kShowing };
   void SetState(State state);
-  c64out::ToolResult Wait(QProcess& process, const c64out::ToolCommand& command, State state);
+  bool Wait(ToolProcess& process, State state, const std::function<void()>& start);
 
   QPointer<QEventLoop> wait_;
-  QPointer<QProcess> process_;  // the one that is waited for
+  QPointer<ToolProcess> process_;  // the one that is waited for
   State state_ = State::kIdle;
 };
 

@@ -2,12 +2,12 @@
 
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QPainter>
 #include <QSaveFile>
 #include <QStringList>
 #include <array>
 #include <stdexcept>
 
+#include "ui/qt_file_dialogs.h"
 #include "ui/qt_messages.h"
 #include "ui/qt_text.h"
 
@@ -28,6 +28,7 @@ constexpr std::array<ImageFormat, 3> kFormats{{
 
 constexpr std::array<int, 3> kSizes{1, 2, 4};
 constexpr int kBestQuality = 100;
+constexpr int kSmallest = 0;  // to Qt the quality of a PNG is how little it is packed; the pixels are the same
 
 // What a filter's position in the dialog stands for.
 const ImageFormat& FormatOf(qsizetype filter) {
@@ -60,16 +61,16 @@ QString WithImageEnding(const QString& path, const QString& ending) {
 
 void SaveScreenshot(const QImage& picture, const QString& path, int size) {
   QSaveFile file(path);
-  QImage scaled(picture.size() * size, QImage::Format_RGB32);
-  QPainter(&scaled).drawImage(scaled.rect(), picture);
-  const QByteArray format = QFileInfo(path).suffix().toLatin1();
-  if (!file.open(QIODevice::WriteOnly) || !scaled.save(&file, format.constData(), kBestQuality) || !file.commit()) {
+  const QByteArray format = QFileInfo(path).suffix().toLower().toLatin1();
+  const QImage scaled = picture.convertToFormat(QImage::Format_Indexed8).scaled(picture.size() * size);
+  const int quality = format == "png" ? kSmallest : kBestQuality;
+  if (!file.open(QIODevice::WriteOnly) || !scaled.save(&file, format.constData(), quality) || !file.commit()) {
     throw std::runtime_error(FromQt(file.fileName() + ": it cannot be written: " + file.errorString()));
   }
 }
 
 void mnuSaveJPG(const QImage& picture, const QString& proposal, QWidget* parent) {
-  QFileDialog dialog(parent, "Save picture as screenshot", QFileInfo(proposal).absolutePath());
+  QFileDialog dialog(parent, "Save picture as screenshot", StillThere(QFileInfo(proposal).absolutePath()));
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setNameFilters(Filters());
   const auto filter = [&dialog] { return dialog.nameFilters().indexOf(dialog.selectedNameFilter()); };

@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <utility>
 
 #include "ui/qt_text.h"
 
@@ -27,7 +28,7 @@ QCheckBox* SettingsDialog::AddCheckBox(const app::Setting& setting, const QStrin
   box->setObjectName(ToQt(setting.key));
   box->setChecked(app::ReadNumber(settings_, setting, 0, 1) == 1);
   form_->addRow(box);
-  fields_.push_back({setting, [box] { return QString(box->isChecked() ? "1" : "0"); }});
+  AddField(*box, {setting, [box] { return QString(box->isChecked() ? "1" : "0"); }});
   return box;
 }
 
@@ -38,9 +39,28 @@ QLineEdit* SettingsDialog::AddText(const app::Setting& setting, const QString& l
   line->setAccessibleName(QString(label).remove('&'));
   line->setToolTip(hint);
   form_->addRow(label, line);
-  if (fields_.empty()) line->setFocus();
-  fields_.push_back({setting, [line] { return line->text().trimmed(); }});
+  AddField(*line, {setting, [line] { return line->text().trimmed(); }});
   return line;
+}
+
+QSpinBox* SettingsDialog::AddNumber(const app::Setting& setting, int highest, const QString& label, const QString& zero,
+                                    const QString& hint) {
+  auto* number = new QSpinBox(this);
+  number->setObjectName(ToQt(setting.key));
+  number->setAccessibleName(QString(label).remove('&'));
+  number->setToolTip(hint);
+  number->setRange(0, highest);
+  number->setSpecialValueText(zero);
+  number->setValue(app::ReadNumber(settings_, setting, 0, highest));
+  form_->addRow(label, number);
+  AddField(*number, {setting, [number] { return QString::number(number->value()); }});
+  return number;
+}
+
+// The first one has the focus when the dialog opens.
+void SettingsDialog::AddField(QWidget& widget, Field field) {
+  if (fields_.empty()) widget.setFocus();
+  fields_.push_back(std::move(field));
 }
 
 void SettingsDialog::AddBeside(QLineEdit& field, QAbstractButton* button) {

@@ -6,6 +6,7 @@
 #include <QDialog>
 #include <QFormLayout>
 #include <QLineEdit>
+#include <QSpinBox>
 #include <functional>
 #include <vector>
 
@@ -25,6 +26,10 @@ class SettingsDialog : public QDialog {
 
   // A text field, stored trimmed of surrounding blanks.
   QLineEdit* AddText(const app::Setting& setting, const QString& label, const QString& hint = {});
+
+  // A number from 0 to `highest`; 0 shows as `zero`.
+  QSpinBox* AddNumber(const app::Setting& setting, int highest, const QString& label, const QString& zero,
+                      const QString& hint);
 
   // A button that helps to fill a field, at its right.
   void AddBeside(QLineEdit& field, QAbstractButton* button);
@@ -47,6 +52,8 @@ class SettingsDialog : public QDialog {
     app::Setting setting;
     std::function<QString()> value;
   };
+  void AddField(QWidget& widget, Field field);
+
   std::vector<Field> fields_;
   QFormLayout* form_;
 };

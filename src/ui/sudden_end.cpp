@@ -25,6 +25,7 @@ void AtExit() {
 
 #ifndef Q_OS_WIN
 constexpr std::array kSignals{SIGTERM, SIGHUP, SIGINT};
+std::array<struct sigaction, kSignals.size()> former_actions;
 std::array<int, 2> signal_pipe{-1, -1};
 
 // A handler may do next to nothing itself; the event loop does the rest.
@@ -46,7 +47,7 @@ SuddenEnd::SuddenEnd(std::function<void()> rescue) : rescue_(std::move(rescue)) 
 SuddenEnd::~SuddenEnd() {
   rescue_at_exit = nullptr;
 #ifndef Q_OS_WIN
-  for (const int number : kSignals) ::signal(number, SIG_DFL);
+  for (std::size_t i = 0; i < kSignals.size(); ++i) ::sigaction(kSignals[i], &former_actions[i], nullptr);
   for (int& end : signal_pipe) ::close(std::exchange(end, -1));
 #endif
 }
@@ -62,7 +63,14 @@ void SuddenEnd::ListenToSignals() {
     rescue_();
     QCoreApplication::exit(128 + number);
   });
-  for (const int number : kSignals) ::signal(number, Handle);
+  struct sigaction handled {};
+  handled.sa_handler = Handle;
+  handled.sa_flags = SA_RESTART;
+  for (std::size_t i = 0; i < kSignals.size(); ++i) {
+    ::sigaction(kSignals[i], nullptr, &former_actions[i]);
+    // A signal that is ignored from the start (by nohup) stays so.
+    if (former_actions[i].sa_handler != SIG_IGN) ::sigaction(kSignals[i], &handled, nullptr);
+  }
 #endif
 }
 

@@ -1,5 +1,6 @@
 #include "ui/surface_view.h"
 
+#include <QGuiApplication>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
@@ -76,16 +77,36 @@ void SurfaceView::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
 }
 
+bool SurfaceView::event(QEvent* event) {
+  if (event->type() == QEvent::WindowBlocked && mouseGrabber() == this) releaseMouse();
+  if (event->type() == QEvent::WindowUnblocked) TakeMouseBack();
+  return QWidget::event(event);
+}
+
+// A message box in the middle of a drag makes Qt forget whose press it was: it would hand on no move and no release.
+void SurfaceView::TakeMouseBack() {
+  const Qt::MouseButtons held = QGuiApplication::mouseButtons();
+  for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton}) {
+    if (held_.testFlag(button) && !held.testFlag(button)) emit Released(button);
+  }
+  held_ &= held;
+  if (held_ != Qt::NoButton) grabMouse();
+}
+
 void SurfaceView::mousePressEvent(QMouseEvent* event) {
+  held_ = event->buttons();
   emit Pressed(SurfacePoint(event->position()), event->button(), event->modifiers());
 }
 
 void SurfaceView::mouseMoveEvent(QMouseEvent* event) {
+  held_ &= event->buttons();
   emit Moved(SurfacePoint(event->position()), event->buttons());
 }
 
 void SurfaceView::mouseReleaseEvent(QMouseEvent* event) {
-  emit Released(SurfacePoint(event->position()), event->button());
+  held_ = event->buttons();
+  if (held_ == Qt::NoButton && mouseGrabber() == this) releaseMouse();
+  emit Released(event->button());
 }
 
 void SurfaceView::wheelEvent(QWheelEvent* event) {

@@ -32,7 +32,8 @@ class SurfaceView : public QWidget {
  signals:
   void Pressed(QPoint at, Qt::MouseButton button, Qt::KeyboardModifiers modifiers);
   void Moved(QPoint at, Qt::MouseButtons buttons);
-  void Released(QPoint at, Qt::MouseButton button);
+  // Every press is followed by one, also when it is only noticed that the button is up.
+  void Released(Qt::MouseButton button);
   void PointerLeft();
   // Steps of a wheel: x to the right, y downwards.
   void Wheeled(QPoint at, QPoint steps, Qt::KeyboardModifiers modifiers);
@@ -41,6 +42,7 @@ class SurfaceView : public QWidget {
   // What is drawn over the surface, in the surface's coordinates.
   virtual void PaintOverlay(QPainter&) {}
 
+  bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void showEvent(QShowEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
@@ -52,10 +54,12 @@ class SurfaceView : public QWidget {
  private:
   double Scale() const;  // widget pixels that a surface pixel takes
   void TakeScale();
+  void TakeMouseBack();
 
   QImage image_;  // the surface's own pixels, not a copy
   int unit_;
   double scale_ = 1.0;
+  Qt::MouseButtons held_;
   QPoint wheel_;   // what was turned and did not make a whole step yet
   QRect waiting_;  // what is to be painted next: one rectangle, so that a fill's many pixels cost Qt one update
 };

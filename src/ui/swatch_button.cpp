@@ -15,7 +15,7 @@ QString PlainColourName(model::C64Colour colour) {
 }
 
 SwatchButton::SwatchButton(QWidget* parent) : QAbstractButton(parent) {
-  setFocusPolicy(Qt::TabFocus);
+  setFocusPolicy(Qt::StrongFocus);
   Show({});
 }
 

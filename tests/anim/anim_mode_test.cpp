@@ -34,6 +34,7 @@ class AnimModeTest : public testing::Test, protected support::Program {
     mode.ToggleAnimMode();
     EXPECT_EQ(mode.IsAnimModeChecked(), shows.check_mark);
     EXPECT_EQ(shows.window, shows.check_mark);
+    EXPECT_EQ(shows.status, shows.check_mark ? "ANIM=ON" : "ANIM=OFF");
     return messages.shown;
   }
 
@@ -97,7 +98,7 @@ TEST_F(AnimModeTest, TheCommandSetsTheFlagAloneOrSwitchesTheModeWithIt) {
   EXPECT_TRUE(shows.check_mark && shows.window);
 
   mode.FrameWindowUnloaded({-12, 345});
-  EXPECT_EQ(shows.status, "ANIM=ON");
+  EXPECT_EQ(shows.status, "ANIM=OFF");
   EXPECT_FALSE(shows.check_mark);
   EXPECT_EQ(ReadFrameWindowPlace(settings), (FrameWindowPlace{-12, 345}));
   EXPECT_EQ(settings.values["Settings/frmAnimTopPos"], "345");

@@ -2,15 +2,21 @@
 // whatever happens while they are written.
 #include <gtest/gtest.h>
 
+#include "app/durable_file.h"
 #include "app/path_text.h"
 #include "app/program_folders.h"
 #include "app/settings_store.h"
 #include "app/whole_file.h"
+#include "files/recovery_copy.h"
+#include "files/rescue_copy.h"
 #include "support/program.h"
 
 #ifndef _WIN32
+#include <fcntl.h>
+#include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <csignal>
 #endif
@@ -47,9 +53,13 @@ TEST(ProgramFolders, AreSeededWithAllNewToolsAndNoneOfTheUsersFilesIsLost) {
   EXPECT_EQ(here("../GFX/b.kvp"), "shipped");
   EXPECT_TRUE(std::filesystem::is_directory(folders.Backup()));
   EXPECT_FALSE(exists(folders.System() / "shipped.txt.old"));
+  remove(folders.System() / "template");
+  create_directory(folders.System() / "template");  // in the place of a file
+  ship("2");
   ship("3");
+  EXPECT_EQ(here("template"), "template 3");
   EXPECT_EQ(here("template.old"), "the user's");
-  EXPECT_EQ(here("template.old.old"), "template 2");
+  EXPECT_TRUE(is_directory(folders.System() / "template.old.old"));
 }
 
 TEST(ProgramFolders, LieBesideTheProgramOnlyWhereThatCanBeWritten) {
@@ -60,6 +70,16 @@ TEST(ProgramFolders, LieBesideTheProgramOnlyWhereThatCanBeWritten) {
   for (const char* place : {"bin", "share/applications"}) std::filesystem::create_directories(folder / place);
   support::WriteText(folder / "share/applications/kelvo.desktop", "");
   EXPECT_EQ(ChooseProgramFolder(folder / "bin", "user"), "user");
+  for (const char* kept : {"SYSTEM", "BACKUP"}) {  // of another user, say
+    const support::TempFolder portable;
+    ProgramFolders(portable.Path()).Create();
+    EXPECT_EQ(ChooseProgramFolder(portable.Path(), "user"), portable.Path());
+    EXPECT_EQ(ProgramFolders(portable.Path()).FindReadOnly(), std::nullopt);
+    std::filesystem::remove(portable / kept);
+    support::WriteText(portable / kept, "nothing can be made here");
+    EXPECT_EQ(ChooseProgramFolder(portable.Path(), "user"), "user") << kept;
+    EXPECT_EQ(ProgramFolders(portable.Path()).FindReadOnly(), portable / kept);
+  }
 }
 
 TEST(PathText, PartsEndAtTheLastSeparator) {
@@ -103,7 +123,64 @@ TEST(WholeFile, WritesThroughALinkAndKeepsRights) {
   WriteWholeFile(folder / "link", Bytes{2, 3});
   EXPECT_TRUE(fs::is_symlink(folder / "link"));
   EXPECT_EQ(support::ReadFile(folder / "real"), (Bytes{2, 3}));
+  fs::create_symlink("to come", folder / "dangling");
+  WriteWholeFile(folder / "dangling", Bytes{4});
+  EXPECT_TRUE(fs::is_symlink(folder / "dangling"));
+  EXPECT_EQ(support::ReadFile(folder / "to come"), Bytes{4});
   EXPECT_EQ(fs::status(folder / "real").permissions(), fs::perms::owner_read | fs::perms::owner_write);
+}
+
+// Whatever the program keeps for itself: whoever plants a link there, or may read the picture, gains nothing.
+TEST(OwnFiles, AreMadeAnewAndForTheirOwnerAlone) {
+  const support::TempFolder folder;
+  const auto victim = folder / "victim";
+  support::WriteText(victim, "untouched");
+  support::Program program;
+  const ProgramFolders& folders = program.folders;
+  create_directories(folder / "shipped/SYSTEM");
+  support::WriteText(folder / "shipped/SYSTEM/template", "shipped");
+  fs::create_symlink(folder / "made", folders.System() / "template");
+  const files::RecoveryFiles recovery(folders.Backup(), 1);
+  for (const auto& planted : {folders.Snapshot(), recovery.picture, recovery.name, folders.ErrorLogFile(),
+                              folders.Backup() / "pic.kvp_2602030907.prg", folders.Backup() / "backups.txt"}) {
+    fs::create_symlink(victim, planted);
+  }
+  program.files.SaveTo(program.Text("pic.kvp"));
+  fs::permissions(program.folder / "pic.kvp", fs::perms::all);
+  for (std::uint8_t byte : {1, 2}) {
+    program.document.picture.Bitmap[1] = byte;
+    files::RecoveryCopy copy(program.document);
+    copy.AddPlace(recovery);
+    copy.KeepNow();
+    files::KeepRescueCopy(program.document, folders, program.clock);
+    program.files.Save();
+  }
+  program.log.Write("a line");
+  folders.Seed(folder / "shipped");
+  EXPECT_EQ(support::ReadText(victim), "untouched");
+  EXPECT_FALSE(exists(folder / "made"));
+  constexpr fs::perms kOthers = fs::perms::group_all | fs::perms::others_all;
+  for (const fs::path& place : {folders.System(), folders.Backup()}) {
+    EXPECT_EQ(fs::status(place).permissions() & kOthers, fs::perms::none) << place;
+    for (const auto& entry : fs::directory_iterator(place)) {
+      if (entry.is_symlink()) continue;
+      EXPECT_EQ(entry.status().permissions() & kOthers, fs::perms::none) << entry.path();
+    }
+  }
+  EXPECT_EQ(fs::status(program.folder / "pic.kvp").permissions() & kOthers, kOthers);
+  EXPECT_GE(support::NamesIn(folders.Backup()).size(), 6U);
+}
+
+TEST(OwnFiles, WhatKilledWritersLeftIsSweptAndNothingElse) {
+  const support::TempFolder folder;
+  for (const char* name : {".kelvo-1.tmp", ".kelvo-2.tmp", ".kelvo-settings", "kelvo-3.tmp"}) {
+    support::WriteText(folder / name, "left");
+  }
+  const int writing = open((folder / ".kelvo-2.tmp").c_str(), O_WRONLY);
+  flock(writing, LOCK_EX);
+  SweepTemporaryFiles(folder.Path());
+  close(writing);
+  EXPECT_EQ(support::NamesIn(folder.Path()), (support::Lines{".kelvo-2.tmp", ".kelvo-settings", "kelvo-3.tmp"}));
 }
 
 TEST(WholeFile, AWriteThatFailsMidwayLeavesTheOldFile) {

@@ -80,7 +80,8 @@ TEST_F(CodenetSenderTest, RefusesToRunPastTheEndOfMemory) {
 TEST_F(CodenetSenderTest, StopsInTheMiddleOfAWait) {
   line_.fate_of = [](int number, const app::Bytes&) { return number < 3 ? Fate() : kLost; };
   line_.stop_at = milliseconds(5000);
-  EXPECT_NE(ErrorOf([this] { Write(0x2000, support::CountingBytes(1000)); }), "");
+  EXPECT_EQ(ErrorOf([this] { Write(0x2000, support::CountingBytes(1000)); }),
+            "stopped before the C64 had confirmed everything; 384 of 1000 bytes are confirmed");
   EXPECT_LE(line_.Elapsed(), milliseconds(5050));
 }
 
@@ -92,6 +93,19 @@ TEST_F(CodenetSenderTest, EndsAtOnceWhenTheC64Refuses) {
             "the C64 refuses the data; 0 of 10 bytes are confirmed");
   EXPECT_EQ(ErrorOf([this] { sender_.Run(); }), "the C64 refuses to start the program");
   EXPECT_EQ(line_.sent.size(), 2U);
+}
+
+TEST_F(CodenetSenderTest, TellsHowMuchIsWrittenWhenThePortCloses) {
+  const std::pair<int, const char*> cases[] = {{0, "closed; 0 of 300 bytes are confirmed"},
+                                               {2, "closed; 256 of 300 bytes are confirmed"},
+                                               {3, "the C64's memory is written; closed"}};
+  for (const auto& [after, error] : cases) {
+    line_.sent.clear();
+    line_.fate_of = [after = after](int number, const app::Bytes&) {
+      return number == after ? throw NobodyListens("closed") : Fate();
+    };
+    EXPECT_EQ(ErrorOf([this] { SendTransfer({0x2000, app::Bytes(300), true, {}}, sender_, progress_); }), error);
+  }
 }
 
 TEST(CodenetProtocol, TakesOnlyAnswersForAnswers) {

@@ -68,12 +68,15 @@ TEST_F(PictureProgram, TakesNoHarmFromTheRestoreKeyOrTheNameOfItsFolder) {
 #ifdef _WIN32
   GTEST_SKIP() << "file names cannot hold these characters here";
 #endif
-  const std::filesystem::path odd = folder_ / "it's $HOME; [100%] & #1 <ü>";
-  std::filesystem::create_directories(odd);
   const model::PictureImage picture = BlotchyPicture(5);
-  C64Machine machine;
-  machine.PressRestoreEvery(977);
-  ExpectShown(BuildPictureProgram(odd, picture), picture, machine);
+  for (const char* name : {"it's $HOME; [100%] & #1 <\u00fc>", "\"quoted\" \\ \"", "[screencolor] [bitmap] <CC>",
+                           "\r .end\n\u4f60\u597d \u041f\u0440", "-o @x *"}) {
+    SCOPED_TRACE(name);
+    std::filesystem::create_directories(folder_ / name);
+    C64Machine machine;
+    machine.PressRestoreEvery(977);
+    ExpectShown(BuildPictureProgram(folder_ / name, picture), picture, machine);
+  }
 }
 
 using Code = std::vector<std::uint8_t>;

@@ -101,9 +101,26 @@ TEST(SaverTemplate, FillsOneKindOfPlaceholderInEachLine) {
   EXPECT_EQ(FilledSaver("[filenamelen]", "\xC3\xA9t\xC3\xA9", 100), "03\r\n");
   EXPECT_EQ(FilledSaver("[end_high]", "a", 0xFFFF - 2049), "FF\r\n");
   EXPECT_THROW(FilledSaver("", "a", 0x10000 - 2049), std::runtime_error);
+  EXPECT_EQ(FilledSaver("[filename_bytes]", "b-A", 100),
+            "$42,$0D,$21,$A0,$A0,$A0,$A0,$A0,$A0,$A0,$A0,$A0,$A0,$A0,$A0,$A0\r\n");
+  for (const char* odd : {"my-pic", "a*c", "Bird", "Goat"}) {  // line ends and quotes on the C64
+    EXPECT_THROW(FilledSaver(".text \"[filename]\"", odd, 100), std::runtime_error) << odd;
+  }
 }
 
 #ifndef _WIN32
+// The name whose characters turn into `text`.
+std::string NameFor(std::string_view text) {
+  std::string name;
+  for (const char c : text) {
+    const bool kept = c == '/' || c == '.' || (c >= '0' && c <= '9');
+    const int code = static_cast<unsigned char>(c) + (kept ? 0 : 32);
+    code < 0x80 ? name += static_cast<char>(code)
+                : name += {static_cast<char>(0xC0 | code >> 6), static_cast<char>(0x80 | (code & 63))};
+  }
+  return name;
+}
+
 class SaverOnTheC64 : public testing::Test {
  protected:
   void SetUp() override {
@@ -164,12 +181,14 @@ TEST_F(SaverOnTheC64, TakesEveryByteInANameAndCutsItToSixteen) {
   for (int code = 160; code < 256; ++code)
     all += {static_cast<char>(0xC0 | code >> 6), static_cast<char>(0x80 | (code & 63))};
   for (const std::string& name :
-       {all.substr(0, 16), "BGBG;"s, "my-picture*2"s, "-.endc"s, "*.comment"s, ".end"s, all}) {
+       {all.substr(0, 16), "BGBG;"s, "my-picture*2"s, NameFor("\r.endc\r .binary \"15x1save.tmp\"\r .comment"),
+        NameFor("\n.end\n"), NameFor("\"\r .include \"15x1save.src\"\r"), all}) {
     SCOPED_TRACE(name);
     const app::Bytes saver = Assemble(name);
-    const std::string expected = ToC64FileName(name).substr(0, 16);
-    ASSERT_GE(saver.size(), expected.size());
-    EXPECT_EQ(std::string(saver.end() - static_cast<std::ptrdiff_t>(expected.size()), saver.end()), expected);
+    std::string expected = ToC64FileName(name).substr(0, 16);
+    expected.resize(16, '\xA0');
+    ASSERT_EQ(saver.size(), Assemble("a").size());
+    EXPECT_EQ(std::string(saver.end() - 16, saver.end()), expected);
   }
   Run(Assemble("BGBG;"));
   EXPECT_EQ(disk_.name, "\"'\"'\x1B");

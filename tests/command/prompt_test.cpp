@@ -131,6 +131,9 @@ TEST_F(ProcessCommandTest, AsksForAFileOnlyWhenNoneIsNamed) {
   EXPECT_EQ(Replies("RELOAD PLEASE"), (Lines{"RELOAD", "LOAD PIC"}));
   EXPECT_FALSE(document.HasUnsavedWork());
   EXPECT_EQ(dialogs.folders.size(), 1U);
+  fs::remove(folders.Gfx() / "PIC.PRG");
+  EXPECT_EQ(Replies("RELOAD"), (Lines{"RELOAD", "LOAD PIC [err 902]"}));
+  EXPECT_EQ(messages.shown, Lines{});
 }
 
 TEST(NumberReading, TakesPlainNumbersInAnyLanguage) {

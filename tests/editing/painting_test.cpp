@@ -205,11 +205,10 @@ TEST_F(PaintingTest, AnUnfinishedShapeGoesWithEscapeUndoAndThePicture) {
       Click({10, 10});
       Click({14, 10});
       (painting.*way)();
-      EXPECT_EQ(painting.ToolIndex(), way == &Painting::Escape ? kDraw : tool);
-      EXPECT_EQ(painting.UndoData().CanUndo(), way == &Painting::Escape);
-      if (way == &Painting::Escape) painting.ChooseTool(tool);
+      EXPECT_EQ(painting.ToolIndex(), tool);
+      EXPECT_FALSE(painting.UndoData().CanUndo());
       Click({20, 10});
-      painting.Tick();
+      EXPECT_FALSE(painting.Tick());
       EXPECT_EQ(CountOf(5), 0);
     }
   }
@@ -218,10 +217,37 @@ TEST_F(PaintingTest, AnUnfinishedShapeGoesWithEscapeUndoAndThePicture) {
   Click({20, 10});
   painting.ChooseTool(kDraw);  // both points were set: the line is drawn
   EXPECT_EQ(CountOf(5), 10);
+  painting.ChooseTool(kCircle);
+  painting.Escape();  // there is no shape
+  EXPECT_EQ(painting.ToolIndex(), kDraw);
   Press({1, 1});
   painting.Forget();
   painting.Move({9, 1}, true);
   EXPECT_EQ(CountOf(5), 11);
+}
+
+TEST_F(PaintingTest, AShapeOfWhichNothingIsDrawnGivesTheStepBeforeItBack) {
+  for (const int tool : {kLine, kContinuousLine, kCircle}) {
+    for (const int other : {0, static_cast<int>(kFill)}) {  // 0: Escape
+      painting.ChooseTool(kDraw);
+      Click({1, 1});
+      painting.ChooseTool(tool);
+      Click({10, 10});
+      painting.Tick();
+      other == 0 ? painting.Escape() : painting.ChooseTool(other);
+      EXPECT_EQ(painting.UndoData().Caption(), "Undo draw");
+      painting.Undo();
+      EXPECT_EQ(CountOf(5), 0);
+    }
+  }
+  painting.ChooseTool(kContinuousLine);
+  Click({10, 10});
+  Click({20, 10});
+  EXPECT_TRUE(painting.Tick());
+  painting.Escape();  // the segment that is drawn stays
+  EXPECT_EQ(painting.UndoData().Caption(), "Undo line");
+  painting.Undo();
+  EXPECT_EQ(CountOf(5), 0);
 }
 
 TEST_F(PaintingTest, CellsAreCopiedPastedAndFilledAlongADrag) {
@@ -233,15 +259,17 @@ TEST_F(PaintingTest, CellsAreCopiedPastedAndFilledAlongADrag) {
   Drag({41, 1}, {52, 1});
   for (const int cell : {11, 12, 13}) support::SetCell(expected, cell, support::kAllSlots, 1, 2, 3);
   EXPECT_EQ(picture, expected);
-  EXPECT_EQ(views.cells, (std::vector{1, 11, 12, 13}));
+  EXPECT_EQ(views.cells, (std::vector{1, 11, 11, 12, 13}));  // its press and its move
 
   constexpr std::array<std::uint8_t, 8> kBlock{255, 255, 255, 255, 255, 255, 255, 255};
   painting.ChooseTool(kBlockFill);
   Drag({41, 1}, {41, 9}, Button::kRight);  // with the left pen, whatever the button
   for (const int cell : {11, 51}) support::SetCell(expected, cell, kBlock, 5, 0, 0);
   EXPECT_EQ(picture, expected);
+  Press({41, 10});
   painting.PenColours().left = Colour(1);
-  Drag({41, 9}, {41, -9});  // the same cell in another stroke, and out of the picture
+  painting.Move({41, 9}, true);   // on in the same cell, with another pen
+  painting.Move({41, -9}, true);  // and out of the picture
   for (const int cell : {11, 51}) expected.ColourMemory[static_cast<std::size_t>(cell)] = 1;
   EXPECT_EQ(picture, expected);
 }

@@ -25,13 +25,6 @@ namespace {
 using editing::Button;
 using model::PixelPoint;
 
-// A program that is ended with the object.
-class Background : public support::RunningTool {
- public:
-  using RunningTool::RunningTool;
-  ~Background() { Signal(SIGTERM); }
-};
-
 // Runs a shell command to its end; true when it succeeded.
 bool RunCommand(const std::string& command) {
   return support::RunTool("sh", {"-c", command}).exit_code == 0;
@@ -77,7 +70,7 @@ class ProgramTest : public testing::Test {
   std::filesystem::path program_file = folder / "bin/kelvo", file = folder / "picture.kvp";
   std::string display = ":" + std::to_string(1000 + getpid() % 30000);
   model::PictureImage picture;
-  std::optional<Background> server, window_manager, program;
+  std::optional<support::RunningTool> server, window_manager, program;
 };
 
 constexpr int kMoreThanATick = 350;  // milliseconds

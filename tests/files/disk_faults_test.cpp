@@ -7,11 +7,12 @@
 #include <unistd.h>
 
 #include <array>
-#include <atomic>
 #include <csignal>
 #include <random>
+#include <set>
 #include <thread>
 
+#include "files/backups.h"
 #include "files/recovery_copy.h"
 #include "support/faulty_disk.h"
 #include "support/program.h"
@@ -68,10 +69,11 @@ class DiskFaults : public testing::Test, protected support::Program {
   fs::path art = folder / "art", file = art / "pic.kvp";
 };
 
-TEST_F(DiskFaults, ASaveKilledAtAnyMomentLeavesWholeFiles) {
+TEST_F(DiskFaults, ASaveKilledAtAnyMomentLosesNoStateAndLeavesNoLitter) {
   SavePainted(1);
   SavePainted(2);
-  RecoveryCopy copy(document, RecoveryFiles(folders, 1));
+  RecoveryCopy copy(document);
+  copy.AddPlace(RecoveryFiles(folders.Backup(), 1));
   std::mt19937 random(20260203);
   for (int round = 0; round < 200; ++round) {
     const pid_t child = Start([&] {
@@ -84,12 +86,18 @@ TEST_F(DiskFaults, ASaveKilledAtAnyMomentLeavesWholeFiles) {
     usleep(random() % 6000);
     kill(child, SIGKILL);
     waitpid(child, nullptr, 0);
-    ASSERT_NE(PaintedIn(file), -1);
-    ASSERT_NE(PaintedIn(folders.Snapshot()), -1);
+    fs::remove(folders.Snapshot());  // as the next start does
+    std::set<int> states{PaintedIn(file)};
     for (const auto& backup : fs::directory_iterator(folders.Backup())) {
       const fs::path ending = backup.path().extension();
-      ASSERT_TRUE((ending != ".prg" && ending != ".kvp") || PaintedIn(backup.path()) != -1) << backup.path();
+      if (ending == ".prg" || ending == ".kvp") states.insert(PaintedIn(backup.path()));
     }
+    ASSERT_FALSE(states.contains(-1));  // a torn file
+    for (int value = PaintedIn(file) - 1; value > 2; --value) ASSERT_TRUE(states.contains(value)) << value;
+    fs::remove_all(folders.Backup());
+    folders.Create();
+    SavePainted(2);
+    ASSERT_EQ(support::NamesIn(art).size(), 1U);
   }
 }
 
@@ -124,7 +132,14 @@ TEST_F(DiskFaults, AFullProgramFolderDoesNotKeepFromSaving) {
   EXPECT_TRUE(messages.shown[0].starts_with("The picture is saved, but its backup could not be made.\n"));
   EXPECT_EQ(PaintedIn(folders.Snapshot()), 1);
   Paint(3);
-  EXPECT_THROW(RecoveryCopy(document, RecoveryFiles(folders, 1)).KeepNow(), app::FileError);
+  RecoveryCopy copy(document);
+  copy.AddPlace(RecoveryFiles(folders.Backup(), 1));
+  EXPECT_THROW(copy.KeepNow(), app::FileError);
+  copy.AddPlace(RecoveryFiles(folder.Path(), 1));
+  copy.KeepNow();
+  EXPECT_EQ(PaintedIn(RecoveryFiles(folder.Path(), 1).picture), 3);
+  copy.Remove();
+  EXPECT_FALSE(exists(RecoveryFiles(folder.Path(), 1).picture));
 }
 
 TEST_F(DiskFaults, AFolderOrFileWithoutRightsKeepsTheOldFile) {
@@ -160,9 +175,8 @@ TEST_F(DiskFaults, AFolderThatVanishesLeavesThePictureInMemory) {
 TEST_F(DiskFaults, AFileThatShrinksWhileItIsReadIsReadWholeOrNotAtAll) {
   SavePainted(1);
   const app::Bytes whole = support::ReadFile(file);
-  std::atomic<bool> done = false;
-  std::thread other_program([&] {
-    while (!done) {
+  const std::jthread other_program([&](const std::stop_token& done) {
+    while (!done.stop_requested()) {
       fs::resize_file(file, 5000);
       support::WriteFile(file, whole);
       usleep(20);  // the reader has its chance too
@@ -175,17 +189,6 @@ TEST_F(DiskFaults, AFileThatShrinksWhileItIsReadIsReadWholeOrNotAtAll) {
     ASSERT_EQ(document.picture.Bitmap[4000], opened ? 1 : 2);
     ASSERT_EQ(document.picture.Bitmap[7999], opened ? 1 : 2);
   }
-  done = true;
-  other_program.join();
-}
-
-TEST_F(DiskFaults, AClockSetBackLosesNoBackup) {
-  SavePainted(1);
-  SavePainted(2);
-  clock.time.tm_hour -= 1;
-  SavePainted(3);
-  EXPECT_EQ(PaintedIn(folders.Backup() / "pic.kvp_2602030907.prg"), 1);
-  EXPECT_EQ(PaintedIn(folders.Backup() / "pic.kvp_2602030807.prg"), 2);
 }
 
 TEST_F(DiskFaults, TwoProgramsOnOneFolderSaveAndLogWholly) {
@@ -196,6 +199,7 @@ TEST_F(DiskFaults, TwoProgramsOnOneFolderSaveAndLogWholly) {
     program = Start([&] {
       for (std::uint8_t value = 1; value <= kRounds; ++value) {
         SavePainted(value);
+        Backups(folders, clock).Keep(support::CountingBytes(10), "many", "", ".kept");
         log.Write(long_line);
       }
     });
@@ -203,7 +207,13 @@ TEST_F(DiskFaults, TwoProgramsOnOneFolderSaveAndLogWholly) {
   for (const pid_t program : programs) waitpid(program, nullptr, 0);
   EXPECT_EQ(PaintedIn(file), kRounds);
   EXPECT_NE(PaintedIn(folders.Snapshot()), -1);
-  EXPECT_NE(PaintedIn(folders.Backup() / "pic.kvp_2602030907.prg"), -1);
+  int kept = 0;
+  for (const std::string& name : support::NamesIn(folders.Backup())) {
+    const bool is_kept = name.ends_with(".kept");
+    kept += is_kept ? 1 : 0;
+    EXPECT_TRUE(is_kept || name == "backups.txt" || PaintedIn(folders.Backup() / name) != -1) << name;
+  }
+  EXPECT_EQ(kept, 2 * kRounds);
   EXPECT_EQ(support::NamesIn(art).size(), 1U);
   std::string expected;
   for (int line = 0; line < 2 * kRounds; ++line) expected += "260203 09:07:05 " + long_line + "\n";

@@ -3,7 +3,11 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
+
 #include "app/whole_file.h"
+#include "files/backup_index.h"
+#include "files/backups.h"
 #include "files/recovery_copy.h"
 #include "support/program.h"
 
@@ -80,7 +84,7 @@ TEST_F(PictureFilesTest, SavingKeepsTheStateBeforeAsBackup) {
   EXPECT_EQ(fs::file_size(folder / "pic.kvp"), 10050U);
   EXPECT_EQ(document.picture.ScreenMemory[1017], 11);  // the signature stays in memory
   EXPECT_FALSE(document.HasUnsavedWork());
-  EXPECT_EQ(support::NamesIn(folders.Backup()), Lines{"pic.koa_2602030907.prg"});
+  EXPECT_EQ(support::NamesIn(folders.Backup()), (Lines{"backups.txt", "pic.koa_2602030907.prg"}));
   EXPECT_EQ(support::ReadFile(folders.Backup() / "pic.koa_2602030907.prg"), support::ReadFile(folder / "pic.koa"));
   EXPECT_EQ(support::ReadFile(folders.Snapshot()), support::ReadFile(folder / "pic.kvp"));
 }
@@ -101,6 +105,148 @@ TEST_F(PictureFilesTest, SavingElsewhereMayBeRefusedAndThenNothingChanges) {
     EXPECT_EQ(document.picture, before.picture);
     EXPECT_EQ(document.file.CurrentFilePath, before.file.CurrentFilePath);
     EXPECT_TRUE(document.HasUnsavedWork());
+  }
+}
+
+// Whatever a save takes the place of, its bytes are in BACKUP afterwards.
+TEST_F(PictureFilesTest, WhatASaveReplacesIsKept) {
+  const std::string path = Text("pic.kvp");
+  const auto picture = [](std::uint8_t byte) { return app::Bytes(10050, byte); };
+  const auto is_kept = [&](const app::Bytes& bytes) {
+    const Lines names = support::NamesIn(folders.Backup());
+    return std::any_of(names.begin(), names.end(),
+                       [&](const auto& name) { return support::ReadFile(folders.Backup() / name) == bytes; });
+  };
+  support::WriteFile(folder / "pic.kvp", picture(1));
+  files.OpenPicture(path);
+  Document build_copy = document;  // a build saves the picture as it is, and makes it the snapshot
+  build_copy.picture.Bitmap[7] = 99;
+  SaveBitmap(build_copy, app::TextFromPath(folders.System() / "temp.kvp"), {folders, settings, clock});
+  EXPECT_TRUE(files.Save());  // in the same minute
+  EXPECT_TRUE(messages.shown.empty());
+  EXPECT_TRUE(is_kept(picture(1)));
+  EXPECT_TRUE(is_kept(Encode(build_copy.picture)));
+  for (const BackupNote& note : ReadBackupIndex(folders.Backup() / "backups.txt")) {
+    EXPECT_TRUE(note.picture == path || note.stamp.empty()) << note.file_name;
+  }
+
+  support::WriteFile(folder / "pic.kvp", picture(2));  // by another program
+  EXPECT_FALSE(files.Save());
+  EXPECT_EQ(messages.shown, Lines{path + " was changed by another program. Replace it?\n"
+                                         "What that program wrote is kept in the BACKUP folder."});
+  EXPECT_EQ(support::ReadFile(folder / "pic.kvp"), picture(2));
+  messages.yes = true;
+  EXPECT_TRUE(files.Save());
+  EXPECT_TRUE(is_kept(picture(2)));
+
+  support::WriteFile(folder / "other.kvp", picture(3));
+  dialogs.save = Text("other.kvp");
+  EXPECT_TRUE(files.SaveAs());
+  EXPECT_TRUE(is_kept(picture(3)));
+
+  files.New();  // no file is current, but the snapshot of the last one is there
+  const app::Bytes last = support::ReadFile(folder / "other.kvp");
+  EXPECT_TRUE(files.SaveAs());
+  EXPECT_TRUE(is_kept(last));
+
+  document.picture.Bitmap[9] = 77;
+  files.Recover(Document(document));
+  support::WriteFile(folder / "other.kvp", picture(6));
+  messages.yes = false;
+  EXPECT_FALSE(files.Save());
+  messages.yes = true;
+
+  // What cannot be kept is not replaced.
+  fs::remove_all(folders.Backup());
+  support::WriteFile(folders.Backup(), {});
+  support::WriteFile(folder / "other.kvp", picture(4));
+  EXPECT_FALSE(files.Save());
+  EXPECT_EQ(support::ReadFile(folder / "other.kvp"), picture(4));
+}
+
+TEST_F(PictureFilesTest, AFrameThatOnlyCaseTellsFromAnotherIsNotReplacedUnasked) {
+  support::WriteFile(folder / "walk0001.KVP", app::Bytes(10050));
+  support::WriteFile(folder / "walk0001.kvp", app::Bytes(10050, 5));
+  files.OpenPicture(Text("walk0001.KVP"));
+  document.picture.Bitmap[9] = 1;
+  EXPECT_FALSE(files.SaveChanges());
+  EXPECT_EQ(messages.shown, Lines{Text("walk0001.kvp") + " exists already. Replace it?"});
+  EXPECT_EQ(support::ReadFile(folder / "walk0001.kvp"), app::Bytes(10050, 5));
+}
+
+TEST_F(PictureFilesTest, ProgramsOnOneFolderBackUpTheirOwnPictures) {
+  const std::string own = WriteKoala("own.koa");
+  files.OpenPicture(own);
+  const app::ProgramFolders second_folders(folders.Root(), 2);
+  Document second;
+  PictureFiles second_files(
+      second, {{second_folders, settings, clock, log, messages, prompt}, pointer, dialogs, display, views});
+  support::WriteFile(folder / "b.kvp", app::Bytes(10050, 9));
+  second_files.OpenPicture(Text("b.kvp"));
+  EXPECT_TRUE(files.Save());
+  EXPECT_EQ(support::ReadFile(folders.Backup() / "own.koa_2602030907.prg"), support::ReadFile(own));
+}
+
+TEST_F(PictureFilesTest, NamesAsLongAsTheyMayBeAreKeptShorter) {
+  std::string name;
+  while (name.size() < 250) name += "\u00e4";
+  name += "b.kvp";
+  const std::string path = Text(name);
+  ASSERT_TRUE(files.SaveTo(path));
+  document.picture.Bitmap[9] = 1;
+  ASSERT_TRUE(files.Save());
+  document.picture.Bitmap[9] = 2;
+  files.New();
+  EXPECT_TRUE(messages.shown.empty());
+  const Lines kept = support::NamesIn(folders.Backup());
+  ASSERT_EQ(kept.size(), 3U);  // with the index
+  for (const std::string& file : {kept[1], kept[2]}) {
+    EXPECT_LE(file.size(), 255U);
+    EXPECT_EQ(file.find("\u00e4_2602030907"), file.rfind("\u00e4")) << file;
+  }
+}
+
+// Days before 2026-02-03 at which two pictures of one name, of different folders, were saved, and what stays of them.
+TEST_F(PictureFilesTest, OldBackupsAreThinnedToTheLastOfADayOfEachPicture) {
+  const auto save = [&](const char* place, std::uint8_t value) {
+    document.picture.Bitmap.fill(value);
+    files.SaveTo(Text(place));
+  };
+  fs::create_directory(folder / "a");
+  fs::create_directory(folder / "b");
+  clock.time.tm_mday = 1;
+  clock.time.tm_mon = 0;
+  std::uint8_t value = 0;
+  for (const char* place : {"a/pic.kvp", "b/pic.kvp"}) {
+    for (int time = 0; time < 3; ++time) save(place, ++value);  // 1 to 6, all in one minute
+  }
+  ++clock.time.tm_hour;
+  save("b/pic.kvp", 7);
+  files.New();
+  const auto kept = [&] {
+    std::set<int> values;
+    for (const std::string& name : support::NamesIn(folders.Backup())) {
+      if (name.ends_with(".prg")) values.insert(support::ReadFile(folders.Backup() / name).back());
+    }
+    return values;
+  };
+  support::WriteFile(folders.Backup() / "mine_2501010000.prg", app::Bytes{200});
+  EXPECT_EQ(kept(), (std::set<int>{1, 2, 3, 4, 5, 6, 200}));
+  clock.time.tm_mday = 31;
+  files.ThinBackups();
+  EXPECT_EQ(kept().size(), 7U);  // thirty days later all are there
+  clock.time.tm_mon = 1;
+  clock.time.tm_mday = 1;
+  settings.Write(kKeepBackupsDays, "0");
+  files.ThinBackups();
+  EXPECT_EQ(kept().size(), 7U);
+  settings.Write(kKeepBackupsDays, "30");
+  for (const std::string& name : support::NamesIn(folders.Backup())) {  // the last of a/pic.kvp is taken elsewhere
+    if (support::ReadFile(folders.Backup() / name).back() == 3) fs::remove(folders.Backup() / name);
+  }
+  for (int round = 0; round < 2; ++round) {
+    files.ThinBackups();
+    EXPECT_EQ(kept(), (std::set<int>{2, 6, 200}));
   }
 }
 
@@ -182,8 +328,10 @@ class RecoveryCopyTest : public testing::Test, protected support::Program {
     return kept ? kept->picture.Bitmap[1] : -1;
   }
 
-  RecoveryFiles recovery{folders, 3};
-  RecoveryCopy copy{document, recovery};
+  RecoveryCopyTest() { copy.AddPlace(recovery); }
+
+  RecoveryFiles recovery{folders.Backup(), 3};
+  RecoveryCopy copy{document};
   RecoveryCopy::Time now{seconds(1000)};
 };
 
@@ -220,7 +368,7 @@ TEST_F(RecoveryCopyTest, KnowsItsFileAndGoesWithTheWork) {
   copy.Keep(now);
   EXPECT_FALSE(exists(recovery.picture) || exists(recovery.name));
   Paint(2);
-  copy.KeepNow();
+  copy.Keep(now += seconds(1));  // new work is safe at once
   EXPECT_EQ(Kept(), 2);
   resize_file(recovery.picture, 10049);  // a damaged copy is none
   EXPECT_EQ(Kept(), -1);

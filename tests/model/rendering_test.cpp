@@ -67,9 +67,9 @@ TEST(BitPair, IsPlacedAmongItsNeighbours) {
 TEST(NumberText, ConvertsBothWays) {
   EXPECT_EQ(BitPairFromText(ToText(BitPair::k10)), BitPair::k10);
   EXPECT_EQ(BitPairFromText(""), std::nullopt);
-  EXPECT_EQ(BinaryToNumber("1x1"), 5);
-  EXPECT_EQ(HexDigitValue('f'), 15);
-  EXPECT_EQ(HexDigitValue('g'), 0);
+  EXPECT_EQ(model::BinaryToNumber("1x1"), 5);
+  EXPECT_EQ(model::HexDigitValue('f'), 15);
+  EXPECT_EQ(model::HexDigitValue('g'), 0);
 }
 
 TEST(Palette, PacksDisplayColoursBothWays) {

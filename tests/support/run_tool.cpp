@@ -32,6 +32,7 @@ RunningTool::RunningTool(const std::string& program, const std::vector<std::stri
 }
 
 RunningTool::~RunningTool() {
+  Signal(SIGTERM);
   Wait();
 }
 

@@ -12,7 +12,8 @@ struct ToolRun {
   std::string errors;  // its standard error stream
 };
 
-// A program that runs beside the test. Its end is waited for at the latest when this goes out of scope.
+// A program that runs beside the test. It is ended at the latest when this goes out of scope, and its end is waited
+// for.
 class RunningTool {
  public:
   // `program` is a path, or a name to be looked for like a shell does.

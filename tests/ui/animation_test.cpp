@@ -1,4 +1,5 @@
 // An animation made, walked through and played on the real main window.
+#include <QCloseEvent>
 #include <QStatusBar>
 
 #include "anim/anim_settings.h"
@@ -33,6 +34,7 @@ TEST_F(AnimationTest, FramesAreMadeVisitedSavedWhenLeftAndPlayed) {
   Action("mnuAnimMode")->trigger();
   EXPECT_TRUE(box_text.endsWith("Do you want to create walk0001.kvp based on your loaded kvp?"));
   EXPECT_TRUE(Action("mnuAnimMode")->isChecked());
+  EXPECT_EQ(Panel("pnlAnimation"), "ANIM=ON");
   EXPECT_EQ(Number(), "1");
   for (int made = 2; made <= 3; ++made) {
     AnswerNext(QMessageBox::Yes);
@@ -66,11 +68,19 @@ TEST_F(AnimationTest, FramesAreMadeVisitedSavedWhenLeftAndPlayed) {
   Find<QLineEdit>("txtFrame")->setText("3");
   QTest::keyClick(Find("txtFrame"), Qt::Key_Return);
   EXPECT_EQ(Number(), "3");
+  for (const char* none : {"0", ""}) {
+    Find<QLineEdit>("txtFrame")->setText(none);
+    QTest::keyClick(Find("txtFrame"), Qt::Key_Return);
+    EXPECT_EQ(frame->statusBar()->currentMessage(), "TYPE A NUMBER FROM 1 TO 9999") << none;
+    frame->statusBar()->clearMessage();
+  }
   const QImage plain = Box("frmZoom")->grab().toImage();
   Find<QCheckBox>("chkOnionSkin")->setChecked(true);
   EXPECT_NE(Box("frmZoom")->grab().toImage(), plain);
-  Find("frmAnim")->close();
+  for (int request = 0; request < 2; ++request) QApplication::postEvent(Find("frmAnim"), new QCloseEvent);
+  QApplication::processEvents();
   EXPECT_FALSE(Action("mnuAnimMode")->isChecked());
+  EXPECT_EQ(Panel("pnlAnimation"), "ANIM=OFF");
   EXPECT_EQ(Box("frmZoom")->grab().toImage(), plain);
 }
 

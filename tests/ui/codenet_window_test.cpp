@@ -65,18 +65,35 @@ TEST_F(CodenetWindowTest, SendsWhatItsPreviewSays) {
 
 TEST_F(CodenetWindowTest, SaysWhatIsWrongAndCanSendAgain) {
   Text(2)->setText(File("good.prg", {1, 8, 1}));
-  for (const auto& [field, wrong] : {std::pair{2, "/gone"}, {4, "text"}, {5, "127.0.0.1; touch x"}, {5, "-x"}}) {
+  const std::string art = app::TextFromPath(folder.Path());
+  const std::tuple<int, std::string, const char*> cases[] = {
+      {2, "/gone", "codenet: /gone: there is no such file"},
+      {2, "", "codenet: no file is chosen"},
+      {2, art, ": this is a folder"},
+      {4, "text", "is no port"},
+      {5, "127.0.0.1; touch x", "is no host"},
+      {5, "-x", "-n: the C64's address must follow"},
+  };
+  for (const auto& [field, wrong, said] : cases) {
     SCOPED_TRACE(wrong);
     const QString right = Text(field)->text();
-    Text(field)->setText(wrong);
+    Text(field)->setText(ToQt(wrong));
+    EXPECT_EQ(IsRed(), field == 2);
     Control("cmdSend")->click();
-    EXPECT_FALSE(Outcome().isEmpty());
-    EXPECT_NE(Outcome(), "Transfer complete.");
+    EXPECT_TRUE(Outcome().contains(said)) << FromQt(Outcome());
+    EXPECT_EQ(PromptLines().at(PromptLines().size() - 2), "--> " + Outcome());
     Text(field)->setText(right);
   }
   EXPECT_EQ(server.Machine().packets, 0);
   Control("cmdSend")->click();
   EXPECT_EQ(Outcome(), "Transfer complete.");
+  const QString here = QDir::currentPath();
+  QDir::setCurrent(ToQt(art));
+  File("-n", {1, 8, 1});
+  Text(2)->setText("-n");
+  Control("cmdSend")->click();
+  EXPECT_EQ(Outcome(), "Transfer complete.");
+  QDir::setCurrent(here);
 }
 
 TEST_F(CodenetWindowTest, IsFilledInByKeyboard) {
@@ -104,6 +121,7 @@ TEST_F(CodenetWindowTest, ATransferCanBeStopped) {
   QTimer::singleShot(300, window, [this] {
     EXPECT_FALSE(Control("cmdSend")->isEnabled());
     EXPECT_FALSE(Action("mnuShowPreviewOnC64")->isEnabled());
+    EXPECT_EQ(Outcome(), "Sending... 128 of 1998 bytes");
     QTest::keyClick(window, Qt::Key_Escape);
   });
   Control("cmdSend")->click();

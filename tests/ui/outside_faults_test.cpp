@@ -2,18 +2,21 @@
 // processes that behave and misbehave.
 #include <QCoreApplication>
 #include <QLockFile>
+#include <QProcess>
 #include <QScreen>
 #include <QSettings>
 #include <csignal>
 #include <optional>
 #include <random>
 
+#include "app/other_folder.h"
 #include "main_frame_fixture.h"
 #include "support/pictures.h"
 #include "ui/program_slot.h"
 #include "ui/qt_settings.h"
 #include "ui/qt_tool_runner.h"
 #include "ui/recovery_desk.h"
+#include "ui/sudden_end.h"
 
 namespace kelvo::ui {
 namespace {
@@ -85,11 +88,12 @@ TEST_F(MainFrameTest, StartsWithAnyNonsenseInAllSettings) {
 
 TEST(ProgramSlot, IsANumberOfItsOwnWhileTheProgramRuns) {
   const support::TempFolder folder;
-  const app::ProgramFolders folders(folder / "program");
+  const auto locks = folder / "locks";
+  create_directory(locks);
   {
-    const ProgramSlot first(folders);
-    std::optional<ProgramSlot> second(std::in_place, folders);
-    const ProgramSlot third(folders);
+    const ProgramSlot first(locks);
+    std::optional<ProgramSlot> second(std::in_place, locks);
+    const ProgramSlot third(locks);
     EXPECT_EQ(first.Number(), 1);
     EXPECT_EQ(second->Number(), 2);
     EXPECT_EQ(third.Number(), 3);
@@ -97,31 +101,119 @@ TEST(ProgramSlot, IsANumberOfItsOwnWhileTheProgramRuns) {
     EXPECT_NE(first.TryLock(4), nullptr);
     second.reset();
     EXPECT_NE(first.TryLock(2), nullptr);
-    EXPECT_EQ(ProgramSlot(folders).Number(), 2);
+    std::vector<std::unique_ptr<ProgramSlot>> others;
+    for (int i = 0; i < 16; ++i) others.push_back(std::make_unique<ProgramSlot>(locks));
+    EXPECT_EQ(others.back()->Number(), 18);
   }
-  support::WriteText(folders.System() / "running_1.lock", "2147483646\nkelvo\n\n\n\n");  // of a dead program
-  EXPECT_EQ(ProgramSlot(folders).Number(), 1);
-  support::WriteText(folders.System() / "running_1.lock", "nonsense");
-  EXPECT_GE(ProgramSlot(folders).Number(), 1);
-  remove_all(folders.System());
-  support::WriteText(folders.System(), "a file where the folder should be");
-  EXPECT_EQ(ProgramSlot(folders).Number(), 1);
+  support::WriteText(locks / "running_1.lock", "2147483646\nkelvo\n\n\n\n");  // of a dead program
+  EXPECT_EQ(ProgramSlot(locks).Number(), 1);
+  support::WriteText(locks / "running_1.lock", "nonsense");
+  EXPECT_GE(ProgramSlot(locks).Number(), 1);
+  EXPECT_EQ(ProgramSlot(folder / "gone").Number(), std::nullopt);
 }
 
-TEST(RecoveryDesk, WorkThatCannotBeKeptAgainIsTakenUpAndStillKept) {
-  support::Program program;
-  program.document.picture = support::RandomPicture(3);
-  files::RecoveryCopy(program.document, files::RecoveryFiles(program.folders, 2)).KeepNow();
-  program.document = {};
-  create_directory(files::RecoveryFiles(program.folders, 1).name);  // no file can be written there
-  program.messages.yes = true;
-  RecoveryDesk desk({program.folders, program.clock, program.log, program.messages, program.document, program.files});
-  EXPECT_TRUE(desk.Offer());
-  EXPECT_EQ(program.document.picture.BackgroundColour, support::RandomPicture(3).BackgroundColour);
-  EXPECT_TRUE(files::RecoveryFiles(program.folders, 2).Read());
+class RecoveryDeskTest : public testing::Test, protected support::Program {
+ protected:
+  RecoveryDeskTest() { document.picture = support::RandomPicture(3); }
+  ~RecoveryDeskTest() override {
+    desk.reset();
+    remove_all(other);
+  }
+
+  void LeaveBehind(const std::filesystem::path& place, int number) {
+    files::RecoveryCopy copy(document);
+    copy.AddPlace(files::RecoveryFiles(place, number));
+    copy.KeepNow();
+  }
+  void MakeDesk() {
+    desk.reset();
+    slot.emplace(folders.System());
+    desk.emplace(RecoveryDesk::Surroundings{folders, clock, log, messages, document, files, *slot});
+    QObject::connect(&*desk, &RecoveryDesk::Word, [this](const QString& word) { words << word; });
+  }
+  void SpoilBackup() {
+    remove_all(folders.Backup());
+    support::WriteText(folders.Backup(), "a file where the folder should be");
+  }
+
+  std::filesystem::path other = app::OtherFolderFor(folders.Root());
+  std::optional<ProgramSlot> slot;
+  std::optional<RecoveryDesk> desk;
+  QStringList words;
+};
+
+TEST_F(RecoveryDeskTest, WorkThatCannotBeKeptAgainIsTakenUpAndStillKept) {
+  LeaveBehind(folders.Backup(), 2);
+  document = {};
+  create_directory(files::RecoveryFiles(folders.Backup(), 1).name);  // no file can be written there
+  ASSERT_TRUE(app::MakeOtherFolder(other));
+  remove(other);
+  support::WriteText(other, "a file where the second place should be");
+  messages.yes = true;
+  MakeDesk();
+  EXPECT_TRUE(desk->Offer());
+  EXPECT_EQ(document.picture.BackgroundColour, support::RandomPicture(3).BackgroundColour);
+  EXPECT_TRUE(files::RecoveryFiles(folders.Backup(), 2).Read());
+}
+
+TEST_F(RecoveryDeskTest, ASecondPlaceTakesTheCopyAndGivesItBack) {
+  MakeDesk();
+  SpoilBackup();
+  desk->Tick();
+  desk->KeepNow();
+  EXPECT_EQ(words, QStringList{"BACKUP failed: work is kept in another place"});
+  document = {};
+  messages.yes = true;
+  MakeDesk();
+  EXPECT_TRUE(desk->Offer());
+  EXPECT_EQ(document.picture.BackgroundColour, support::RandomPicture(3).BackgroundColour);
+  document.kept = document.picture;
+  desk->Tick();
+  desk.reset();
+  EXPECT_TRUE(is_empty(other));
+}
+
+TEST_F(RecoveryDeskTest, WhatIsLeftInTheSecondPlaceIsNotWrittenOver) {
+  ASSERT_TRUE(app::MakeOtherFolder(other));
+  LeaveBehind(other, 1);
+  MakeDesk();
+  SpoilBackup();
+  document.picture = support::RandomPicture(4);
+  desk->Tick();
+  EXPECT_EQ(files::RecoveryFiles(other, 1).Read()->picture.BackgroundColour,
+            support::RandomPicture(3).BackgroundColour);
+  EXPECT_TRUE(files::RecoveryFiles(other, 2).Read());
+}
+
+TEST_F(RecoveryDeskTest, WithoutANumberNothingOfOthersIsTouched) {
+  LeaveBehind(folders.Backup(), 1);  // of a program that may be running
+  remove_all(folders.System());
+  messages.yes = true;
+  MakeDesk();
+  EXPECT_FALSE(desk->Offer());
+  desk->KeepNow();
+  document.kept = document.picture;
+  desk->Tick();
+  EXPECT_TRUE(messages.shown.empty());
+  EXPECT_TRUE(files::RecoveryFiles(folders.Backup(), 1).Read());
 }
 
 #ifndef _WIN32
+TEST(SuddenEnd, LeavesASignalIgnoredThatWasSoAtTheStart) {
+  const auto before = std::signal(SIGHUP, SIG_IGN);
+  int rescues = 0;
+  {
+    const SuddenEnd end([&rescues] { ++rescues; });
+    std::raise(SIGHUP);
+    QTest::qWait(50);
+    EXPECT_EQ(rescues, 0);
+    struct sigaction handled {};
+    sigaction(SIGTERM, nullptr, &handled);
+    EXPECT_NE(handled.sa_handler, SIG_DFL);
+  }
+  EXPECT_EQ(std::signal(SIGHUP, before), SIG_IGN);
+}
+
 class ToolRunnerTest : public testing::Test {
  protected:
   // A tool that is a shell script of these lines; it runs in a folder of the test's own.
@@ -161,12 +253,42 @@ TEST_F(ToolRunnerTest, SaysWhyAToolFailed) {
   }
 }
 
+TEST_F(ToolRunnerTest, SaysWhyAToolFailedThatHasShownHowFarItWas) {
+  QStringList told;
+  QObject::connect(&runner, &QtToolRunner::Told, [&](const QString& line) { told << line; });
+  EXPECT_EQ(FailureOf("printf '1 of 2\\r2 of 2\\rwhy\\r\\nmore'; exit 1"), "why");
+  EXPECT_EQ(told, (QStringList{"1 of 2", "2 of 2", "why"}));
+}
+
 TEST_F(ToolRunnerTest, AStopEndsAToolWithItsChildren) {
   StopOnceStarted();
-  EXPECT_TRUE(runner.RunAndWait(Tool("(sleep 1; touch survived) & touch started; sleep 60")).stopped);
+  EXPECT_TRUE(runner
+                  .RunAndWait(Tool("(sleep 1; touch survived) & setsid sh -c 'sleep 1; touch survived' &\n"
+                                   "(setsid sh -c 'sleep 1; touch survived' &) ; touch started; sleep 60"))
+                  .stopped);
   QTest::qWait(1500);
   EXPECT_FALSE(exists(folder / "survived"));
 }
+
+#ifdef __linux__
+// In a program of its own this runs a tool until it is killed.
+TEST_F(ToolRunnerTest, AToolEndsWithAProgramThatIsKilled) {
+  constexpr const char* kTool = "KELVO_TEST_TOOL";
+  if (qEnvironmentVariableIsSet(kTool)) {
+    runner.RunAndWait({qgetenv(kTool).toStdString(), {}});
+    return;
+  }
+  QProcess program;
+  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+  environment.insert(kTool, ToQt(Tool("touch started; sleep 1; touch survived").tool));
+  program.setProcessEnvironment(environment);
+  program.start(QCoreApplication::applicationFilePath(), {"--gtest_filter=ToolRunnerTest.AToolEndsWithAProgram*"});
+  EXPECT_TRUE(IsThereSoon("started"));
+  program.kill();
+  QTest::qWait(1500);
+  EXPECT_FALSE(exists(folder / "survived"));
+}
+#endif
 
 TEST_F(ToolRunnerTest, AToolIsEndedBeforeTheProgramIs) {
   QTimer::singleShot(0, [&] {

@@ -4,6 +4,7 @@
 #include "editing/preferences.h"
 #include "main_frame_fixture.h"
 #include "support/pictures.h"
+#include "ui/display_frame.h"
 
 namespace kelvo::ui {
 namespace {
@@ -17,15 +18,27 @@ class PaintingWindowTest : public MainFrameTest {
     const model::Rect box = frame->Zoom().Area().PixelRect(x, y);
     return {box.x + box.width / 2, box.y + box.height / 2};
   }
-  void Press(int x, int y) { QTest::mousePress(Box("frmZoom"), Qt::LeftButton, {}, At(x, y)); }
+  // The mouse goes through the window, so that Qt's own grabbing and blocking takes part.
+  QPoint InWindow(int x, int y) const { return Box("frmZoom")->mapTo(frame.get(), At(x, y)); }
+  void Press(int x, int y) { QTest::mousePress(frame->windowHandle(), Qt::LeftButton, {}, InWindow(x, y)); }
+  void MoveTo(int x, int y) { QTest::mouseMove(frame->windowHandle(), InWindow(x, y)); }
+  void Release() { QTest::mouseRelease(frame->windowHandle(), Qt::LeftButton); }
   void Click(int x, int y, Qt::MouseButton button = Qt::LeftButton) {
-    QTest::mouseClick(Box("frmZoom"), button, {}, At(x, y));
+    QTest::mouseClick(frame->windowHandle(), button, {}, InWindow(x, y));
   }
-  void MoveTo(int x, int y, Qt::MouseButtons held) { MoveMouse(Box("frmZoom"), At(x, y), held); }
   void Key(Qt::Key key) { QTest::keyClick(Box("frmZoom"), key); }
+  // By the keyboard, so that the mouse may be held.
+  void CloseNextBox(bool let_go) {
+    InNextDialog<QMessageBox>([this, let_go](QMessageBox& box) {
+      box_text = box.text();
+      if (let_go) Release();
+      QTest::keyClick(&box, Qt::Key_Return);
+    });
+  }
   bool IsToldSoon(const char* prompt) const {
     return QTest::qWaitFor([&] { return Panel("pnlTool") == prompt; });
   }
+  QString Bytes() const { return Find<QLabel>("lblBytes")->text(); }
   const model::PictureImage& Picture() const { return frame->Document().picture; }
   int Colour(int x, int y) const { return support::ColourAt(Picture(), x, y); }
   QWidget* Swatch(int colour) const { return Find(("swatch_" + std::to_string(colour)).c_str()); }
@@ -34,12 +47,12 @@ class PaintingWindowTest : public MainFrameTest {
 TEST_F(PaintingWindowTest, ToolsPaintWithTheMouseAndAreUndone) {
   Key(Qt::Key_6);  // green
   Press(3, 3);
-  MoveTo(40, 30, Qt::LeftButton);
-  QTest::mouseRelease(Box("frmZoom"), Qt::LeftButton, {}, At(40, 30));
+  MoveTo(40, 30);
+  Release();
   EXPECT_EQ(Colour(3, 3), 5);
   EXPECT_EQ(Colour(40, 30), 5);
   EXPECT_EQ(Action("mnuUndo")->text(), "&Undo draw");
-  MoveTo(60, 60, Qt::NoButton);
+  MoveTo(60, 60);
   EXPECT_EQ(Colour(60, 60), 0);
 
   Action("tool_line")->trigger();
@@ -47,7 +60,7 @@ TEST_F(PaintingWindowTest, ToolsPaintWithTheMouseAndAreUndone) {
   Click(1, 50);
   EXPECT_TRUE(IsToldSoon("SET ENDING POINT"));
   const QImage before = Box("frmZoom")->grab().toImage();
-  MoveTo(11, 55, Qt::NoButton);  // a preview, which is never written
+  MoveTo(11, 55);  // a preview, which is never written
   EXPECT_NE(Box("frmZoom")->grab().toImage(), before);
   EXPECT_EQ(Colour(5, 52), 0);
   Click(11, 50);
@@ -68,11 +81,63 @@ TEST_F(PaintingWindowTest, ToolsPaintWithTheMouseAndAreUndone) {
 
   Press(10, 10);
   frame->Desk().LoseFocus();  // ends the stroke
-  MoveTo(20, 10, Qt::LeftButton);
+  MoveTo(20, 10);
+  Release();
   EXPECT_EQ(Colour(15, 10), 0);
   EXPECT_TRUE(Action("mnuUndo")->isEnabled());
   Action("mnuNew")->trigger();
   EXPECT_FALSE(Action("mnuUndo")->isEnabled());
+}
+
+// Nothing waits for the pointer to move again.
+TEST_F(PaintingWindowTest, WhatIsDrawnIsShownAtOnce) {
+  frame->findChild<QTimer*>("Timer1")->stop();
+  // The prompt is the same before and after the tick that draws: both points fall into one, or the line goes on.
+  for (const auto& [tool, ticks] : {std::pair{"tool_line", 0}, {"tool_continuous_line", 1}}) {
+    Action(tool)->trigger();
+    Click(1, 1);
+    for (int tick = 0; tick < ticks; ++tick) frame->Desk().Tick();
+    Click(4, 4);
+    const QString before = Bytes();
+    frame->Desk().Tick();
+    EXPECT_NE(Bytes(), before) << tool;
+    const QImage shown = Box("frmZoom")->grab().toImage();
+    MoveTo(5, 4);
+    MoveTo(4, 4);
+    EXPECT_EQ(Box("frmZoom")->grab().toImage(), shown) << tool;
+    QTest::keyClick(Box("frmZoom"), Qt::Key_3);
+  }
+  Action("tool_block_fill")->trigger();
+  EXPECT_EQ(Panel("pnlBlockFill"), "BF=ON");
+  Press(9, 1);
+  QTest::qWait(2 * kDisplayFrameMilliseconds);
+  MoveTo(14, 1);
+  QTest::qWait(2 * kDisplayFrameMilliseconds);
+  EXPECT_TRUE(Bytes().startsWith("11111111 $FF"));
+  Release();
+  QTest::mouseClick(Swatch(2), Qt::LeftButton, Qt::ShiftModifier);
+  Action("mnuOptimizeBackgroundColor")->trigger();
+  EXPECT_TRUE(Bytes().startsWith("00000000 $00"));
+  Action("tool_draw")->trigger();
+  EXPECT_EQ(Panel("pnlBlockFill"), "BF=OFF");
+}
+
+TEST_F(PaintingWindowTest, EscapeInAnotherWindowLeavesAShapeAlone) {
+  Action("tool_line")->trigger();
+  Click(1, 1);
+  ASSERT_TRUE(IsToldSoon("SET ENDING POINT"));
+  for (const char* form : {"frmCharData", "frmColors", "frmPens"}) {
+    QWidget* window = Find(form)->parentWidget();
+    QTest::mouseClick(window, Qt::LeftButton, {}, {60, 8});  // its title
+    EXPECT_FALSE(PictureHasFocus()) << form;
+    QTest::keyClick(frame->focusWidget(), Qt::Key_Escape);
+    EXPECT_TRUE(PictureHasFocus()) << form;
+    EXPECT_EQ(Panel("pnlTool"), "SET ENDING POINT") << form;
+  }
+  for (const char* prompt : {"SET STARTING POINT", "DRAW"}) {
+    Key(Qt::Key_Escape);
+    EXPECT_EQ(Panel("pnlTool"), prompt);
+  }
 }
 
 TEST_F(PaintingWindowTest, AFullCellIsRefusedWhereThePreferenceSaysSo) {
@@ -83,19 +148,26 @@ TEST_F(PaintingWindowTest, AFullCellIsRefusedWhereThePreferenceSaysSo) {
   InNextDialog([](QDialog& dialog) {
     auto* replaces = dialog.findChild<QCheckBox*>("4thColReplaces");
     EXPECT_TRUE(replaces->isChecked());
+    EXPECT_EQ(dialog.focusWidget(), replaces);
     replaces->setChecked(false);
     FillIn(dialog, {});
   });
   Action("mnuPreferences")->trigger();
   EXPECT_EQ(settings.Read(editing::k4thColReplaces), "0");
   Key(Qt::Key_5);
-  AnswerNext(QMessageBox::Ok);
   Press(5, 1);
-  MoveTo(4, 1, Qt::LeftButton);
-  EXPECT_EQ(box_text, "Not possible - all colors used");
-  EXPECT_EQ(Colour(4, 1), 0);
-  MoveTo(7, 1, Qt::LeftButton);  // the stroke outlives the box
+  for (const int x : {3, 4}) {  // the stroke outlives the box, and each move in the cell tells it again
+    CloseNextBox(false);
+    MoveTo(x, 1);
+    EXPECT_EQ(std::exchange(box_text, {}), "Not possible - all colors used");
+    EXPECT_NE(Colour(x, 1), 4);
+  }
+  MoveTo(7, 1);
   EXPECT_EQ(Colour(7, 1), 4);
+  CloseNextBox(true);
+  MoveTo(4, 1);
+  Action("mnuUndo")->trigger();  // the stroke ended with its button
+  EXPECT_EQ(Colour(7, 1), 0);
 }
 
 TEST_F(PaintingWindowTest, PensAndBackgroundAreChosenInTheColoursWindow) {
@@ -115,7 +187,13 @@ TEST_F(PaintingWindowTest, PensAndBackgroundAreChosenInTheColoursWindow) {
   QTest::mouseClick(Find("cmdSwap"), Qt::LeftButton);
   Click(3, 1);
   EXPECT_EQ(Colour(3, 1), 8);
-  Swatch(12)->setFocus();
+  QTest::mouseClick(Swatch(12), Qt::RightButton);
+  EXPECT_TRUE(Swatch(12)->hasFocus());
+  for (const Qt::Key arrow : {Qt::Key_Right, Qt::Key_Down, Qt::Key_Left, Qt::Key_Left}) {
+    QTest::keyClick(frame->focusWidget(), arrow);
+  }
+  EXPECT_TRUE(Swatch(12)->hasFocus());
+  EXPECT_EQ(ZoomOrigin(), QPoint(0, 0));
   QTest::keyClick(Swatch(12), Qt::Key_Space);
   Click(1, 9);
   EXPECT_EQ(Colour(1, 9), 12);

@@ -1,4 +1,6 @@
 // Typing at the command prompt, on the real main window.
+#include <QClipboard>
+
 #include "main_frame_fixture.h"
 
 namespace kelvo::ui {
@@ -30,6 +32,20 @@ TEST_F(PromptTest, TypingKeepsTheRulesOfTheLine) {
   Type("x");
   EXPECT_EQ(line->text(), ">XOAD PICPRG,8@Z09");
   EXPECT_EQ(line->cursorPosition(), 2);
+  line->setText(">LOAD PIC");
+  for (int i = 0; i < 3; ++i) QTest::keyClick(line, Qt::Key_Left, Qt::ShiftModifier);
+  Type("./");
+  EXPECT_EQ(line->selectedText(), "PIC");
+  QTest::keyClick(line, Qt::Key_Backspace);
+  Type("b.");
+  EXPECT_EQ(line->text(), ">LOAD B");
+  QTest::keyClick(line, Qt::Key_Home, Qt::ShiftModifier);
+  for (const auto& [pasted, text, selected] : {std::tuple{"..", ">LOAD B", "LOAD B"}, {"ver.", ">VER", ""}}) {
+    QGuiApplication::clipboard()->setText(pasted);
+    line->paste();
+    EXPECT_EQ(line->text(), text);
+    EXPECT_EQ(line->selectedText(), selected);
+  }
   line->selectAll();
   Type("a");
   EXPECT_EQ(line->text(), ">");

@@ -5,7 +5,12 @@
 #include <QMdiSubWindow>
 #include <QWheelEvent>
 
+#include "editing/painting.h"
 #include "main_frame_fixture.h"
+#include "model/palette.h"
+#include "ui/icons.h"
+#include "ui/menu_table.h"
+#include "ui/qt_file_dialogs.h"
 #include "ui/screenshot.h"
 
 namespace kelvo::ui {
@@ -163,23 +168,70 @@ TEST_F(WorkplaceTest, PlacesAreRememberedAndNonsenseIsNot) {
   EXPECT_TRUE(Action("mnuView_2")->isChecked());
 }
 
-TEST_F(WorkplaceTest, ScreenshotsHaveTheFormatAndSizeChosen) {
+TEST_F(WorkplaceTest, ScreenshotsAreSmallAndHaveTheFormatAndSizeChosen) {
   QImage picture(320, 200, QImage::Format_RGB32);
-  picture.fill(Qt::red);
-  picture.setPixelColor(1, 0, Qt::blue);
+  for (int y = 0; y < picture.height(); ++y) {
+    for (int x = 0; x < picture.width(); ++x) {
+      picture.setPixel(x, y, model::kSurfaceColours.at(static_cast<std::size_t>(x / 2 * 7 + y * y) % 16));
+    }
+  }
   const QString name = ToQt(app::TextFromPath(folder / "castle.v2"));
-  const std::vector<std::pair<const char*, const char*>> kFormats{{"png", "png"}, {"jpg", "jpeg"}, {"bmp", "bmp"}};
-  for (const auto& [ending, format] : kFormats) {
-    const QString path = WithImageEnding(WithImageEnding(name, ending), "png");
-    SaveScreenshot(picture, path, 2);
-    QImageReader reader(name + '.' + ending);
-    EXPECT_EQ(reader.format(), format);
-    const QImage saved = reader.read();
-    EXPECT_EQ(saved.size(), picture.size() * 2);
-    const bool has_near_colours = QByteArray(format) == "jpeg";
-    EXPECT_TRUE(has_near_colours || saved.pixelColor(3, 1) == QColor(Qt::blue));
+  struct Format {
+    const char *ending, *name;
+    bool keeps_colours;
+    qint64 most_bytes;
+  };
+  for (const Format& format :
+       {Format{"png", "png", true, 30'000}, {"jpg", "jpeg", false, 3'000'000}, {"bmp", "bmp", true, 1'100'000}}) {
+    SCOPED_TRACE(format.name);
+    const QString path = WithImageEnding(WithImageEnding(name, format.ending), "png");
+    SaveScreenshot(picture, path, 4);
+    EXPECT_LT(QFileInfo(path).size(), format.most_bytes);
+    QImageReader reader(name + '.' + format.ending);
+    EXPECT_EQ(reader.format(), format.name);
+    const QImage saved = reader.read().convertToFormat(picture.format());
+    EXPECT_EQ(saved.size(), picture.size() * 4);
+    EXPECT_TRUE(!format.keeps_colours || saved == picture.scaled(saved.size()));
   }
   EXPECT_THROW(SaveScreenshot(picture, "/gone/shot.png", 1), std::runtime_error);
+}
+
+TEST_F(WorkplaceTest, EveryIconIsThereForMenusAndToolBars) {
+  QStringList names{"kelvo", "swap"};
+  for (const editing::ToolRow& tool : editing::ToolTable()) names << ToQt(tool.name);
+  for (const MenuEntry& entry : MenuEntries()) {
+    if (entry.icon != nullptr) names << entry.icon;
+  }
+  for (const QString& name : names) {
+    const QIcon icon = IconNamed(name);
+    for (const QSize size : {QSize(16, 16), QSize(24, 24)})
+      EXPECT_TRUE(icon.availableSizes().contains(size)) << FromQt(name);
+  }
+}
+
+TEST_F(WorkplaceTest, DialogsBeginNearAFolderThatIsGone) {
+  const std::string gone = app::TextFromPath(folder / "gone/deeper/picture.prg");
+  settings.values["Settings/FilePath"] = gone;
+  settings.values["CodenetGUI/SendFile"] = gone;
+  const auto begins_near = [this](const char* what, const auto& open) {
+    QString begin;
+    InNextDialog<QFileDialog>([&](QFileDialog& dialog) {
+      begin = dialog.directory().absolutePath();
+      dialog.reject();
+    });
+    open();
+    EXPECT_EQ(begin, ToQt(app::TextFromPath(folder.Path()))) << what;
+  };
+  for (const char* entry : {"mnuLoad", "mnuSaveAs"}) begins_near(entry, [&] { Action(entry)->trigger(); });
+  Action("mnuCodenetGUI")->trigger();
+  begins_near("Codenet", [this] { Find<QAbstractButton>("cmdBrowse")->click(); });
+  Action("mnuBMP2Sprite")->trigger();
+  begins_near("sprites", [this] {
+    for (QAction* action : Find("frmBMP2SpriteMain")->findChildren<QAction*>()) {
+      if (action->text() == "&Open...") action->trigger();
+    }
+  });
+  EXPECT_EQ(StillThere(""), QDir::homePath());
 }
 
 // The dialogs ask about the name that was typed, which is not the name that is written here.

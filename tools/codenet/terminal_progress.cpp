@@ -1,6 +1,7 @@
 #include "terminal_progress.h"
 
 #include <cstdio>
+#include <cstdlib>
 
 #ifdef _WIN32
 #include <io.h>
@@ -21,18 +22,20 @@ bool IsTerminal() {
 
 }  // namespace
 
-TerminalProgress::TerminalProgress() : shown_(IsTerminal()) {}
+TerminalProgress::TerminalProgress()
+    : is_terminal_(IsTerminal()), is_shown_(is_terminal_ || std::getenv("KELVO_TOOL") != nullptr) {}
 
 void TerminalProgress::Begin(int last) {
   last_ = last;
 }
 
 void TerminalProgress::Advance(int value) {
-  if (shown_) std::fprintf(stderr, "\r%d of %d bytes", value, last_);
+  if (is_shown_) std::fprintf(stderr, "%d of %d bytes\r", value, last_);
 }
 
+// On a terminal the last line stays; for Kelvo it is replaced by what is wrong.
 void TerminalProgress::End() {
-  if (shown_) std::fputc('\n', stderr);
+  if (is_terminal_) std::fputc('\n', stderr);
 }
 
 }  // namespace kelvo::codenet

@@ -1,11 +1,11 @@
-// Progress as one line that rewrites itself, where somebody watches.
+// Progress as one line that rewrites itself, where somebody watches: a user at a terminal, or Kelvo.
 #pragma once
 
 #include "app/progress.h"
 
 namespace kelvo::codenet {
 
-// Writes to the standard error stream; silent when that is no terminal.
+// Writes to the standard error stream; silent when that is no terminal and Kelvo (KELVO_TOOL) has not started this.
 class TerminalProgress final : public app::Progress {
  public:
   TerminalProgress();
@@ -14,7 +14,7 @@ class TerminalProgress final : public app::Progress {
   void End() override;
 
  private:
-  bool shown_;
+  bool is_terminal_, is_shown_;
   int last_ = 0;
 };
 
