@@ -3,6 +3,7 @@
 #include <fstream>
 #include <functional>
 
+#include "app/number_text.h"
 #include "app/path_text.h"
 #include "app/whole_file.h"
 #include "c64out/codenet_ending.h"
@@ -13,7 +14,6 @@
 #include "c64out/vice_folder.h"
 #include "files/backups.h"
 #include "files/save_bitmap.h"
-#include "model/number_text.h"
 
 namespace kelvo::c64out {
 namespace {
@@ -52,9 +52,8 @@ void FillViewer(const BuildJob& job) {
   const WorkFiles& files = job.Files();
   FillTemplate(job.System("bmpshow.src"), files.viewer_half_filled,
                {"[bitmap]", PathInTemplate(ShortPath(files.picture)), job.Choice().ViaCodenet});
-  FillTemplate(
-      files.viewer_half_filled, files.viewer_source,
-      {"[screencolor]", model::ToHex(job.Picture().picture.BackgroundColour.Number()), job.Choice().ViaCodenet});
+  FillTemplate(files.viewer_half_filled, files.viewer_source,
+               {"[screencolor]", app::ToHex(job.Picture().picture.BackgroundColour.Number()), job.Choice().ViaCodenet});
   Remove(files.viewer_half_filled);
 }
 

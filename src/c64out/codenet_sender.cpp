@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <string>
 
-#include "model/number_text.h"
+#include "app/number_text.h"
 
 namespace kelvo::c64out {
 namespace {
@@ -28,7 +28,7 @@ CodenetSender::CodenetSender(DatagramSocket& socket, const TransferWatch& watch,
 
 void CodenetSender::WriteMemory(std::uint16_t address, std::span<const std::uint8_t> bytes, app::Progress& progress) {
   if (address + bytes.size() > kMemorySize) {
-    throw TransferError(std::to_string(bytes.size()) + " bytes at $" + model::ToHex(address, 4) + " run past $FFFF");
+    throw TransferError(std::to_string(bytes.size()) + " bytes at $" + app::ToHex(address, 4) + " run past $FFFF");
   }
   const app::ProgressScope scope(progress, static_cast<int>(bytes.size()));
   std::size_t done = 0;

@@ -1,7 +1,7 @@
 #include "c64out/codenet_transfer.h"
 
+#include "app/number_text.h"
 #include "app/path_text.h"
-#include "model/number_text.h"
 
 namespace kelvo::c64out {
 namespace {
@@ -41,7 +41,7 @@ CodenetTransfer PrepareTransfer(const CodenetArguments& arguments) {
     if (arguments.mode != FileMode::kProgramAt) transfer.address = load_address;
   }
   if (transfer.address + transfer.bytes.size() > kMemorySize) {
-    Fail(arguments, std::to_string(transfer.bytes.size()) + " bytes at $" + model::ToHex(transfer.address, 4) +
+    Fail(arguments, std::to_string(transfer.bytes.size()) + " bytes at $" + app::ToHex(transfer.address, 4) +
                         " would run past $FFFF");
   }
   return transfer;

@@ -4,11 +4,11 @@
 #include <array>
 #include <stdexcept>
 
+#include "app/number_text.h"
 #include "app/utf8.h"
 #include "c64out/codenet_protocol.h"
 #include "c64out/fill_template.h"
 #include "c64out/text_lines.h"
-#include "model/number_text.h"
 
 namespace kelvo::c64out {
 namespace {
@@ -28,7 +28,7 @@ std::string BytesOnDisk(std::string_view converted) {
   std::string numbers;
   for (std::size_t i = 0; i < kLongestName; ++i) {
     const std::uint8_t byte = i < converted.size() ? static_cast<std::uint8_t>(converted[i]) : kFiller;
-    numbers += ",$" + model::ToHex(byte);
+    numbers += ",$" + app::ToHex(byte);
   }
   return numbers.substr(1);
 }
@@ -38,10 +38,10 @@ Placeholders PlaceholdersFor(std::string_view name, std::uintmax_t program_size)
     throw std::runtime_error("a program of " + std::to_string(program_size) +
                              " bytes does not fit into the C64's memory");
   }
-  const std::string end = model::ToHex(static_cast<int>(SaverEndAddress(program_size)), 4);
+  const std::string end = app::ToHex(static_cast<int>(SaverEndAddress(program_size)), 4);
   const std::string converted = ToC64FileName(name);
   const auto length = static_cast<int>(std::min(kLongestName, converted.size()));
-  return {{{"[filenamelen]", model::ToHex(length)},
+  return {{{"[filenamelen]", app::ToHex(length)},
            {"[filename]", converted},
            {"[end_low]", end.substr(2)},
            {"[end_high]", end.substr(0, 2)},

@@ -1,7 +1,7 @@
 #include "sprites/sprite_text.h"
 
+#include "app/number_text.h"
 #include "model/bit_pair.h"
-#include "model/number_text.h"
 
 namespace kelvo::sprites {
 namespace {
@@ -30,7 +30,7 @@ BitPair PairOf(model::C64Colour colour, const ChosenColours& chosen) {
 }
 
 std::string ByteText(int byte, Notation notation) {
-  return notation == Notation::kBinary ? "%" + model::ByteToBinary(byte) : "$" + model::ToHex(byte);
+  return notation == Notation::kBinary ? "%" + app::ByteToBinary(byte) : "$" + app::ToHex(byte);
 }
 
 int ByteAt(const Sprite& sprite, std::size_t byte, const ChosenColours& chosen) {

@@ -5,8 +5,8 @@
 #include <QHBoxLayout>
 #include <QStringList>
 
+#include "app/number_text.h"
 #include "model/cell_view.h"
-#include "model/number_text.h"
 #include "model/pixel_colour.h"
 #include "ui/qt_text.h"
 
@@ -89,7 +89,7 @@ void frmCharData::ShowBytes() {
   QStringList lines;
   for (int line = 1; line <= 8; ++line) {
     const std::uint8_t byte = picture_.Bitmap[static_cast<std::size_t>(place_.base + line)];
-    lines << ToQt(model::ByteToBinary(byte) + " $" + model::ToHex(byte));
+    lines << ToQt(app::ByteToBinary(byte) + " $" + app::ToHex(byte));
   }
   lblBytes_->setText(lines.join('\n'));
 }

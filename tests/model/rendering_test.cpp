@@ -6,9 +6,9 @@
 #include <stdexcept>
 #include <tuple>
 
+#include "app/number_text.h"
 #include "app/progress.h"
 #include "model/full_view.h"
-#include "model/number_text.h"
 #include "model/onion_skin.h"
 #include "model/palette.h"
 #include "model/pixel_colour.h"
@@ -67,9 +67,9 @@ TEST(BitPair, IsPlacedAmongItsNeighbours) {
 TEST(NumberText, ConvertsBothWays) {
   EXPECT_EQ(BitPairFromText(ToText(BitPair::k10)), BitPair::k10);
   EXPECT_EQ(BitPairFromText(""), std::nullopt);
-  EXPECT_EQ(model::BinaryToNumber("1x1"), 5);
-  EXPECT_EQ(model::HexDigitValue('f'), 15);
-  EXPECT_EQ(model::HexDigitValue('g'), 0);
+  EXPECT_EQ(app::BinaryToNumber("1x1"), 5);
+  EXPECT_EQ(app::HexDigitValue('f'), 15);
+  EXPECT_EQ(app::HexDigitValue('g'), 0);
 }
 
 TEST(Palette, PacksDisplayColoursBothWays) {

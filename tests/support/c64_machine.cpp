@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <string>
 
-#include "model/number_text.h"
+#include "app/number_text.h"
 
 namespace kelvo::support {
 namespace {
@@ -184,7 +184,7 @@ int C64Machine::VicBank() const {
 }
 
 void C64Machine::Fault(const std::string& what, std::uint16_t address) const {
-  throw MachineFault(what + ": $" + model::ToHex(address, 4) + ", program counter $" + model::ToHex(cpu_.pc, 4) +
+  throw MachineFault(what + ": $" + app::ToHex(address, 4) + ", program counter $" + app::ToHex(cpu_.pc, 4) +
                      " after " + std::to_string(cpu_.cycles) + " cycles");
 }
 

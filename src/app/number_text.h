@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-namespace kelvo::model {
+namespace kelvo::app {
 
 // Eight characters of '0' and '1', bit 7 first. Only the low eight bits of `value` (0 or more) count.
 std::string ByteToBinary(int value);
@@ -18,4 +18,4 @@ int HexDigitValue(char digit);
 // Upper-case hexadecimal of `value` (0 or more), padded with '0' to at least `digits` characters.
 std::string ToHex(int value, int digits = 2);
 
-}  // namespace kelvo::model
+}  // namespace kelvo::app

@@ -1,6 +1,6 @@
-#include "model/number_text.h"
+#include "app/number_text.h"
 
-namespace kelvo::model {
+namespace kelvo::app {
 
 std::string ByteToBinary(int value) {
   std::string text(8, '0');
@@ -29,4 +29,4 @@ std::string ToHex(int value, int digits) {
   return text;
 }
 
-}  // namespace kelvo::model
+}  // namespace kelvo::app
