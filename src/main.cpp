@@ -10,10 +10,10 @@
 #include "app/version.h"
 #include "ui/application.h"
 #include "ui/main_frame.h"
-#include "ui/qt_messages.h"
-#include "ui/qt_settings.h"
-#include "ui/qt_text.h"
-#include "ui/sudden_end.h"
+#include "ui/ports/qt_messages.h"
+#include "ui/ports/qt_settings.h"
+#include "ui/ports/qt_text.h"
+#include "ui/ports/sudden_end.h"
 
 namespace {
 

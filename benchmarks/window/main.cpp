@@ -21,9 +21,9 @@
 #include "support/pictures.h"
 #include "ui/application.h"
 #include "ui/main_frame.h"
-#include "ui/prompt_lines.h"
-#include "ui/qt_settings.h"
-#include "ui/qt_text.h"
+#include "ui/ports/qt_settings.h"
+#include "ui/ports/qt_text.h"
+#include "ui/widgets/prompt_lines.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 
 #include <exception>
 
-#include "ui/icons.h"
+#include "ui/widgets/icons.h"
 
 namespace kelvo::ui {
 

@@ -16,11 +16,11 @@
 #include "editing/preferences.h"
 #include "files/backups.h"
 #include "model/palette.h"
-#include "ui/frm_about.h"
-#include "ui/frm_fullscreen.h"
-#include "ui/qt_text.h"
-#include "ui/screenshot.h"
-#include "ui/settings_dialog.h"
+#include "ui/ports/qt_text.h"
+#include "ui/widgets/settings_dialog.h"
+#include "ui/windows/frm_about.h"
+#include "ui/windows/frm_fullscreen.h"
+#include "ui/windows/screenshot.h"
 
 namespace kelvo::ui {
 namespace {

@@ -2,9 +2,9 @@
 
 #include <QMenuBar>
 
-#include "ui/icons.h"
 #include "ui/main_frame.h"
 #include "ui/menu_table.h"
+#include "ui/widgets/icons.h"
 
 namespace kelvo::ui {
 

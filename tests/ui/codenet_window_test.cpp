@@ -1,7 +1,7 @@
 // The Codenet window with the real loader, against a C64 on this machine.
 #include "main_frame_fixture.h"
 #include "support/codenet_server.h"
-#include "ui/frm_codenet_gui.h"
+#include "ui/windows/frm_codenet_gui.h"
 
 namespace kelvo::ui {
 namespace {

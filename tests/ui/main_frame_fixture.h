@@ -18,7 +18,7 @@
 #include "app/path_text.h"
 #include "support/program.h"
 #include "ui/main_frame.h"
-#include "ui/qt_text.h"
+#include "ui/ports/qt_text.h"
 
 namespace kelvo::ui {
 

@@ -8,8 +8,8 @@
 
 #include "main_frame_fixture.h"
 #include "model/palette.h"
-#include "ui/qt_file_dialogs.h"
-#include "ui/surface_view.h"
+#include "ui/ports/qt_file_dialogs.h"
+#include "ui/widgets/surface_view.h"
 
 namespace kelvo::ui {
 namespace {

@@ -14,7 +14,7 @@
 #include "main_frame_fixture.h"
 #include "model/full_view.h"
 #include "support/pictures.h"
-#include "ui/frm_bmp_view.h"
+#include "ui/windows/frm_bmp_view.h"
 
 namespace kelvo::ui {
 namespace {

@@ -12,11 +12,11 @@
 #include "app/other_folder.h"
 #include "main_frame_fixture.h"
 #include "support/pictures.h"
-#include "ui/program_slot.h"
-#include "ui/qt_settings.h"
-#include "ui/qt_tool_runner.h"
-#include "ui/recovery_desk.h"
-#include "ui/sudden_end.h"
+#include "ui/desks/recovery_desk.h"
+#include "ui/ports/program_slot.h"
+#include "ui/ports/qt_settings.h"
+#include "ui/ports/qt_tool_runner.h"
+#include "ui/ports/sudden_end.h"
 
 namespace kelvo::ui {
 namespace {

@@ -4,7 +4,7 @@
 #include "editing/preferences.h"
 #include "main_frame_fixture.h"
 #include "support/pictures.h"
-#include "ui/display_frame.h"
+#include "ui/ports/display_frame.h"
 
 namespace kelvo::ui {
 namespace {

@@ -8,10 +8,10 @@
 #include "editing/painting.h"
 #include "main_frame_fixture.h"
 #include "model/palette.h"
-#include "ui/icons.h"
 #include "ui/menu_table.h"
-#include "ui/qt_file_dialogs.h"
-#include "ui/screenshot.h"
+#include "ui/ports/qt_file_dialogs.h"
+#include "ui/widgets/icons.h"
+#include "ui/windows/screenshot.h"
 
 namespace kelvo::ui {
 namespace {

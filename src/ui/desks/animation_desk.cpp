@@ -1,0 +1,146 @@
+#include "ui/desks/animation_desk.h"
+
+#include <QScopedValueRollback>
+#include <array>
+#include <utility>
+
+#include "anim/anim_settings.h"
+#include "ui/ports/qt_text.h"
+#include "ui/widgets/settings_dialog.h"
+#include "ui/windows/window_places.h"
+
+namespace kelvo::ui {
+namespace {
+
+// What the buttons of the frame window do, in their order.
+constexpr std::array kMoves{&anim::FrameNavigation::Previous, &anim::FrameNavigation::Next,
+                            &anim::FrameNavigation::Back, &anim::FrameNavigation::First};
+
+}  // namespace
+
+AnimationDesk::AnimationDesk(const anim::AnimSurroundings& with, QMainWindow& frame, frmBMPView& full_view,
+                             frmZoom& zoom)
+    : with_(with), frame_(frame), full_view_(full_view), zoom_(zoom), mode_(with, *this), navigation_(with) {
+  turn_.setSingleShot(true);
+  turn_.setTimerType(Qt::PreciseTimer);
+  connect(&turn_, &QTimer::timeout, this, &AnimationDesk::PlayTurn);
+}
+
+void AnimationDesk::ShowProperties() {
+  SettingsDialog dialog(with_.settings, "frmAnimProperties", "Animation properties", &frame_);
+  dialog.AddText(anim::kFolder, "Animation &folder",
+                 "It is the beginning of every frame's path, so it ends in a separator");
+  dialog.AddText(anim::kAnimPrefix, "Animation &prefix", "Frames are named prefix, four digits, .kvp");
+  dialog.exec();
+  if (frame_window_ != nullptr) ShowFrame();
+}
+
+void AnimationDesk::ShowCheckMark(bool) {
+  emit CheckMarkChanged();
+}
+
+void AnimationDesk::ShowStatus(std::string_view text) {
+  emit StatusChanged(ToQt(text));
+}
+
+void AnimationDesk::ShowFrameWindow() {
+  if (frame_window_ == nullptr) MakeFrameWindow();
+  ShowFrame();
+  frame_window_->show();
+}
+
+void AnimationDesk::MakeFrameWindow() {
+  frame_window_ = new frmAnim(&frame_);
+  const anim::FrameWindowPlace place = anim::ReadFrameWindowPlace(with_.settings);
+  PlaceFloating(*frame_window_, {place.left, place.top}, frame_);
+  frame_window_->SetPlayRate(anim::ReadPlayRate(with_.settings));
+  frame_window_->SetOnionSkin(anim::ReadOnionSkin(with_.settings));
+  connect(frame_window_, &frmAnim::Clicked, this, [this](int button) {
+    StopPlay();
+    Move([this, button] { return (navigation_.*kMoves.at(static_cast<std::size_t>(button)))(); });
+  });
+  connect(frame_window_, &frmAnim::NumberTyped, this,
+          [this](const QString& number) { Move([&] { return navigation_.GoTo(FromQt(number)); }); });
+  connect(frame_window_, &frmAnim::PlayAsked, this, &AnimationDesk::TogglePlay);
+  connect(frame_window_, &frmAnim::PlayRateChanged, this, [this](int rate) {
+    anim::KeepPlayRate(with_.settings, rate);
+    if (player_) StartPlay();
+  });
+  connect(frame_window_, &frmAnim::OnionSkinChanged, this, [this](bool on) {
+    anim::KeepOnionSkin(with_.settings, on);
+    ShowOnionSkin();
+  });
+  connect(frame_window_, &frmAnim::KeyReleased, this, &AnimationDesk::KeyReleased);
+  connect(frame_window_, &frmAnim::Closed, this, [this](QPoint at) {
+    StopPlay();
+    frame_window_->disconnect(this);  // until it is deleted it may be closed again
+    std::exchange(frame_window_, nullptr)->deleteLater();
+    zoom_.SetOnionSkin(std::nullopt);
+    mode_.FrameWindowUnloaded({at.x(), at.y()});
+  });
+}
+
+void AnimationDesk::ArrangeWindow() {
+  if (frame_window_ != nullptr) ArrangeFloating(*frame_window_, frame_);
+}
+
+void AnimationDesk::UnloadFrameWindow() {
+  if (frame_window_ != nullptr) frame_window_->close();
+}
+
+void AnimationDesk::Move(const std::function<std::string()>& move) {
+  const QScopedValueRollback moving(is_moving_, true);
+  const std::string word = move();
+  if (!word.empty()) emit Word(ToQt(word));
+  if (frame_window_ != nullptr) ShowFrame();
+}
+
+void AnimationDesk::FileChanged() {
+  if (frame_window_ != nullptr && !is_moving_) ShowFrame();
+}
+
+void AnimationDesk::ShowFrame() {
+  navigation_.Refresh();
+  const auto current = navigation_.CurrentFrame();
+  frame_window_->ShowFrame(current ? QString::number(*current) : QString(), navigation_.Row().Count());
+  ShowOnionSkin();
+}
+
+void AnimationDesk::ShowOnionSkin() {
+  zoom_.SetOnionSkin(anim::ReadOnionSkin(with_.settings) ? navigation_.PictureBefore() : std::nullopt);
+}
+
+void AnimationDesk::TogglePlay() {
+  player_ ? StopPlay() : StartPlay();
+}
+
+// From the first frame on, also while frames are playing already.
+void AnimationDesk::StartPlay() {
+  navigation_.Refresh();
+  player_.emplace(navigation_.Row().ReadablePaths(), frame_window_->PlayRate());
+  if (player_->IsEmpty()) {
+    StopPlay();
+    emit Word(anim::kNoFrames);
+    return;
+  }
+  frame_window_->ShowPlaying(true);
+  playing_since_.start();
+  PlayTurn();
+}
+
+void AnimationDesk::StopPlay() {
+  if (!player_) return;
+  turn_.stop();
+  player_.reset();
+  frame_window_->ShowPlaying(false);
+  full_view_.ShowPreview(nullptr);
+}
+
+void AnimationDesk::PlayTurn() {
+  const auto now = [this] { return anim::FramePlayer::Milliseconds(playing_since_.elapsed()); };
+  if (const model::PictureImage* picture = player_->Due(now())) full_view_.ShowPreview(picture);
+  player_->ReadAhead();
+  turn_.start(player_->UntilNext(now()));
+}
+
+}  // namespace kelvo::ui

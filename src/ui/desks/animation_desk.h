@@ -1,0 +1,71 @@
+// Connects animation with its windows: the frame window, the full view while it plays, the onion skin in the zoom
+// window.
+#pragma once
+
+#include <QElapsedTimer>
+#include <QMainWindow>
+#include <QObject>
+#include <QTimer>
+#include <functional>
+#include <optional>
+
+#include "anim/anim_mode.h"
+#include "anim/frame_navigation.h"
+#include "anim/frame_player.h"
+#include "ui/windows/frm_anim.h"
+#include "ui/windows/frm_bmp_view.h"
+#include "ui/windows/frm_zoom.h"
+
+namespace kelvo::ui {
+
+class AnimationDesk : public QObject, private anim::AnimDisplay {
+  Q_OBJECT
+
+ public:
+  AnimationDesk(const anim::AnimSurroundings& with, QMainWindow& frame, frmBMPView& full_view, frmZoom& zoom);
+
+  anim::AnimMode& Mode() { return mode_; }
+  const anim::AnimMode& Mode() const { return mode_; }
+  void ShowProperties();
+  // Puts the frame window, if there is one, where it belongs by default.
+  void ArrangeWindow();
+  // Closes the frame window, if there is one; its place is kept.
+  void UnloadFrameWindow() override;
+  // The current file, or what is in it, may be another one now.
+  void FileChanged();
+
+ signals:
+  void CheckMarkChanged();
+  void StatusChanged(const QString& text);  // "ANIM=ON", "ANIM=OFF"
+  void KeyReleased(QKeyEvent* event);       // in the frame window, which has no use for it
+  void Word(const QString& word);           // for the status bar
+
+ private:
+  void ShowCheckMark(bool on) override;
+  void ShowStatus(std::string_view text) override;
+  void ShowFrameWindow() override;
+
+  void MakeFrameWindow();
+  void Move(const std::function<std::string()>& move);
+  void ShowFrame();
+  void ShowOnionSkin();
+  void TogglePlay();
+  void StartPlay();
+  void StopPlay();
+  void PlayTurn();
+
+  anim::AnimSurroundings with_;
+  QMainWindow& frame_;
+  frmBMPView& full_view_;
+  frmZoom& zoom_;
+  anim::AnimMode mode_;
+  anim::FrameNavigation navigation_;
+  frmAnim* frame_window_ = nullptr;
+  bool is_moving_ = false;  // from frame to frame: the files that are opened and saved are those of the move
+
+  std::optional<anim::FramePlayer> player_;
+  QElapsedTimer playing_since_;
+  QTimer turn_;
+};
+
+}  // namespace kelvo::ui

@@ -1,0 +1,94 @@
+#include "ui/desks/build_desk.h"
+
+#include <QLockFile>
+#include <utility>
+
+#include "app/path_text.h"
+#include "app/text.h"
+#include "c64out/output_settings.h"
+#include "c64out/vice_folder.h"
+#include "ui/ports/qt_text.h"
+#include "ui/widgets/settings_dialog.h"
+#include "ui/windows/frm_vice_settings.h"
+
+namespace kelvo::ui {
+
+BuildDesk::BuildDesk(const BuildDeskSurroundings& with, QWidget* window)
+    : with_(with), window_(window), runner_(with.runner) {
+  connect(&runner_, &QtToolRunner::StateChanged, this, &BuildDesk::StateChanged);
+}
+
+void BuildDesk::BuildCompoPic(const c64out::CompoPicChoice& choice) {
+  if (runner_.IsShowing()) {
+    next_ = choice;
+    return runner_.Stop();
+  }
+  if (!IsFree() || is_running_ || (!with_.document.file.HasFile() && !with_.files.SaveAs())) return;
+  Run(choice);
+  if (!next_) return;
+  const c64out::CompoPicChoice next = *std::exchange(next_, std::nullopt);
+  QMetaObject::invokeMethod(
+      this, [this, next] { BuildCompoPic(next); }, Qt::QueuedConnection);
+}
+
+void BuildDesk::Run(const c64out::CompoPicChoice& choice) {
+  is_running_ = true;
+  emit StateChanged();
+  c64out::BuildResult result = BuildAlone(choice);
+  if (result.emulator) result.outcome = c64out::ShowInEmulator(*result.emulator, ForBuilds());
+  is_running_ = false;
+  emit StateChanged();
+  emit Ended(result.outcome);
+}
+
+// Programs on one program folder build in the same work files. The picture may change while tools are at work: the
+// build has its own copy.
+c64out::BuildResult BuildDesk::BuildAlone(const c64out::CompoPicChoice& choice) {
+  QLockFile lock(ToQt(app::TextFromPath(with_.folders.System() / "build.lock")));
+  lock.setStaleLockTime(0);
+  if (!lock.tryLock(0) && lock.error() == QLockFile::LockFailedError) {
+    with_.prompt.CommandPromptList("--> Another Kelvo is building in the same program folder.");
+    with_.prompt.CommandPromptList("--> [err 908]");
+    return {c64out::BuildOutcome::kFailed, {}};
+  }
+  const files::Document picture = with_.document;
+  return c64out::BuildCompoPic(picture, choice, ForBuilds());
+}
+
+c64out::BuildSurroundings BuildDesk::ForBuilds() const {
+  return {static_cast<const app::Surroundings&>(with_), runner_};
+}
+
+void BuildDesk::Stop() {
+  if (IsBuilding()) runner_.Stop();
+}
+
+void BuildDesk::LeaveAll() {
+  next_.reset();
+  runner_.Stop();
+}
+
+void BuildDesk::LookForVice() {
+  const std::string stored = with_.settings.Read(c64out::kVicePath);
+  const std::string_view folder = app::Trimmed(stored);
+  is_vice_ready_ = !folder.empty() && c64out::FindEmulator(folder);
+  if (!folder.empty() && !is_vice_ready_) with_.messages.Warn("Incorrect VICE path");
+  emit StateChanged();
+}
+
+void BuildDesk::ShowViceSettings() {
+  frmViceSettings dialog(with_.settings, with_.messages, window_);
+  connect(&dialog, &frmViceSettings::ViceEntriesEnabled, this, [this](bool enabled) { is_vice_ready_ = enabled; });
+  dialog.exec();
+  emit StateChanged();
+}
+
+void BuildDesk::ShowCodenetSettings() {
+  SettingsDialog dialog(with_.settings, "frmCodenetSettings", "Codenet settings", window_);
+  dialog.AddText(c64out::kCodenetC64Ip, "&IP to C64 server");
+  dialog.AddText(c64out::kCodenetPrgName, "&PRG name");
+  dialog.AddHint("A PRG name that is set overrides the picture's file name.");
+  dialog.exec();
+}
+
+}  // namespace kelvo::ui

@@ -1,0 +1,63 @@
+// Starts builds, one at a time, and tells how they go.
+#pragma once
+
+#include <QObject>
+#include <optional>
+
+#include "c64out/build_compo_pic.h"
+#include "files/picture_files.h"
+#include "ui/ports/qt_tool_runner.h"
+
+namespace kelvo::ui {
+
+// What builds take from the main window.
+struct BuildDeskSurroundings : app::Surroundings {
+  const files::Document& document;
+  files::PictureFiles& files;
+  QtToolRunner& runner;
+};
+
+class BuildDesk : public QObject {
+  Q_OBJECT
+
+ public:
+  BuildDesk(const BuildDeskSurroundings& with, QWidget* window);
+
+  // Passed over while a build or a transfer is at work. A picture that has no file is saved under a name first. While
+  // the emulator is waited for another build may begin: it is left running then.
+  void BuildCompoPic(const c64out::CompoPicChoice& choice);
+
+  // Ends a build at work. The emulator is not a part of it.
+  void Stop();
+  // The program ends: nothing is waited for any more.
+  void LeaveAll();
+  bool IsBuilding() const { return is_running_ && !runner_.IsShowing(); }
+  // Whether a build may begin.
+  bool IsFree() const { return !IsBuilding() && !runner_.IsBusy(); }
+
+  // At start: looks where the settings say that VICE is, and tells when it is not there.
+  void LookForVice();
+  bool IsViceReady() const { return is_vice_ready_; }
+
+  void ShowViceSettings();
+  void ShowCodenetSettings();
+
+ signals:
+  // What can be chosen may have changed.
+  void StateChanged();
+  // Where a build failed, its lines in the prompt say why.
+  void Ended(c64out::BuildOutcome outcome);
+
+ private:
+  void Run(const c64out::CompoPicChoice& choice);
+  c64out::BuildResult BuildAlone(const c64out::CompoPicChoice& choice);
+  c64out::BuildSurroundings ForBuilds() const;
+
+  BuildDeskSurroundings with_;
+  QWidget* window_;
+  QtToolRunner& runner_;
+  bool is_running_ = false, is_vice_ready_ = false;
+  std::optional<c64out::CompoPicChoice> next_;  // chosen while the emulator was waited for
+};
+
+}  // namespace kelvo::ui

@@ -1,0 +1,207 @@
+#include "ui/desks/painting_desk.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "editing/pen_keys.h"
+#include "model/pixel_place.h"
+#include "optimise/background_colour.h"
+#include "optimise/eor_vectors.h"
+#include "ui/ports/display_frame.h"
+
+namespace kelvo::ui {
+namespace {
+
+constexpr std::array<std::pair<int, model::ZoomMove>, 8> kZoomKeys{{
+    {Qt::Key_Left, model::ZoomMove::kLeft},
+    {Qt::Key_Right, model::ZoomMove::kRight},
+    {Qt::Key_Up, model::ZoomMove::kUp},
+    {Qt::Key_Down, model::ZoomMove::kDown},
+    {Qt::Key_PageUp, model::ZoomMove::kPageUp},
+    {Qt::Key_PageDown, model::ZoomMove::kPageDown},
+    {Qt::Key_Home, model::ZoomMove::kRowStart},
+    {Qt::Key_End, model::ZoomMove::kRowEnd},
+}};
+
+Qt::MouseButton QtButton(editing::Button button) {
+  return button == editing::Button::kLeft ? Qt::LeftButton : Qt::RightButton;
+}
+
+char LetterOf(int key) {
+  return key > 0 && key < 128 ? static_cast<char>(key) : '\0';
+}
+
+}  // namespace
+
+PaintingDesk::PaintingDesk(files::Document& document, const editing::PaintingPorts& ports,
+                           const PaintingWindows& windows)
+    : document_(document),
+      windows_(windows),
+      painting_(document.picture, ports),
+      messages_(ports.messages),
+      views_(ports.views) {
+  ConnectZoom();
+  ConnectPens();
+  pointer_pause_.setSingleShot(true);
+  pointer_pause_.setInterval(kDisplayFrameMilliseconds);
+  connect(&pointer_pause_, &QTimer::timeout, this, [this] {
+    if (pointer_ != shown_pointer_) ShowPointer();
+  });
+  connect(&windows_.toolbar, &PaintToolBar::ToolChosen, this, &PaintingDesk::ChooseTool);
+  ShowColours();
+}
+
+void PaintingDesk::ConnectZoom() {
+  connect(&windows_.zoom, &frmZoom::Pressed, this, &PaintingDesk::Press);
+  connect(&windows_.zoom, &frmZoom::Moved, this, &PaintingDesk::Move);
+  connect(&windows_.zoom, &frmZoom::Released, this, [this](Qt::MouseButton button) {
+    const auto stroke = painting_.StrokeButton();
+    if (stroke && QtButton(*stroke) == button) painting_.Release();
+    ActionDone();
+  });
+}
+
+void PaintingDesk::ConnectPens() {
+  connect(&windows_.colors, &frmColors::LeftPenChosen, this, &PaintingDesk::SetLeftPen);
+  connect(&windows_.colors, &frmColors::RightPenChosen, this, &PaintingDesk::SetRightPen);
+  connect(&windows_.colors, &frmColors::BackgroundChosen, this, &PaintingDesk::BackgroundChosen);
+  connect(&windows_.pens, &frmPens::LeftPenChosen, this, &PaintingDesk::SetLeftPen);
+  connect(&windows_.pens, &frmPens::RightPenChosen, this, &PaintingDesk::SetRightPen);
+  connect(&windows_.pens, &frmPens::SwapAsked, this, [this] {
+    painting_.PenColours().Swap();
+    ShowColours();
+  });
+}
+
+void PaintingDesk::Press(QPoint at, Qt::MouseButton button) {
+  const auto point = windows_.zoom.Area().VisiblePixelAt(at.x(), at.y());
+  if (!point || (button != Qt::LeftButton && button != Qt::RightButton)) return;
+  PointAt(*point);
+  painting_.Press({*point, button == Qt::LeftButton ? editing::Button::kLeft : editing::Button::kRight});
+  ActionDone();
+}
+
+void PaintingDesk::Move(QPoint at, Qt::MouseButtons buttons) {
+  windows_.full_view.ShowPlainCaption();
+  const model::PixelPoint point = windows_.zoom.Area().PixelAt(at.x(), at.y());
+  const auto stroke = painting_.StrokeButton();
+  if (stroke) painting_.Move(point, buttons.testFlag(QtButton(*stroke)));
+  if (model::IsInPicture(point.x, point.y)) PointAt(point);
+  ShowPreview(point);
+}
+
+void PaintingDesk::ShowPreview(model::PixelPoint pointer) {
+  windows_.zoom.ShowPreview(painting_.Preview(pointer), painting_.PenColours().left);
+}
+
+// A hand moves the pointer up to a thousand times a second; what shows it follows once a display frame.
+void PaintingDesk::PointAt(model::PixelPoint at) {
+  pointer_ = at;
+  if (pointer_pause_.isActive()) return;
+  ShowPointer();
+  pointer_pause_.start();
+}
+
+void PaintingDesk::ShowPointer() {
+  shown_pointer_ = pointer_;
+  const model::PixelPlace place = model::LookUpPixel(pointer_.x, pointer_.y);
+  windows_.char_data.Show(place);
+  windows_.colors.ShowCell(model::ColoursOfCell(document_.picture, place.cell));
+  emit PointerAt(QString("x=%1 y=%2 col=%3 row=%4").arg(pointer_.x).arg(pointer_.y).arg(place.column).arg(place.row));
+}
+
+void PaintingDesk::ActionDone() {
+  windows_.toolbar.ShowTool(painting_.ToolIndex());
+  windows_.toolbar.ShowCopy(painting_.CopyBuffer(), document_.picture.BackgroundColour);
+  ShowPreview(pointer_);
+  ShowPointer();
+  emit StateChanged();
+}
+
+void PaintingDesk::ChooseTool(int index) {
+  painting_.ChooseTool(index);
+  ActionDone();
+}
+
+void PaintingDesk::Undo() {
+  painting_.Undo();
+  ActionDone();
+}
+
+void PaintingDesk::Tick() {
+  const auto prompt = painting_.Prompt();
+  if (painting_.Tick() || painting_.Prompt() != prompt) ActionDone();
+}
+
+bool PaintingDesk::HandleKeyUp(int key, Qt::KeyboardModifiers modifiers) {
+  if (key == Qt::Key_Escape) {
+    painting_.Escape();
+    ActionDone();
+    return true;
+  }
+  if (MoveZoomArea(key, modifiers)) return true;
+  if (modifiers & ~(Qt::ShiftModifier | Qt::KeypadModifier)) return false;
+  const char letter = LetterOf(key);
+  if (const auto colour = editing::PenForKey(letter)) {
+    SetLeftPen(*colour);
+    return true;
+  }
+  const auto tools = editing::ToolTable();
+  const auto tool = std::find_if(tools.begin(), tools.end(), [letter](const auto& row) { return row.key == letter; });
+  if (tool == tools.end()) return false;
+  ChooseTool(static_cast<int>(tool - tools.begin()) + 1);
+  return true;
+}
+
+bool PaintingDesk::MoveZoomArea(int key, Qt::KeyboardModifiers modifiers) {
+  const auto* row = std::find_if(kZoomKeys.begin(), kZoomKeys.end(), [key](const auto& r) { return r.first == key; });
+  if (row == kZoomKeys.end()) return false;
+  const bool far = modifiers.testFlag(Qt::ControlModifier);
+  windows_.zoom.Move(row->second, far ? model::ZoomStep::kScreen : model::ZoomStep::kCell);
+  return true;
+}
+
+void PaintingDesk::SetLeftPen(model::C64Colour colour) {
+  painting_.PenColours().left = colour;
+  ShowColours();
+}
+
+void PaintingDesk::SetRightPen(model::C64Colour colour) {
+  painting_.PenColours().right = colour;
+  ShowColours();
+}
+
+// A pass comes to a thousand cells within a display frame: the window is moved along only where one can see it.
+void PaintingDesk::ShowCell(int cell) {
+  const bool is_last = cell == model::PictureImage::kCells;
+  if (pointer_pause_.isActive() && !is_last) return;
+  windows_.colors.ShowCell(model::ColoursOfCell(document_.picture, cell));
+  pointer_pause_.start();
+}
+
+void PaintingDesk::OptimizeBackgroundColor() {
+  optimise::OptimizeBackgroundColor(document_.picture, windows_.full_view.Progress(), *this);
+  windows_.char_data.Show(model::LookUpPixel(pointer_.x, pointer_.y));
+  views_.PictureChanged();
+}
+
+void PaintingDesk::OptimizeForEORVector() {
+  optimise::OptimizeForEORVector(messages_, windows_.full_view.Progress(), *this);
+}
+
+void PaintingDesk::PictureReplaced() {
+  painting_.Forget();
+  ShowColours();
+}
+
+void PaintingDesk::ShowColours() {
+  const editing::Pens& pens = painting_.PenColours();
+  windows_.pens.ShowPens(pens.left, pens.right);
+  windows_.colors.PaintColor(pens.left);
+  windows_.colors.RightColor(pens.right);
+  windows_.colors.BGColor(document_.picture.BackgroundColour);
+  ActionDone();
+}
+
+}  // namespace kelvo::ui

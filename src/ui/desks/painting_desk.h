@@ -1,0 +1,88 @@
+// Connects painting with the windows it happens in: zoom window, toolbar, colours, pens and char data.
+#pragma once
+
+#include <QObject>
+#include <QPoint>
+#include <QTimer>
+
+#include "editing/painting.h"
+#include "files/document.h"
+#include "optimise/cell_sweep.h"
+#include "ui/widgets/paint_tool_bar.h"
+#include "ui/windows/frm_bmp_view.h"
+#include "ui/windows/frm_char_data.h"
+#include "ui/windows/frm_colors.h"
+#include "ui/windows/frm_pens.h"
+#include "ui/windows/frm_zoom.h"
+
+namespace kelvo::ui {
+
+struct PaintingWindows {
+  frmBMPView& full_view;
+  frmZoom& zoom;
+  frmColors& colors;
+  frmPens& pens;
+  frmCharData& char_data;
+  PaintToolBar& toolbar;
+};
+
+class PaintingDesk : public QObject, private optimise::CellDisplay {
+  Q_OBJECT
+
+ public:
+  PaintingDesk(files::Document& document, const editing::PaintingPorts& ports, const PaintingWindows& windows);
+
+  const editing::Painting& Painting() const { return painting_; }
+  void ChooseTool(int index);  // 1..7
+  void Undo();
+  void Tick();
+
+  // A key was released in the main window or a child window of it. True when it meant something.
+  bool HandleKeyUp(int key, Qt::KeyboardModifiers modifiers);
+
+  // The window went to the background: a stroke under way ends. A message box that the stroke itself called up is no
+  // such case: the button may still be held when it closes.
+  void LoseFocus() {
+    if (!painting_.IsBusy()) painting_.Release();
+  }
+
+  // The whole-picture passes, with the progress bar of the full view.
+  void OptimizeBackgroundColor();
+  void OptimizeForEORVector();
+
+  // Another picture is in memory.
+  void PictureReplaced();
+  // Everything that shows pens, background or the cell under the pointer is shown anew.
+  void ShowColours();
+
+ signals:
+  // The prompt, the undo step or the tool may have changed.
+  void StateChanged();
+  void PointerAt(const QString& text);
+  void BackgroundChosen(model::C64Colour colour);
+
+ private:
+  void ConnectZoom();
+  void ConnectPens();
+  void Press(QPoint at, Qt::MouseButton button);
+  void Move(QPoint at, Qt::MouseButtons buttons);
+  void PointAt(model::PixelPoint at);
+  void ShowPointer();
+  void ShowPreview(model::PixelPoint pointer);
+  void SetLeftPen(model::C64Colour colour);
+  void SetRightPen(model::C64Colour colour);
+  bool MoveZoomArea(int key, Qt::KeyboardModifiers modifiers);
+  void ActionDone();
+  void ShowCell(int cell) override;
+
+  files::Document& document_;
+  PaintingWindows windows_;
+  editing::Painting painting_;
+  model::PixelPoint pointer_;  // where the pointer was last over the picture
+  model::PixelPoint shown_pointer_;
+  app::Messages& messages_;
+  model::PictureViews& views_;
+  QTimer pointer_pause_;  // runs for a display frame after the pointer was shown
+};
+
+}  // namespace kelvo::ui

@@ -1,0 +1,51 @@
+#include "ui/widgets/paint_tool_bar.h"
+
+#include "editing/painting.h"
+#include "model/cell_view.h"
+#include "ui/ports/qt_text.h"
+#include "ui/widgets/icons.h"
+
+namespace kelvo::ui {
+namespace {
+
+constexpr int kCopySide = 32, kSmallestBox = 4;
+
+}  // namespace
+
+PaintToolBar::PaintToolBar(QWidget* parent)
+    : QToolBar("Tools", parent),
+      tools_(new QActionGroup(this)),
+      copy_(kCopySide, kCopySide),
+      picCopy_(new SurfaceView(copy_, kSmallestBox, this)) {
+  setObjectName("Toolbar1");
+  setIconSize({24, 24});
+  int index = 0;
+  for (const editing::ToolRow& row : editing::ToolTable()) {
+    ++index;
+    QAction* action = addAction(IconNamed(ToQt(row.name)), ToQt(row.caption));
+    action->setObjectName("tool_" + ToQt(row.name));
+    action->setCheckable(true);
+    action->setToolTip(QString("%1 (%2)").arg(ToQt(row.caption)).arg(QChar(row.key)));
+    action->setStatusTip(action->toolTip());
+    tools_->addAction(action);
+    connect(action, &QAction::triggered, this, [this, index] { emit ToolChosen(index); });
+  }
+  addSeparator();
+  picCopy_->setObjectName("picCopy");
+  picCopy_->setFocusPolicy(Qt::NoFocus);
+  picCopy_->setAccessibleName("Copied cell");
+  picCopy_->setToolTip("The cell that Mouse copy puts down: right button takes, left button puts");
+  addWidget(picCopy_);
+  ShowTool(editing::kDrawToolIndex);
+}
+
+void PaintToolBar::ShowTool(int index) {
+  tools_->actions().at(index - 1)->setChecked(true);
+}
+
+void PaintToolBar::ShowCopy(const model::DetachedCell& cell, model::C64Colour background) {
+  model::DrawCharCopy(cell, background, copy_);
+  picCopy_->Refresh();
+}
+
+}  // namespace kelvo::ui

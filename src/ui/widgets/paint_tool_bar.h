@@ -1,0 +1,31 @@
+// The toolbar: the seven tools, and the cell in the copy buffer.
+#pragma once
+
+#include <QActionGroup>
+#include <QToolBar>
+
+#include "model/pixel_colour.h"
+#include "model/surface.h"
+#include "ui/widgets/surface_view.h"
+
+namespace kelvo::ui {
+
+class PaintToolBar : public QToolBar {
+  Q_OBJECT
+
+ public:
+  explicit PaintToolBar(QWidget* parent);
+
+  void ShowTool(int index);  // 1..7
+  void ShowCopy(const model::DetachedCell& cell, model::C64Colour background);
+
+ signals:
+  void ToolChosen(int index);  // 1..7
+
+ private:
+  QActionGroup* tools_;
+  model::Surface copy_;
+  SurfaceView* picCopy_;
+};
+
+}  // namespace kelvo::ui

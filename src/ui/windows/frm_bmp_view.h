@@ -1,0 +1,55 @@
+// The full view: the whole picture at 1:1.
+#pragma once
+
+#include <QImage>
+#include <QProgressBar>
+#include <QWidget>
+
+#include "model/full_view.h"
+#include "model/picture_image.h"
+#include "model/surface.h"
+#include "model/zoom_area.h"
+#include "ui/ports/frame_progress.h"
+#include "ui/widgets/full_view_picture.h"
+
+namespace kelvo::ui {
+
+class frmBMPView : public QWidget {
+  Q_OBJECT
+
+ public:
+  frmBMPView(const model::PictureImage& picture, QWidget* parent);
+
+  void DrawPicture();
+  void RedrawChar(int cell);    // 1..1000
+  void PutPixel(int x, int y);  // 1..160, 1..200
+  void ShowPlainCaption();      // no pointer is over the picture
+
+  // Shows another picture instead, which is not edited; null shows the picture again.
+  void ShowPreview(const model::PictureImage* other);
+
+  // Marks the part that the zoom window shows, in full-view pixels.
+  void ShowZoomArea(const model::ZoomArea& area);
+
+  // What is shown, without the marker: 320 x 200.
+  QImage Picture() const;
+
+  app::Progress& Progress() { return progress_; }
+
+ signals:
+  void ZoomAreaChosen(int col, int row);  // 1..40, 1..25
+
+ private:
+  void picStd_MouseMove(QPoint at);
+  void picStd_Click();
+
+  const model::PictureImage& picture_;
+  model::Surface surface_;
+  bool previewing_ = false;
+  model::FullViewPointer pointer_;
+  FullViewPicture* picStd_;
+  QProgressBar* ProgressBar1_;
+  FrameProgress progress_;
+};
+
+}  // namespace kelvo::ui

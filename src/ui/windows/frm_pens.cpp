@@ -1,0 +1,58 @@
+#include "ui/windows/frm_pens.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QToolButton>
+
+#include "ui/widgets/icons.h"
+
+namespace kelvo::ui {
+namespace {
+
+// A click steps to the next colour, with Shift or the right button to the one before.
+model::C64Colour Step(model::C64Colour colour, Qt::MouseButton button, Qt::KeyboardModifiers modifiers) {
+  const bool back = button == Qt::RightButton || modifiers.testFlag(Qt::ShiftModifier);
+  return model::C64Colour::FromByte(static_cast<std::uint8_t>(colour.Number() + (back ? 15 : 1)));
+}
+
+}  // namespace
+
+frmPens::PenRow frmPens::MakeRow(const char* object_name) {
+  const PenRow pen{new SwatchButton(this), new QLabel(this)};
+  pen.swatch->setObjectName(object_name);
+  pen.swatch->setAccessibleDescription("A click takes the next color, with Shift the one before.");
+  pen.swatch->setStatusTip(pen.swatch->accessibleDescription());
+  pen.name->setMinimumWidth(pen.name->fontMetrics().horizontalAdvance("R: Middle gray "));
+  layout()->addWidget(pen.swatch);
+  layout()->addWidget(pen.name);
+  return pen;
+}
+
+frmPens::frmPens(QWidget* parent) : QWidget(parent) {
+  setObjectName("frmPens");
+  setWindowTitle(" Pens");
+  auto* row = new QHBoxLayout(this);
+  row->setContentsMargins(6, 6, 6, 6);
+  left_ = MakeRow("LeftPen");
+  right_ = MakeRow("RightPen");
+  auto* swap = new QToolButton(this);
+  swap->setObjectName("cmdSwap");
+  swap->setIcon(IconNamed("swap"));
+  swap->setToolTip("Swap the pens");
+  swap->setAccessibleName("Swap the pens");
+  row->addWidget(swap);
+  connect(swap, &QToolButton::clicked, this, &frmPens::SwapAsked);
+  connect(left_.swatch, &SwatchButton::Chosen, this,
+          [this](auto button, auto keys) { emit LeftPenChosen(Step(left_.swatch->Colour(), button, keys)); });
+  connect(right_.swatch, &SwatchButton::Chosen, this,
+          [this](auto button, auto keys) { emit RightPenChosen(Step(right_.swatch->Colour(), button, keys)); });
+}
+
+void frmPens::ShowPens(model::C64Colour left, model::C64Colour right) {
+  left_.swatch->Show(left, "Left pen");
+  left_.name->setText("L: " + PlainColourName(left));
+  right_.swatch->Show(right, "Right pen");
+  right_.name->setText("R: " + PlainColourName(right));
+}
+
+}  // namespace kelvo::ui

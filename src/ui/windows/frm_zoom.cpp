@@ -1,0 +1,135 @@
+#include "ui/windows/frm_zoom.h"
+
+#include <utility>
+
+#include "model/onion_skin.h"
+
+namespace kelvo::ui {
+frmZoom::frmZoom(const model::PictureImage& picture, QWidget* parent)
+    : QWidget(parent),
+      picture_(picture),
+      surface_(model::kZoomSurfaceWidth, model::kZoomSurfaceHeight),
+      picStd_(new ZoomPicture(surface_, area_, this)) {
+  setObjectName("frmZoom");
+  picStd_->setObjectName("picStd");
+  picStd_->setAccessibleName("Zoom picture");
+  picStd_->setAccessibleDescription("The part of the picture that is painted on.");
+  setFixedSize(picStd_->sizeHint());
+  ConnectBox();
+  SetMagnification(area_.Magnification());
+  DrawBorder();
+}
+
+template <typename Change>
+void frmZoom::ChangeArea(Change&& change) {
+  const model::ZoomArea before = area_;
+  change();
+  if (area_ == before) return;  // cppcheck-suppress knownConditionTrueFalse ; it does not see what the change changes
+  DrawCapturePic();
+  emit AreaChanged();
+}
+
+void frmZoom::ConnectBox() {
+  connect(picStd_, &SurfaceView::Pressed, this, [this](QPoint at, Qt::MouseButton button) {
+    grip_ = at;
+    emit Pressed(at, button);
+  });
+  connect(picStd_, &SurfaceView::Moved, this, [this](QPoint at, Qt::MouseButtons held) {
+    DragArea(at, held);
+    emit Moved(at, held);
+  });
+  connect(picStd_, &SurfaceView::Released, this, &frmZoom::Released);
+  connect(picStd_, &SurfaceView::Wheeled, this, &frmZoom::Wheel);
+}
+
+void frmZoom::SetMagnification(int magnification) {
+  area_.SetMagnification(magnification);
+  MagnificationDone();
+}
+
+void frmZoom::MagnificationDone() {
+  setWindowTitle(QString(" Zoom (%1:1)").arg(area_.Magnification()));
+  DrawCapturePic();
+  emit AreaChanged();
+  emit MagnificationChanged();
+}
+
+void frmZoom::Scroll(QPoint steps) {
+  ChangeArea([&] { area_.MoveTo(area_.ZoomOriginX() + steps.x() * 8, area_.ZoomOriginY() + steps.y() * 8); });
+}
+
+void frmZoom::Wheel(QPoint at, QPoint steps, Qt::KeyboardModifiers modifiers) {
+  if (modifiers.testFlag(Qt::ControlModifier)) {
+    area_.SetMagnificationAround(steps.y() < 0 ? 8 : 4, at.x(), at.y());
+    return MagnificationDone();
+  }
+  Scroll(modifiers.testFlag(Qt::ShiftModifier) ? steps.transposed() : steps);
+}
+
+// The picture follows the middle button cell by cell.
+void frmZoom::DragArea(QPoint at, Qt::MouseButtons held) {
+  if (!held.testFlag(Qt::MiddleButton)) return;
+  const int cell = 8 * area_.Magnification();
+  const QPoint steps((grip_.x() - at.x()) / cell, (grip_.y() - at.y()) / cell);
+  grip_ -= steps * cell;
+  if (!steps.isNull()) Scroll(steps);
+}
+
+void frmZoom::CentreOn(int col, int row) {
+  ChangeArea([&] { area_.CentreOn(col, row); });
+}
+
+void frmZoom::Move(model::ZoomMove move, model::ZoomStep step) {
+  ChangeArea([&] { area_.Move(move, step); });
+}
+
+void frmZoom::SetGridColor(model::C64Colour colour) {
+  grid_.colour = colour;
+  DrawCapturePic();
+}
+
+void frmZoom::SetBorder(model::ZoomBorder border) {
+  border_.Set(border);
+  DrawBorder();
+}
+
+void frmZoom::TickBorder() {
+  if (border_.Tick()) DrawBorder();
+}
+
+void frmZoom::DrawBorder() {
+  model::DrawZoomBorder(border_.Colour(), surface_);
+  for (const model::Rect& side : model::kZoomBorder) picStd_->Refresh(side);
+}
+
+void frmZoom::ShowPreview(editing::Points points, model::C64Colour colour) {
+  picStd_->ShowPreview(std::move(points), colour);
+}
+
+void frmZoom::SetOnionSkin(const std::optional<model::PictureImage>& other) {
+  if (!other && !onion_skin_) return;
+  onion_skin_ = other;
+  DrawCapturePic();
+}
+
+void frmZoom::DrawCapturePic() {
+  model::DrawCapturePic(picture_, area_, grid_, surface_);
+  if (onion_skin_) model::MixOnionSkin(*onion_skin_, area_, surface_);
+  picStd_->Refresh();
+}
+
+void frmZoom::RedrawZoomChar(int cell) {
+  if (!area_.ShowsCell(cell)) return;
+  model::RedrawZoomChar(picture_, cell, area_, grid_, surface_);
+  if (onion_skin_) model::MixOnionSkinCell(*onion_skin_, cell, area_, surface_);
+  picStd_->Refresh(area_.CellRect(cell));
+}
+
+void frmZoom::PutZoomPixel(int x, int y) {
+  if (!area_.ShowsPixel(x, y)) return;
+  model::PutZoomPixel(picture_, x, y, area_, grid_, surface_);
+  if (onion_skin_) model::MixOnionSkinPixel(*onion_skin_, x, y, area_, surface_);
+  picStd_->Refresh(area_.PixelRect(x, y));
+}
+
+}  // namespace kelvo::ui

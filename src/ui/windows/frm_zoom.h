@@ -1,0 +1,71 @@
+// The zoom window: a part of the picture at 4:1 or 8:1, where painting happens.
+#pragma once
+
+#include <QWidget>
+#include <optional>
+
+#include "editing/line.h"
+#include "model/picture_image.h"
+#include "model/surface.h"
+#include "model/zoom_area.h"
+#include "model/zoom_border.h"
+#include "model/zoom_view.h"
+#include "ui/widgets/zoom_picture.h"
+
+namespace kelvo::ui {
+
+class frmZoom : public QWidget {
+  Q_OBJECT
+
+ public:
+  frmZoom(const model::PictureImage& picture, QWidget* parent);
+
+  const model::ZoomArea& Area() const { return area_; }
+  void SetMagnification(int magnification);  // 4 or 8; shows the top left of the picture
+  void CentreOn(int col, int row);           // 1..40, 1..25
+  void Move(model::ZoomMove move, model::ZoomStep step);
+
+  model::C64Colour GridColor() const { return grid_.colour; }
+  void SetGridColor(model::C64Colour colour);
+  void SetBorder(model::ZoomBorder border);
+  void TickBorder();
+
+  // Shows points over the picture, as if they were drawn in `colour`; an empty list takes them away.
+  void ShowPreview(editing::Points points, model::C64Colour colour);
+
+  // Another picture shines through; none: empty.
+  void SetOnionSkin(const std::optional<model::PictureImage>& other);
+
+  void DrawCapturePic();
+  void RedrawZoomChar(int cell);    // 1..1000
+  void PutZoomPixel(int x, int y);  // 1..160, 1..200
+
+ signals:
+  void AreaChanged();
+  void MagnificationChanged();
+  // Pointer events on the picture box, in pixels of the zoom surface.
+  void Pressed(QPoint at, Qt::MouseButton button);
+  void Moved(QPoint at, Qt::MouseButtons buttons);
+  void Released(Qt::MouseButton button);
+
+ private:
+  template <typename Change>
+  void ChangeArea(Change&& change);
+  void DrawBorder();
+  void ConnectBox();
+  void MagnificationDone();
+  void Scroll(QPoint steps);
+  void Wheel(QPoint at, QPoint steps, Qt::KeyboardModifiers modifiers);
+  void DragArea(QPoint at, Qt::MouseButtons held);
+
+  const model::PictureImage& picture_;
+  model::ZoomArea area_;
+  model::ZoomGrid grid_;
+  model::ZoomBorderColour border_;
+  std::optional<model::PictureImage> onion_skin_;
+  model::Surface surface_;
+  ZoomPicture* picStd_;
+  QPoint grip_;  // where a middle drag holds the picture: the surface pixel of its last whole step
+};
+
+}  // namespace kelvo::ui
