@@ -248,6 +248,22 @@ TEST_F(CodenetTool, TellsAtOnceWhenNothingListens) {
   EXPECT_NE(run.errors.find("nothing listens"), std::string::npos) << run.errors;
 }
 
+TEST_F(CodenetTool, ReachesTheReceiverForDevelopersOverABadNetwork) {
+  const std::string port = std::to_string(support::CodenetServer().Port()), memory = folder_ / "memory";
+  support::RunningTool receiver(KELVO_CODENET_RECEIVER, {"-p", port, "-l", "5", "-1", memory});
+  const std::string file = File("pic.prg", support::CountingBytes(3002));  // loads to $0A03
+  for (int tries = 0; tries < 100; ++tries) {                              // until it listens
+    if (support::RunTool(KELVO_CODENET, {"-n", "127.0.0.1", "-p", port, "-w", file, "-e", "$c000"}).exit_code == 0)
+      break;
+    std::this_thread::sleep_for(std::chrono::milliseconds(20));
+  }
+  EXPECT_EQ(receiver.Wait().exit_code, 0);
+  const app::Bytes sent = support::CountingBytes(3002), taken = support::ReadFile(memory);
+  ASSERT_EQ(taken.size(), 0x10000U);
+  EXPECT_TRUE(std::equal(sent.begin() + 2, sent.end(), taken.begin() + 0x0A03));
+  EXPECT_EQ(support::RunTool(KELVO_CODENET_RECEIVER, {"-l", "0"}).exit_code, 2);
+}
+
 TEST_F(CodenetTool, CanBeStoppedWhileItWaits) {
   const support::CodenetServer mute({.vanishes_after = 1});
   support::RunningTool tool(KELVO_CODENET, {"-n", "127.0.0.1", "-p", std::to_string(mute.Port()), "-w",

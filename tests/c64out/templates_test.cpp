@@ -2,12 +2,12 @@
 #include <gtest/gtest.h>
 
 #include "app/whole_file.h"
+#include "c64/kernal_disk.h"
 #include "c64out/disk_ending.h"
 #include "c64out/fill_template.h"
 #include "c64out/saver_template.h"
 #include "c64out/tool_command.h"
 #include "support/files.h"
-#include "support/kernal_disk.h"
 #include "support/run_tool.h"
 
 namespace kelvo::c64out {
@@ -142,13 +142,11 @@ class SaverOnTheC64 : public testing::Test {
     ASSERT_GT(saver.size(), 2U);
     EXPECT_EQ(saver[0] | saver[1] << 8, 0xCF00);
     EXPECT_LE(saver.size() - 2, 0x100U);
-    const std::string line = "\x01\x08\x0C\x08\x0A\0\x9E"s + "52992\0\0\0"s;
-    machine_.Load(app::Bytes(line.begin(), line.end()));
     machine_.Load(saver);
     machine_.LeaveUnclean();
     machine_.Poke(0xFB, 0x12);
     machine_.Poke(0xFC, 0x34);
-    EXPECT_EQ(machine_.Run(), support::C64Machine::Ending::kReturns);
+    EXPECT_EQ(machine_.RunFrom(0xCF00), c64::Machine::Ending::kReturns);
     EXPECT_EQ(machine_.Cpu().stack, machine_.StackAtStart() + 2);
     EXPECT_EQ(machine_.Ram(0x01), 0x37);
     EXPECT_EQ(machine_.Ram(0xFB) | machine_.Ram(0xFC) << 8, 0x3412);
@@ -159,8 +157,8 @@ class SaverOnTheC64 : public testing::Test {
   static constexpr int kGreen = 5, kRed = 2;
 
   support::TempFolder folder_;
-  support::C64Machine machine_;
-  support::KernalDisk disk_{machine_};
+  c64::Machine machine_;
+  c64::KernalDisk disk_{machine_};
 };
 
 TEST_F(SaverOnTheC64, SavesUpToTheEndAddressOnTheLastDrive) {

@@ -11,9 +11,9 @@
 #include <random>
 
 #include "files/picture_format.h"
-#include "main_frame_fixture.h"
 #include "model/full_view.h"
 #include "support/pictures.h"
+#include "ui/main_frame_fixture.h"
 #include "ui/windows/frm_bmp_view.h"
 
 namespace kelvo::ui {
