@@ -122,12 +122,11 @@ void New(Call& call) {
 // Without an argument the mode itself is switched. ON and OFF set the flag and the status text alone, on purpose: they
 // ask nothing and open no window, and the menu's check mark may then disagree with the flag.
 void Anim(Call& call) {
-  app::AnimationSwitch& animation = call.with.animation;
+  const AnimationSwitch& animation = call.with.animation;
   if (call.argument.empty()) {
-    animation.ToggleAnimMode();
-    call.Reply(animation.IsAnimModeChecked() ? "ANIM ON" : "ANIM OFF");
+    call.Reply(animation.toggle() ? "ANIM ON" : "ANIM OFF");
   } else if (call.argument == "ON" || call.argument == "OFF") {
-    animation.SetAnimFlag(call.argument == "ON");
+    animation.set_flag(call.argument == "ON");
     call.Reply(call.line);
   } else {
     call.Fail(call.line, kBadAnimArgument);

@@ -11,7 +11,6 @@
 #include "app/durable_file.h"
 #include "app/file_name.h"
 #include "app/folder_entries.h"
-#include "app/free_name.h"
 #include "app/path_text.h"
 #include "app/text.h"
 #include "app/whole_file.h"

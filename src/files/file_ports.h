@@ -18,7 +18,7 @@ struct ChosenFile {
 class FileDialogs {
  public:
   virtual ~FileDialogs() = default;
-  // "Select file" with OpenFilter(), starting in `folder`.
+  // "Select file" with OfferedFormats(), starting in `folder`.
   virtual std::optional<ChosenFile> SelectFile(const std::string& folder) = 0;
   // "Save Kelvo-file", proposing `path`. A file of just the answer's name may be replaced: the dialog has asked.
   virtual std::optional<std::string> SaveAs(const std::string& path) = 0;

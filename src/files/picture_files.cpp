@@ -8,7 +8,7 @@
 #include "files/backups.h"
 #include "files/load_picture.h"
 #include "files/picture_format.h"
-#include "files/rescue_copy.h"
+#include "files/recovery_copy.h"
 
 namespace kelvo::files {
 namespace {

@@ -6,8 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include "app/long_work.h"
 #include "app/surroundings.h"
-#include "app/wait_pointer.h"
 #include "files/document.h"
 #include "files/file_ports.h"
 #include "files/recent_files.h"

@@ -4,6 +4,7 @@
 
 #include "app/path_text.h"
 #include "app/whole_file.h"
+#include "files/backups.h"
 #include "files/load_picture.h"
 #include "files/picture_format.h"
 
@@ -88,6 +89,14 @@ void RecoveryCopy::RemoveBut(const Place* newest) {
   for (Place& place : places_) {
     if (&place != newest && place.is_used) place.is_used = !place.files.Remove();
   }
+}
+
+std::filesystem::path KeepRescueCopy(const Document& document, const app::ProgramFolders& folders,
+                                     const app::Clock& clock) {
+  model::PictureImage picture = document.picture;
+  Sign(picture);
+  const std::string name = document.file.HasFile() ? document.file.CurrentFileName : "unnamed";
+  return Backups(folders, clock).Keep(Encode(picture), name, "_unsaved", ".kvp");
 }
 
 }  // namespace kelvo::files

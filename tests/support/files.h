@@ -10,7 +10,7 @@
 #include <string_view>
 #include <vector>
 
-#include "app/whole_file.h"
+#include "app/bytes.h"
 
 namespace kelvo::support {
 

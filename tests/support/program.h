@@ -9,11 +9,11 @@
 
 #include "app/clock.h"
 #include "app/error_log.h"
+#include "app/long_work.h"
 #include "app/messages.h"
 #include "app/path_text.h"
 #include "app/program_folders.h"
 #include "app/settings_store.h"
-#include "app/wait_pointer.h"
 #include "files/picture_files.h"
 #include "model/picture_views.h"
 #include "support/files.h"

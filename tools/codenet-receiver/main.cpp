@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "app/text.h"
+#include "app/whole_file.h"
 #include "codenet/arguments.h"
 #include "receiver.h"
 

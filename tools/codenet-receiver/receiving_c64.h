@@ -3,9 +3,10 @@
 
 #include <cstdint>
 #include <span>
+#include <string>
 #include <vector>
 
-#include "app/whole_file.h"
+#include "app/bytes.h"
 
 namespace kelvo::codenet {
 

@@ -9,9 +9,6 @@
 
 namespace kelvo::ui {
 
-// "Caption|*.a;*.b|Caption|*.c" as Qt's "Caption (*.a *.b);;Caption (*.c)".
-QString ToQtFilter(std::string_view filter);
-
 // Where a dialog begins for a stored `path`: there, or in the nearest folder above it that still exists; without a path
 // in the user's folder.
 QString StillThere(const QString& path);
