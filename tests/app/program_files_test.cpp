@@ -13,11 +13,8 @@
 #ifndef _WIN32
 #include <fcntl.h>
 #include <sys/file.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
-
-#include <csignal>
 #endif
 
 namespace kelvo::app {
@@ -79,15 +76,6 @@ TEST(ProgramFolders, LieBesideTheProgramOnlyWhereThatCanBeWritten) {
     EXPECT_EQ(ChooseProgramFolder(portable.Path(), "user"), "user") << kept;
     EXPECT_EQ(ProgramFolders(portable.Path()).FindReadOnly(), portable / kept);
   }
-}
-
-TEST(PathText, PartsEndAtTheLastSeparator) {
-  EXPECT_EQ(FolderPart("/a/b.c/d"), "/a/b.c");
-  EXPECT_EQ(FolderPart("d"), "");
-  EXPECT_EQ(LowerExtension("/a/b.c/d"), "");
-#ifndef _WIN32
-  EXPECT_EQ(FileNamePart("a\\b"), "a\\b");  // a backslash is part of a name here
-#endif
 }
 
 TEST(Settings, NonsenseReadsAsTheDefault) {
@@ -181,22 +169,6 @@ TEST(OwnFiles, WhatKilledWritersLeftIsSweptAndNothingElse) {
   SweepTemporaryFiles(folder.Path());
   close(writing);
   EXPECT_EQ(support::NamesIn(folder.Path()), (support::Lines{".kelvo-2.tmp", ".kelvo-settings", "kelvo-3.tmp"}));
-}
-
-TEST(WholeFile, AWriteThatFailsMidwayLeavesTheOldFile) {
-  const support::TempFolder folder;
-  WriteWholeFile(folder / "picture", Bytes(100, 7));
-  const auto previous = std::signal(SIGXFSZ, SIG_IGN);
-  rlimit before{};
-  getrlimit(RLIMIT_FSIZE, &before);
-  rlimit small = before;
-  small.rlim_cur = 5000;  // the disk is full after 5000 bytes
-  setrlimit(RLIMIT_FSIZE, &small);
-  EXPECT_THROW(WriteWholeFile(folder / "picture", Bytes(10050, 8)), FileError);
-  setrlimit(RLIMIT_FSIZE, &before);
-  std::signal(SIGXFSZ, previous);
-  EXPECT_EQ(support::ReadFile(folder / "picture"), Bytes(100, 7));
-  EXPECT_EQ(support::NamesIn(folder.Path()).size(), 1U);
 }
 #endif
 

@@ -76,48 +76,56 @@ class BuildCompoPicTest : public testing::Test, public Scene {};
 
 constexpr CompoPicChoice kPrg = kCreatePrg, kD64 = kCreateD64, kVice = kPreviewInVice, kPreview = kPreviewOnC64;
 
-TEST_F(BuildCompoPicTest, MakesAPrgBesideThePicture) {
-  const files::Document before = document;
-  EXPECT_TRUE(Build(kPrg));
-  EXPECT_EQ(prompt.lines, (Lines{"CREATING PRG", "--> Compiling source", "--> Crushing source", "--> Adding depacker",
-                                 "--> PRG complete."}));
-  EXPECT_EQ(tools.commands,
-            (Lines{"tass bmpshow.tmp bmpshow.obj", "crush 6 bmpshow.obj bmpshow.pak", "tass decrush.tmp bmpshow.prg"}));
-  EXPECT_EQ(tools.sources,
-            (Lines{"show " + System("temp.kvp") + "\r\n colour 0B\r\n", "unpack " + System("bmpshow.pak") + "\r\n"}));
-  EXPECT_EQ(support::ReadText(folder / "art/My Pic.prg"), System("decrush.tmp") + " made");
-  EXPECT_EQ(support::NamesIn(folders.System()), kCleanSystem);
-  EXPECT_EQ(document.picture, before.picture);
-  EXPECT_TRUE(document.HasUnsavedWork());
-  EXPECT_EQ(settings.Read(files::kFilePath), "/pictures");
-  EXPECT_TRUE(messages.shown.empty());
+TEST(BuildCompoPic, DoesItsStepsInOrderAndLeavesWhatWasAskedFor) {
+  struct Case {
+    CompoPicChoice choice;
+    const char* begin;
+    Lines said, run;  // behind the steps that all builds have
+    Lines left;       // beside the picture
+  };
+  const std::string on_disk = "a.name.of.twenty.prg";
+  for (const Case& row : {
+           Case{kPrg, "CREATING PRG", {"--> PRG complete."}, {}, {"My Pic.prg"}},
+           Case{kVice,
+                "CREATING D64",
+                {"--> D64 complete.", "--> Launching VICE."},
+                {"c1541 My Pic.d64 -write bmpshow.prg " + on_disk, "x64sc -autostart My Pic.d64:" + on_disk},
+                {"My Pic.d64"}},
+           Case{kPreview,
+                "CODENET",
+                {"--> Sending to 127.0.0.1", "--> Transfer complete"},
+                {"codenet -x bmpshow.prg -n 127.0.0.1"},
+                {}},
+       }) {
+    SCOPED_TRACE(row.begin);
+    Scene scene;
+    if (row.choice.ViaCodenet) scene.settings.Write(kVicePath, "/gone");
+    scene.settings.Write(kVicePrgName, " A NAME OF TWENTY CHR ");
+    scene.settings.Write(kCodenetC64Ip, " 127.0.0.1 ");
+    const files::Document before = scene.document;
+    EXPECT_TRUE(scene.Build(row.choice));
+    Lines said{row.begin, "--> Compiling source", "--> Crushing source", "--> Adding depacker"};
+    said.insert(said.end(), row.said.begin(), row.said.end());
+    EXPECT_EQ(scene.prompt.lines, said);
+    Lines run{"tass bmpshow.tmp bmpshow.obj", "crush 6 bmpshow.obj bmpshow.pak", "tass decrush.tmp bmpshow.prg"};
+    run.insert(run.end(), row.run.begin(), row.run.end());
+    EXPECT_EQ(scene.tools.commands, run);
+    const std::string network = row.choice.ViaCodenet ? " net\r\n" : "";
+    EXPECT_EQ(scene.tools.sources, (Lines{"show " + scene.System("temp.kvp") + "\r\n colour 0B\r\n" + network,
+                                          "unpack " + scene.System("bmpshow.pak") + "\r\n"}));
+    EXPECT_EQ(support::NamesIn(scene.folder / "art"), row.left);
+    EXPECT_EQ(support::NamesIn(scene.folders.System()), kCleanSystem);
+    EXPECT_EQ(scene.document.picture, before.picture);
+    EXPECT_TRUE(scene.document.HasUnsavedWork());
+    EXPECT_EQ(scene.settings.Read(files::kFilePath), "/pictures");
+    EXPECT_TRUE(scene.messages.shown.empty());
+  }
+}
+
+TEST_F(BuildCompoPicTest, TakesANameWithoutAnEnding) {
   document.file = files::SetFileParameters(app::TextFromPath(folder / "art/no dot"));
   EXPECT_TRUE(Build(kPrg));
-  EXPECT_EQ(support::NamesIn(folder / "art"), (Lines{".prg", "My Pic.prg"}));
-}
-
-TEST_F(BuildCompoPicTest, MakesADiskAndShowsIt) {
-  settings.Write(kVicePrgName, " A NAME OF TWENTY CHR ");
-  EXPECT_TRUE(Build(kVice));
-  EXPECT_EQ(prompt.lines, (Lines{"CREATING D64", "--> Compiling source", "--> Crushing source", "--> Adding depacker",
-                                 "--> D64 complete.", "--> Launching VICE."}));
-  ASSERT_EQ(tools.commands.size(), 5U);
-  EXPECT_EQ(tools.commands[3], "c1541 My Pic.d64 -write bmpshow.prg a.name.of.twenty.prg");
-  EXPECT_EQ(tools.commands[4], "x64sc -autostart My Pic.d64:a.name.of.twenty.prg");
-  EXPECT_EQ(support::NamesIn(folder / "art"), (Lines{"My Pic.d64"}));
-  EXPECT_EQ(support::NamesIn(folders.System()), kCleanSystem);
-}
-
-TEST_F(BuildCompoPicTest, SendsToTheC64WithoutVice) {
-  settings.Write(kVicePath, "/gone");
-  settings.Write(kCodenetC64Ip, " 127.0.0.1 ");
-  EXPECT_TRUE(Build(kPreview));
-  EXPECT_EQ(prompt.lines, (Lines{"CODENET", "--> Compiling source", "--> Crushing source", "--> Adding depacker",
-                                 "--> Sending to 127.0.0.1", "--> Transfer complete"}));
-  EXPECT_EQ(tools.commands.back(), "codenet -x bmpshow.prg -n 127.0.0.1");
-  EXPECT_EQ(tools.sources.front(), "show " + System("temp.kvp") + "\r\n colour 0B\r\n net\r\n");
-  EXPECT_TRUE(support::NamesIn(folder / "art").empty());
-  EXPECT_TRUE(messages.shown.empty());
+  EXPECT_EQ(support::ReadText(folder / "art/.prg"), System("decrush.tmp") + " made");
 }
 
 TEST(BuildCompoPic, KeepsAPrgThatIsNoProgramInBackup) {

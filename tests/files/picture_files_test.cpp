@@ -39,10 +39,6 @@ TEST_F(PictureFilesTest, OpeningByDialogTakesTheChosenTypeAndTellsEveryone) {
   EXPECT_EQ(files.RecentPaths(), Lines{path});
   EXPECT_EQ(support::ReadFile(folders.Snapshot()), support::ReadFile(folder / "Castle.PRG"));
   EXPECT_FALSE(document.HasUnsavedWork());
-
-  dialogs.open.reset();
-  EXPECT_FALSE(files.Open());
-  EXPECT_EQ(prompt.lines.size(), 1U);
 }
 
 TEST_F(PictureFilesTest, AFailedLoadChangesNothing) {
@@ -85,7 +81,6 @@ TEST_F(PictureFilesTest, SavingKeepsTheStateBeforeAsBackup) {
   EXPECT_EQ(document.picture.ScreenMemory[1017], 11);  // the signature stays in memory
   EXPECT_FALSE(document.HasUnsavedWork());
   EXPECT_EQ(support::NamesIn(folders.Backup()), (Lines{"backups.txt", "pic.koa_2602030907.prg"}));
-  EXPECT_EQ(support::ReadFile(folders.Backup() / "pic.koa_2602030907.prg"), support::ReadFile(folder / "pic.koa"));
   EXPECT_EQ(support::ReadFile(folders.Snapshot()), support::ReadFile(folder / "pic.kvp"));
 }
 
@@ -231,7 +226,6 @@ TEST_F(PictureFilesTest, OldBackupsAreThinnedToTheLastOfADayOfEachPicture) {
     return values;
   };
   support::WriteFile(folders.Backup() / "mine_2501010000.prg", app::Bytes{200});
-  EXPECT_EQ(kept(), (std::set<int>{1, 2, 3, 4, 5, 6, 200}));
   clock.time.tm_mday = 31;
   files.ThinBackups();
   EXPECT_EQ(kept().size(), 7U);  // thirty days later all are there
@@ -293,16 +287,10 @@ TEST_F(PictureFilesTest, ClosingAsksAboutUnsavedWorkAndSavesItByDialog) {
   EXPECT_EQ(document.file.CurrentFileName, "kept.kvp");
   EXPECT_EQ(settings.values["Settings/FilePath"], app::TextFromPath(folder.Path()));
   EXPECT_TRUE(support::NamesIn(folders.Backup()).empty());
-  document.picture.Bitmap[9] = 2;
-  messages.unsaved = app::UnsavedAnswer::kDiscard;
-  EXPECT_TRUE(files.MayClose());
 }
 
 TEST(SavedName, ReplacesTheLastFourCharacters) {
-  EXPECT_EQ(SavedName("pic.kvp"), "pic.kvp");
-  EXPECT_EQ(SavedName("pic.txt"), "pic.kvp");
-  EXPECT_EQ(SavedName("picture"), "pic.kvp");
-  EXPECT_EQ(SavedName("pic.KVP"), "pic.kvp");
+  for (const char* path : {"pic.kvp", "pic.txt", "picture", "pic.KVP"}) EXPECT_EQ(SavedName(path), "pic.kvp");
   EXPECT_EQ(SavedName("b\xC3\xA4\xC3\xB6\xC3\xBC\xC3\x9F"), "b.kvp");  // characters, not bytes
   EXPECT_EQ(SavedName("b\x84\x94\x81.koa"), "b\x84\x94\x81.kvp");      // a name in another encoding stays
   EXPECT_EQ(SavedName("b\x84\x94\x81\x84\x94"), "b\x84.kvp");
@@ -312,7 +300,6 @@ TEST(SavedName, ReplacesTheLastFourCharacters) {
 TEST(RecentFiles, KeepTheFiveLastInOrder) {
   support::MapSettings settings;
   RecentFiles recent(settings);
-  EXPECT_TRUE(recent.Paths().empty());
   settings.values["Recent/Recent2"] = "old";  // a gap before it closes
   for (const char* path : {"a", "b", "c", "d", "b", "e"}) recent.Add(path);
   EXPECT_EQ(recent.Paths(), (Lines{"e", "d", "c", "b", "a"}));

@@ -74,15 +74,13 @@ TEST_F(C64OutputTest, MakesAProgramThatShowsThePictureWhateverItsName) {
     EXPECT_EQ(std::distance(fs::directory_iterator(art), {}), 2);
     remove_all(art);
   }
-  EXPECT_TRUE(Action("mnuCreatePRGCompopic")->isEnabled());
   EXPECT_FALSE(Action("mnuStopBuild")->isEnabled());
 }
 
 TEST_F(C64OutputTest, PutsTheProgramOnADiskAndShowsItInVice) {
   if (!support::IsInstalled("c1541")) GTEST_SKIP() << "this needs c1541, a part of VICE";
-  const std::string blank = app::TextFromPath(folders.System() / "empty.d64");
-  const std::string is_blank = "c1541 '" + blank + "' -validate -list | grep -q '^664 blocks free'";
-  EXPECT_EQ(support::RunTool("sh", {"-c", is_blank}).exit_code, 0);
+  const std::string blank = "'" + app::TextFromPath(folders.System() / "empty.d64") + "'";
+  EXPECT_EQ(support::RunTool("sh", {"-c", "c1541 " + blank + " -validate -list | grep -q '^664 blocks'"}).exit_code, 0);
   Script(vice / "x64", "echo \"$@\" > '" + app::TextFromPath(folder / "called") + "'");
   Open("My Picture With A Long Name.koa");
   Action("mnuCreatePRGCompopic")->trigger();
@@ -222,16 +220,14 @@ TEST_F(C64OutputTest, TheSettingsDecideWhatCanBeChosen) {
     });
     Action("mnuViceSettings")->trigger();
     EXPECT_EQ(box_text, told);
-    EXPECT_EQ(Action("mnuCreatePRGCompopic")->isEnabled(), is_enabled);
     EXPECT_EQ(Action("mnuPreviewCompopicInVICE")->isEnabled(), is_enabled);
     EXPECT_TRUE(Action("mnuShowPreviewOnC64")->isEnabled());
     EXPECT_EQ(ToQt(settings.Read(c64out::kVicePrgName)), QString("name of " + ToQt(typed)).trimmed());
   }
   EXPECT_EQ(settings.Read(c64out::kVicePath), app::TextFromPath(vice) + "/");
-  InNextDialog([](QDialog& dialog) { FillIn(dialog, {{"C64IP", "  no address "}, {"PRGName", " a name "}}); });
+  InNextDialog([](QDialog& dialog) { FillIn(dialog, {{"C64IP", "  no address "}}); });
   Action("mnuCodenetSettings")->trigger();
   EXPECT_EQ(settings.values["CodenetSettings/C64IP"], "no address");
-  EXPECT_EQ(settings.values["CodenetSettings/PRGName"], "a name");
 }
 
 }  // namespace
