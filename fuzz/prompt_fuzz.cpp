@@ -50,7 +50,7 @@ class PromptAtWork : support::Program {
     prompt.lines.clear();
     command::ProcessCommand(*line, {folders, document, files, prompt, animation_});
     Require(messages.shown.empty(), "a typed command opens no message box");
-    const std::string& path = document.file.CurrentFilePath;
+    const std::string path = app::TextFromPath(document.file.CurrentFilePath);
     Require(path.empty() ||
                 fs::weakly_canonical(path).string().starts_with(fs::weakly_canonical(folders.Root()).string() + "/"),
             "pictures are those of the program folder");

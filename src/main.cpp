@@ -17,11 +17,7 @@
 
 namespace {
 
-using kelvo::ui::FromQt;
-
-std::filesystem::path PathOf(const QString& text) {
-  return kelvo::app::PathFromText(FromQt(text));
-}
+using kelvo::ui::PathFromQt;
 
 void NameProgram() {
   QCoreApplication::setOrganizationName("Kelvo");
@@ -48,9 +44,9 @@ void Parse(QCommandLineParser& parser, const QCoreApplication& application) {
 kelvo::app::ProgramFolders FindFolders() {
   const QString executable = QCoreApplication::applicationDirPath();
   const QString user = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/Kelvo";
-  kelvo::app::ProgramFolders folders(kelvo::app::ChooseProgramFolder(PathOf(executable), PathOf(user)));
+  kelvo::app::ProgramFolders folders(kelvo::app::ChooseProgramFolder(PathFromQt(executable), PathFromQt(user)));
   folders.Create();
-  folders.Seed(PathOf(executable) / ".." / "share" / "kelvo");
+  folders.Seed(PathFromQt(executable) / ".." / "share" / "kelvo");
   return folders;
 }
 
@@ -62,7 +58,7 @@ void Begin(kelvo::ui::MainFrame& frame, kelvo::app::Messages& messages, const QS
     frame.StartUp();
   }
   if (!frame.OfferRecovery() && !pictures.isEmpty()) {
-    frame.Files().OpenPicture(FromQt(QFileInfo(pictures.first()).absoluteFilePath()));
+    frame.Files().OpenPicture(PathFromQt(QFileInfo(pictures.first()).absoluteFilePath()));
     if (pictures.size() > 1) {
       messages.Inform("Kelvo opens one picture at a time: the first that is named, and no other.");
     }

@@ -86,7 +86,7 @@ void LoadFrom(const Call& call, const fs::path& folder, std::string_view typed) 
       typed.ends_with(kPictureEnding) ? typed.substr(0, typed.size() - kPictureEnding.size()) : typed;
   const std::string name = std::string(stem) + std::string(kPictureEnding);
   if (!app::IsPlainName(name)) return call.Fail("LOAD " + std::string(stem), kNotLoaded);
-  call.with.files.OpenPicture(app::TextFromPath(app::EntryOf(folder, name)), files::OnFailure::kPromptOnly);
+  call.with.files.OpenPicture(app::EntryOf(folder, name), files::OnFailure::kPromptOnly);
 }
 
 void LoadFromDevice(const Call& call, std::string_view device, std::string_view name) {

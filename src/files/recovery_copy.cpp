@@ -26,9 +26,9 @@ RecoveryFiles::RecoveryFiles(const std::filesystem::path& folder, int slot)
 std::optional<Document> RecoveryFiles::Read() const {
   try {
     Document document;
-    document.picture = LoadPicture(app::TextFromPath(picture), kOwnType, {});
+    document.picture = LoadPicture(picture, kOwnType, {});
     const app::Bytes path = app::ReadWholeFile(name, kLongestPath);
-    if (!path.empty()) document.file = SetFileParameters(std::string(path.begin(), path.end()));
+    if (!path.empty()) document.file = SetFileParameters(app::PathFromText(std::string(path.begin(), path.end())));
     return document;
   } catch (const std::exception&) {
     return std::nullopt;
@@ -67,7 +67,7 @@ void RecoveryCopy::KeepNow() {
 }
 
 void RecoveryCopy::Write(const RecoveryFiles& files) const {
-  const std::string& path = document_.file.CurrentFilePath;
+  const std::string path = app::TextFromPath(document_.file.CurrentFilePath);
   app::WriteOwnFile(files.name, {reinterpret_cast<const std::uint8_t*>(path.data()), path.size()}, kFlush);
   model::PictureImage signed_picture = document_.picture;
   Sign(signed_picture);

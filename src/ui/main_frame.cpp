@@ -183,8 +183,8 @@ void MainFrame::MakeRecentMenu() {
   connect(menu, &QMenu::aboutToShow, this, [this, menu] {
     menu->clear();
     const auto paths = files_.RecentPaths();
-    for (const std::string& path : paths) {
-      QAction* entry = menu->addAction(ToQt(path).replace('&', "&&"));
+    for (const std::filesystem::path& path : paths) {
+      QAction* entry = menu->addAction(QtFromPath(path).replace('&', "&&"));
       entry->setObjectName(QString("mnuRecent_%1").arg(menu->actions().size() - 1));
       connect(entry, &QAction::triggered, this, [this, path] { files_.OpenRecent(path); });
     }
@@ -313,7 +313,7 @@ void MainFrame::mnuFullscreenView_Click() {
 
 void MainFrame::ShowSpriteConverter() {
   if (sprite_converter_ == nullptr) {
-    sprite_converter_ = new frmBMP2SpriteMain(document_.picture, ToQt(files_.FolderForDialogs()), this);
+    sprite_converter_ = new frmBMP2SpriteMain(document_.picture, QtFromPath(files_.FolderForDialogs()), this);
   }
   sprite_converter_->show();
   sprite_converter_->raise();
@@ -333,8 +333,8 @@ void MainFrame::StopTools() {
 }
 
 void MainFrame::SaveScreenshot() {
-  const std::string& path = document_.file.CurrentFilePath;
-  const QString proposal = ToQt(path.empty() ? app::TextFromPath(folders_.Gfx() / "unnamed") : path);
+  const std::filesystem::path& path = document_.file.CurrentFilePath;
+  const QString proposal = QtFromPath(path.empty() ? folders_.Gfx() / "unnamed" : path);
   app::Guarded(
       log_, "MDIFormMenu_mnuSaveJPG", [&] { mnuSaveJPG(full_view_->Picture(), proposal, this); },
       [this](const std::exception& error) { ports_->messages.Warn(error.what()); });
@@ -344,7 +344,7 @@ void MainFrame::ShowFile(const files::CurrentFile& file) {
   setWindowTitle(ToQt(files::WindowTitle(file)));
   panels_.Show(StatusPanel::kFile, ToQt(files::StatusName(file)));
   animation_->FileChanged();
-  ports_->file_watch.Follow(ToQt(file.CurrentFilePath));
+  ports_->file_watch.Follow(QtFromPath(file.CurrentFilePath));
   RefreshMenus();
 }
 
@@ -397,7 +397,7 @@ void MainFrame::dragEnterEvent(QDragEnterEvent* event) {
 
 void MainFrame::dropEvent(QDropEvent* event) {
   event->acceptProposedAction();
-  files_.OpenPicture(FromQt(event->mimeData()->urls().first().toLocalFile()));
+  files_.OpenPicture(PathFromQt(event->mimeData()->urls().first().toLocalFile()));
 }
 
 void MainFrame::closeEvent(QCloseEvent* event) {

@@ -84,12 +84,12 @@ class NoWaitPointer final : public app::WaitPointer {
 
 class PlannedDialogs final : public files::FileDialogs {
  public:
-  std::optional<files::ChosenFile> SelectFile(const std::string& folder) override {
-    folders.push_back(folder);
+  std::optional<files::ChosenFile> SelectFile(const std::filesystem::path& folder) override {
+    folders.push_back(app::TextFromPath(folder));
     return open;
   }
-  std::optional<std::string> SaveAs(const std::string& path) override {
-    proposals.push_back(path);
+  std::optional<std::filesystem::path> SaveAs(const std::filesystem::path& path) override {
+    proposals.push_back(app::TextFromPath(path));
     return save;
   }
   std::optional<files::ChosenFile> open;

@@ -28,23 +28,23 @@ QString StillThere(const QString& path) {
   return place.exists() ? place.absoluteFilePath() : QDir::homePath();
 }
 
-std::optional<files::ChosenFile> QtFileDialogs::SelectFile(const std::string& folder) {
-  QFileDialog dialog(parent_, "Select file", StillThere(ToQt(folder)), OpenFilter());
+std::optional<files::ChosenFile> QtFileDialogs::SelectFile(const std::filesystem::path& folder) {
+  QFileDialog dialog(parent_, "Select file", StillThere(QtFromPath(folder)), OpenFilter());
   dialog.setFileMode(QFileDialog::ExistingFile);
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
   const auto filter = dialog.nameFilters().indexOf(dialog.selectedNameFilter());
-  return files::ChosenFile{FromQt(dialog.selectedFiles().first()), static_cast<int>(filter) + 1};
+  return files::ChosenFile{PathFromQt(dialog.selectedFiles().first()), static_cast<int>(filter) + 1};
 }
 
-std::optional<std::string> QtFileDialogs::SaveAs(const std::string& path) {
+std::optional<std::filesystem::path> QtFileDialogs::SaveAs(const std::filesystem::path& path) {
   QFileDialog dialog(parent_, "Save Kelvo-file", {}, "Kelvo-files (*.kvp)");
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setDefaultSuffix("kvp");
-  const QFileInfo proposal(ToQt(path));
+  const QFileInfo proposal(QtFromPath(path));
   dialog.setDirectory(StillThere(proposal.absolutePath()));
   dialog.selectFile(proposal.completeBaseName() + ".kvp");
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
-  return FromQt(dialog.selectedFiles().first());
+  return PathFromQt(dialog.selectedFiles().first());
 }
 
 }  // namespace kelvo::ui

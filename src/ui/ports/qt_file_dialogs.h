@@ -17,8 +17,8 @@ class QtFileDialogs final : public files::FileDialogs {
  public:
   explicit QtFileDialogs(QWidget* parent) : parent_(parent) {}
 
-  std::optional<files::ChosenFile> SelectFile(const std::string& folder) override;
-  std::optional<std::string> SaveAs(const std::string& path) override;
+  std::optional<files::ChosenFile> SelectFile(const std::filesystem::path& folder) override;
+  std::optional<std::filesystem::path> SaveAs(const std::filesystem::path& path) override;
 
  private:
   QPointer<QWidget> parent_;

@@ -1,9 +1,13 @@
-// Between the core's UTF-8 texts and Qt's.
+// Between the core's UTF-8 texts and paths, and Qt's texts.
 #pragma once
 
+#include <QDir>
 #include <QString>
+#include <filesystem>
 #include <string>
 #include <string_view>
+
+#include "app/path_text.h"
 
 namespace kelvo::ui {
 
@@ -13,6 +17,15 @@ inline QString ToQt(std::string_view text) {
 
 inline std::string FromQt(const QString& text) {
   return text.toStdString();
+}
+
+// Paths have the separators of the platform, where Qt's own texts have slashes everywhere.
+inline QString QtFromPath(const std::filesystem::path& path) {
+  return ToQt(app::TextFromPath(path));
+}
+
+inline std::filesystem::path PathFromQt(const QString& text) {
+  return app::PathFromText(FromQt(QDir::toNativeSeparators(text)));
 }
 
 }  // namespace kelvo::ui
