@@ -7,6 +7,7 @@
 #include <stdexcept>
 #include <vector>
 
+#include "app/whole_file.h"
 #include "c64/machine.h"
 #include "crunch/crunch.h"
 #include "row.h"
