@@ -98,6 +98,9 @@ TEST_F(WorkplaceTest, KeysWheelDragAndClickMoveTheZoomArea) {
   EXPECT_FALSE(Action("mnuZoom_4X")->isChecked());
   QTest::mouseClick(full_view, Qt::LeftButton, {}, {160, 100});
   EXPECT_EQ(ZoomOrigin(), QPoint(128, 64));
+  QTest::keyClick(Box("frmZoom"), Qt::Key_PageDown);
+  QTest::keyClick(Box("frmZoom"), Qt::Key_Up, Qt::ControlModifier);
+  EXPECT_EQ(ZoomOrigin(), QPoint(128, 56));
   EXPECT_EQ(frame->Document().picture, model::PictureImage());
 }
 
