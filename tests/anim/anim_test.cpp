@@ -46,7 +46,7 @@ class AnimModeTest : public testing::Test, protected support::Program {
   }
 
   RecordingAnimDisplay shows;
-  AnimMode mode{{settings, messages, document, files}, shows};
+  AnimMode mode{surroundings, shows};
   const std::string question =
       "Initial animation frame could not be found\r\nDo you want to create anim0001.kvp based on your loaded kvp?";
 };
@@ -97,7 +97,7 @@ TEST_F(AnimModeTest, TheCommandSetsTheFlagAloneOrSwitchesTheModeWithIt) {
                                            },
                                            [this](bool on) { mode.SetAnimFlag(on); }};
   const auto reply = [&](const char* line) {
-    command::ProcessCommand(line, {folders, document, files, prompt, animation});
+    command::ProcessCommand(line, surroundings, animation);
     return prompt.lines.back();
   };
   EXPECT_EQ(reply("ANIM "), "ANIM OFF");  // there is no folder yet
@@ -145,7 +145,7 @@ class FramesTest : public testing::Test, protected support::Program {
   int Seed() const { return document.picture.Bitmap[1]; }
   static int SeedIn(const fs::path& file) { return support::ReadFile(file).at(2050); }
 
-  FrameNavigation frames{{settings, messages, document, files}};
+  FrameNavigation frames{surroundings};
 };
 
 TEST(FrameNames, RunFolderPrefixAndNumberTogether) {

@@ -2,6 +2,8 @@
 // whatever happens while they are written.
 #include <gtest/gtest.h>
 
+#include <array>
+
 #include "app/durable_file.h"
 #include "app/path_text.h"
 #include "app/program_folders.h"
@@ -135,7 +137,7 @@ TEST(OwnFiles, AreMadeAnewAndForTheirOwnerAlone) {
   }
   program.files.SaveTo(program.Text("pic.kvp"));
   fs::permissions(program.folder / "pic.kvp", fs::perms::all);
-  for (std::uint8_t byte : {1, 2}) {
+  for (const std::uint8_t byte : std::array<std::uint8_t, 2>{1, 2}) {
     program.document.picture.Bitmap[1] = byte;
     files::RecoveryCopy copy(program.document);
     copy.AddPlace(recovery);

@@ -82,7 +82,7 @@ TEST_F(DiskFaults, ASaveKilledAtAnyMomentLosesNoStateAndLeavesNoLitter) {
         SavePainted(value);
       }
     });
-    usleep(random() % 6000);
+    usleep(static_cast<useconds_t>(random() % 6000));
     kill(child, SIGKILL);
     waitpid(child, nullptr, 0);
     fs::remove(folders.Snapshot());  // as the next start does

@@ -116,7 +116,7 @@ TEST_F(PictureFilesTest, WhatASaveReplacesIsKept) {
   files.OpenPicture(path);
   Document build_copy = document;  // a build saves the picture as it is, and makes it the snapshot
   build_copy.picture.Bitmap[7] = 99;
-  SaveBitmap(build_copy, app::TextFromPath(folders.System() / "temp.kvp"), {folders, settings, clock});
+  SaveBitmap(build_copy, app::TextFromPath(folders.System() / "temp.kvp"), surroundings);
   EXPECT_TRUE(files.Save());  // in the same minute
   EXPECT_TRUE(messages.shown.empty());
   EXPECT_TRUE(is_kept(picture(1)));

@@ -124,6 +124,8 @@ struct Program {
   files::Document document;
   files::PictureFiles files{document,
                             {{folders, settings, clock, log, messages, prompt}, pointer, dialogs, display, views}};
+  // What the parts of the program that work with the picture are given.
+  files::PictureSurroundings surroundings{{folders, settings, clock, log, messages, prompt}, document, files};
 };
 
 }  // namespace kelvo::support

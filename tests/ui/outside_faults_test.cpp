@@ -104,7 +104,7 @@ class RecoveryDeskTest : public testing::Test, protected support::Program {
   void MakeDesk() {
     desk.reset();
     slot.emplace(folders.System());
-    desk.emplace(RecoveryDesk::Surroundings{folders, clock, log, messages, document, files, *slot});
+    desk.emplace(surroundings, *slot);
     QObject::connect(&*desk, &RecoveryDesk::Word, [this](const QString& word) { words << word; });
   }
   void SpoilBackup() {
