@@ -228,8 +228,8 @@ TEST_F(CodenetTool, ReachesTheReceiverForDevelopersOverABadNetwork) {
   support::RunningTool receiver(KELVO_CODENET_RECEIVER, {"-p", port, "-l", "5", "-1", memory});
   const std::string file = File("pic.prg", support::CountingBytes(3002));  // loads to $0A03
   for (int tries = 0; tries < 100; ++tries) {                              // until it listens
-    if (support::RunTool(KELVO_CODENET, {"-n", "127.0.0.1", "-p", port, "-w", file, "-e", "$c000"}).exit_code == 0)
-      break;
+    const auto sent = support::RunTool(KELVO_CODENET, {"-n", "127.0.0.1", "-p", port, "-w", file, "-e", "$c000"});
+    if (sent.exit_code == 0) break;
     std::this_thread::sleep_for(std::chrono::milliseconds(20));
   }
   EXPECT_EQ(receiver.Wait().exit_code, 0);

@@ -173,8 +173,9 @@ TEST_F(SaverOnTheC64, SavesUpToTheEndAddressOnTheLastDrive) {
 TEST_F(SaverOnTheC64, TakesEveryByteInANameAndCutsItToSixteen) {
   std::string all;
   for (int code = 32; code < 127; ++code) all += static_cast<char>(code);
-  for (int code = 160; code < 256; ++code)
+  for (int code = 160; code < 256; ++code) {
     all += {static_cast<char>(0xC0 | code >> 6), static_cast<char>(0x80 | (code & 63))};
+  }
   for (const std::string& name :
        {all.substr(0, 16), "BGBG;"s, "my-picture*2"s, NameFor("\r.endc\r .binary \"15x1save.tmp\"\r .comment"),
         NameFor("\n.end\n"), NameFor("\"\r .include \"15x1save.src\"\r"), all}) {

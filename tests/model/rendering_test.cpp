@@ -100,8 +100,8 @@ int WrongFullViewPixels(const PictureImage& picture, const Surface& surface) {
 
 TEST(FullView, ShowsEveryPixelTwoWideAndRedrawsInPlace) {
   PictureImage picture = support::RandomPicture(1);
-  for (std::size_t i = 1; i < 4000; i += 5)
-    picture.Bitmap[i] = std::array<std::uint8_t, 4>{0x00, 0xFF, 0xAA, 0x55}[i % 4];
+  constexpr std::array<std::uint8_t, 4> kBytes{0x00, 0xFF, 0xAA, 0x55};
+  for (std::size_t i = 1; i < 4000; i += 5) picture.Bitmap[i] = kBytes[i % 4];
   Surface surface(kFullViewWidth, kFullViewHeight);
   RecordingProgress progress;
   DrawPicture(picture, surface, progress);

@@ -26,8 +26,9 @@ class C64OutputTest : public MainFrameTest {
     folders.Create();
     folders.Seed(KELVO_SHARE);
     create_directories(vice);
-    if (support::IsInstalled("c1541"))
+    if (support::IsInstalled("c1541")) {
       support::RunTool("sh", {"-c", "ln -s $(command -v c1541) '" + vice.string() + "'"});
+    }
     Script(vice / "x64", "exit 0");
     settings.Write(c64out::kVicePath, app::TextFromPath(vice));
     settings.Write(c64out::kCodenetC64Ip, "127.0.0.1");

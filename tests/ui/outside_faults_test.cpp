@@ -90,8 +90,8 @@ TEST(ProgramSlot, IsANumberOfItsOwnWhileTheProgramRuns) {
 
 class RecoveryDeskTest : public testing::Test, protected support::Program {
  protected:
-  RecoveryDeskTest() { document.picture = support::RandomPicture(3); }
-  ~RecoveryDeskTest() override {
+  void SetUp() override { document.picture = support::RandomPicture(3); }
+  void TearDown() override {
     desk.reset();
     remove_all(other);
   }

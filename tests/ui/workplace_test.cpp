@@ -189,8 +189,9 @@ TEST_F(WorkplaceTest, EveryIconIsThereForMenusAndToolBars) {
   }
   for (const QString& name : names) {
     const QIcon icon = IconNamed(name);
-    for (const QSize size : {QSize(16, 16), QSize(24, 24)})
+    for (const QSize size : {QSize(16, 16), QSize(24, 24)}) {
       EXPECT_TRUE(icon.availableSizes().contains(size)) << FromQt(name);
+    }
   }
 }
 
