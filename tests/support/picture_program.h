@@ -19,7 +19,7 @@ class RealTools final : public c64out::ToolRunner {
  public:
   bool CanRun() const override { return true; }
   c64out::ToolResult RunAndWait(const c64out::ToolCommand& command) override {
-    if (app::FileNamePart(command.tool).starts_with("codenet")) {
+    if (app::PathFromText(command.tool).filename() == c64out::ToolName("codenet")) {
       sent = ReadFile(app::PathFromText(command.arguments.at(1)));
       return {};
     }
@@ -37,7 +37,7 @@ inline app::Bytes BuildPictureProgram(const std::filesystem::path& folder, const
   const app::ProgramFolders folders(folder / "program");
   folders.Create();
   folders.Seed(KELVO_SHARE);
-  WriteText(folder / "x64", "an emulator, to look at");
+  for (const char* name : {"x64", "x64.exe"}) WriteText(folder / name, "an emulator, to look at");
   Program with;
   with.settings.Write(c64out::kVicePath, app::TextFromPath(folder));
   RealTools tools;

@@ -1,7 +1,7 @@
 // Programs run as a user runs them, with their exit code and what they complain of.
 #pragma once
 
-#include <filesystem>
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -22,17 +22,14 @@ class RunningTool {
   RunningTool(const RunningTool&) = delete;
   RunningTool& operator=(const RunningTool&) = delete;
 
-  void Signal(int signal) const;
+  void Signal(int signal) const;  // on Windows any signal ends it
   ToolRun Wait();
 
  private:
-  int process_ = -1;
-  int errors_ = -1;
+  std::intptr_t process_ = -1, errors_ = -1;  // the system's handles; -1: none
 };
 
 ToolRun RunTool(const std::string& program, const std::vector<std::string>& arguments);
-inline bool IsInstalled(const std::string& tool) {
-  return RunTool("sh", {"-c", "command -v " + tool}).exit_code == 0;
-}
+bool IsInstalled(const std::string& tool);
 
 }  // namespace kelvo::support

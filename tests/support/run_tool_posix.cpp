@@ -1,6 +1,3 @@
-#include "support/run_tool.h"
-
-#ifndef _WIN32
 #include <fcntl.h>
 #include <spawn.h>
 #include <sys/wait.h>
@@ -8,6 +5,8 @@
 
 #include <array>
 #include <csignal>
+
+#include "support/run_tool.h"
 
 extern char** environ;
 
@@ -25,7 +24,8 @@ RunningTool::RunningTool(const std::string& program, const std::vector<std::stri
   posix_spawn_file_actions_adddup2(&actions, pipe_ends[1], STDERR_FILENO);
   posix_spawn_file_actions_addclose(&actions, pipe_ends[0]);
   posix_spawn_file_actions_addclose(&actions, pipe_ends[1]);
-  if (posix_spawnp(&process_, program.c_str(), &actions, nullptr, words.data(), environ) != 0) process_ = -1;
+  pid_t process = -1;
+  if (posix_spawnp(&process, program.c_str(), &actions, nullptr, words.data(), environ) == 0) process_ = process;
   posix_spawn_file_actions_destroy(&actions);
   close(pipe_ends[1]);
   errors_ = pipe_ends[0];
@@ -37,25 +37,29 @@ RunningTool::~RunningTool() {
 }
 
 void RunningTool::Signal(int signal) const {
-  if (process_ > 0) kill(process_, signal);
+  if (process_ > 0) kill(static_cast<pid_t>(process_), signal);
 }
 
 ToolRun RunningTool::Wait() {
   ToolRun run;
   if (errors_ >= 0) {
     std::array<char, 512> buffer;
-    for (ssize_t size = 0; (size = read(errors_, buffer.data(), buffer.size())) > 0;) {
+    for (ssize_t size = 0; (size = read(static_cast<int>(errors_), buffer.data(), buffer.size())) > 0;) {
       run.errors.append(buffer.data(), static_cast<std::size_t>(size));
     }
-    close(errors_);
+    close(static_cast<int>(errors_));
     errors_ = -1;
   }
   int status = 0;
-  if (process_ > 0 && waitpid(process_, &status, 0) == process_ && WIFEXITED(status)) {
+  if (process_ > 0 && waitpid(static_cast<pid_t>(process_), &status, 0) == process_ && WIFEXITED(status)) {
     run.exit_code = WEXITSTATUS(status);
   }
   process_ = -1;
   return run;
+}
+
+bool IsInstalled(const std::string& tool) {
+  return RunTool("sh", {"-c", "command -v " + tool}).exit_code == 0;
 }
 
 ToolRun RunTool(const std::string& program, const std::vector<std::string>& arguments) {
@@ -63,4 +67,3 @@ ToolRun RunTool(const std::string& program, const std::vector<std::string>& argu
 }
 
 }  // namespace kelvo::support
-#endif
