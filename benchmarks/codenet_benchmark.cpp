@@ -6,18 +6,18 @@
 #include <filesystem>
 #include <stdexcept>
 
-#include "c64out/codenet_sender.h"
+#include "codenet/sender.h"
 #include "goals.h"
 #include "support/codenet_server.h"
 #include "support/files.h"
 #include "support/run_tool.h"
 #include "udp_socket.h"
 
-namespace kelvo::c64out {
+namespace kelvo::codenet {
 namespace {
 
 const bench::GoalRegistration kGoals{
-    {"CodenetTransfer", "", 0, 100000},
+    {"Transfer", "", 0, 100000},
     {"CodenetTool", "CodenetRoundTrips", 1.05, 0},
 };
 
@@ -70,15 +70,15 @@ void CodenetRoundTrips(benchmark::State& state) {
 }
 BENCHMARK(CodenetRoundTrips)->UseRealTime();
 
-void CodenetTransfer(benchmark::State& state) {
+void Transfer(benchmark::State& state) {
   const support::CodenetServer server;
   codenet::UdpSocket socket("127.0.0.1", server.Port());
   const SteadyWatch watch;
   const app::Bytes bytes = support::CountingBytes(kSize);
   app::NoProgress progress;
-  for (auto _ : state) CodenetSender(socket, watch, 0).WriteMemory(kAddress, bytes, progress);
+  for (auto _ : state) Sender(socket, watch, 0).WriteMemory(kAddress, bytes, progress);
 }
-BENCHMARK(CodenetTransfer)->UseRealTime();
+BENCHMARK(Transfer)->UseRealTime();
 
 // The whole program, from its start to its end.
 void CodenetTool(benchmark::State& state) {
@@ -94,4 +94,4 @@ void CodenetTool(benchmark::State& state) {
 BENCHMARK(CodenetTool)->UseRealTime();
 
 }  // namespace
-}  // namespace kelvo::c64out
+}  // namespace kelvo::codenet

@@ -2,9 +2,9 @@
 // command interpreter acts upon gets through.
 #include <stdexcept>
 
-#include "c64out/codenet_arguments.h"
-#include "c64out/codenet_options.h"
+#include "c64out/codenet_form.h"
 #include "c64out/tool_command.h"
+#include "codenet/arguments.h"
 #include "input.h"
 
 namespace kelvo::fuzz {
@@ -36,7 +36,7 @@ void CheckComposed(const CodenetForm& form) {
 }
 
 std::uint16_t AddressOf(const std::string& digits) {
-  return c64out::ParseC64Address("$" + digits).value_or(0);
+  return codenet::ParseC64Address("$" + digits).value_or(0);
 }
 
 // The tool understands of the line what the form means by it.
@@ -44,13 +44,13 @@ void CheckUnderstood(const CodenetForm& form) {
   const CodenetForm trimmed = c64out::WithTrimmedFields(form);
   const auto list = c64out::CodenetArgumentList(form, form.file);
   try {
-    const auto arguments = c64out::ParseCodenetArguments(list);
+    const auto arguments = codenet::ParseArguments(list);
     if (arguments.help) return Require(false, "a form never asks for help");
     Require(arguments.host == trimmed.host && arguments.file == form.file, "host and file arrive as they are");
     const bool is_at = trimmed.file_type == c64out::FileType::kBinary || trimmed.set_destination;
     Require(!is_at || arguments.address == AddressOf(trimmed.destination), "the destination arrives");
     Require(!arguments.execute || *arguments.execute == AddressOf(trimmed.execute_address), "the start arrives");
-  } catch (const c64out::UsageError& error) {
+  } catch (const codenet::UsageError& error) {
     Require(*error.what() != '\0', "a refusal says why");
   }
 }
@@ -59,12 +59,12 @@ void CheckAnyLine(Input& input) {
   std::vector<std::string> words;
   while (!input.IsEmpty()) words.push_back(input.Line());
   try {
-    const auto arguments = c64out::ParseCodenetArguments(words);
+    const auto arguments = codenet::ParseArguments(words);
     if (arguments.help) return;
-    Require(c64out::IsHostText(arguments.host) && arguments.port != 0, "a line that is taken has host and port");
-    Require(arguments.mode != c64out::FileMode::kNone || arguments.execute, "and something to do");
-    Require((arguments.mode == c64out::FileMode::kNone) == arguments.file.empty(), "a mode comes with its file");
-  } catch (const c64out::UsageError&) {
+    Require(codenet::IsHostText(arguments.host) && arguments.port != 0, "a line that is taken has host and port");
+    Require(arguments.mode != codenet::FileMode::kNone || arguments.execute, "and something to do");
+    Require((arguments.mode == codenet::FileMode::kNone) == arguments.file.empty(), "a mode comes with its file");
+  } catch (const codenet::UsageError&) {
   }
   if (words.empty()) return;
   const c64out::ToolCommand command{words.front(), {words.begin() + 1, words.end()}};

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "c64out/codenet_sender.h"
+#include "codenet/sender.h"
 #include "input.h"
 
 namespace kelvo::fuzz {
@@ -12,16 +12,16 @@ namespace {
 using std::chrono::microseconds;
 
 // Datagrams out of the input, in made-up time: nothing waits.
-class HostileLine final : public c64out::DatagramSocket, public c64out::TransferWatch {
+class HostileLine final : public codenet::DatagramSocket, public codenet::TransferWatch {
  public:
   explicit HostileLine(Input& input) : input_(input) {}
 
   void Send(std::span<const std::uint8_t> datagram) override {
-    Require(datagram.size() >= 4 && datagram.size() <= 8 + c64out::kMostData && datagram.size() % 2 == 0,
+    Require(datagram.size() >= 4 && datagram.size() <= 8 + codenet::kMostData && datagram.size() % 2 == 0,
             "a packet has its size");
     last_ = datagram[2];
     is_answered_ = false;
-    if (input_.Byte() == 255) throw c64out::NobodyListens("nobody listens");
+    if (input_.Byte() == 255) throw codenet::NobodyListens("nobody listens");
   }
 
   app::Bytes Receive(microseconds wait) override {
@@ -40,7 +40,7 @@ class HostileLine final : public c64out::DatagramSocket, public c64out::Transfer
       default:
         for (int left = input_.Below(8); left > 0; --left) datagram.push_back(input_.Byte());
     }
-    const auto answer = c64out::DecodeAnswer(datagram);
+    const auto answer = codenet::DecodeAnswer(datagram);
     if (answer && answer->sequence == last_ && answer->accepted) is_answered_ = true;
     return datagram;
   }
@@ -76,23 +76,23 @@ class CountedProgress final : public app::Progress {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace kelvo;
-  c64out::DecodeAnswer({data, size});
+  codenet::DecodeAnswer({data, size});
   fuzz::Input input(data, size);
   const std::uint8_t first = input.Byte();
   const auto address = static_cast<std::uint16_t>(input.Byte() << 8 | input.Byte());
   const std::size_t length = input.Byte() * 3U;
   const int start = input.Below(3);
   fuzz::HostileLine line(input);
-  c64out::CodenetSender sender(line, line, first);
+  codenet::Sender sender(line, line, first);
   fuzz::CountedProgress progress;
   try {
     sender.WriteMemory(address, app::Bytes(length, 7), progress);
-    fuzz::Require(address + length <= c64out::kMemorySize, "nothing is written past the memory's end");
+    fuzz::Require(address + length <= codenet::kMemorySize, "nothing is written past the memory's end");
     fuzz::Require(progress.IsWhole() && (length == 0 || line.IsAnswered()), "what is done is confirmed");
     if (start == 1) sender.Run();
     if (start == 2) sender.Jump(address);
-  } catch (const c64out::TransferError&) {
-  } catch (const c64out::NobodyListens&) {
+  } catch (const codenet::TransferError&) {
+  } catch (const codenet::NobodyListens&) {
   }
   return 0;
 }

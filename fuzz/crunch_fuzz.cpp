@@ -2,7 +2,7 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "c64out/crunch.h"
+#include "crunch/crunch.h"
 #include "input.h"
 
 namespace {
@@ -13,7 +13,7 @@ constexpr std::size_t kMostToCrunch = 400;  // finding the shortest way takes lo
 
 void Unpack(const std::vector<std::uint8_t>& packed) {
   try {
-    c64out::Decrunch(packed);
+    crunch::Decrunch(packed);
   } catch (const std::runtime_error&) {
   }
 }
@@ -23,11 +23,11 @@ void Unpack(const std::vector<std::uint8_t>& packed) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   fuzz::Input input(data, size);
   const bool packs = input.Below(64) == 63;
-  const int level = 1 + input.Below(c64out::kLastLevel);
+  const int level = 1 + input.Below(crunch::kLastLevel);
   auto bytes = input.Rest();
   Unpack(bytes);
   if (!packs) return 0;
   bytes.resize(std::min(bytes.size(), kMostToCrunch));
-  fuzz::Require(c64out::Decrunch(c64out::Crunch(bytes, level)) == bytes, "what is packed comes back");
+  fuzz::Require(crunch::Decrunch(crunch::Crunch(bytes, level)) == bytes, "what is packed comes back");
   return 0;
 }

@@ -8,7 +8,7 @@
 #include "app/path_text.h"
 #include "app/text.h"
 #include "app/utf8.h"
-#include "c64out/codenet_options.h"
+#include "c64out/codenet_form.h"
 #include "c64out/vice_folder.h"
 #include "editing/preferences.h"
 #include "files/current_file.h"

@@ -7,7 +7,7 @@
 #include <stdexcept>
 #include <vector>
 
-#include "c64out/crunch.h"
+#include "crunch/crunch.h"
 #include "row.h"
 #include "support/c64_machine.h"
 #include "support/files.h"
@@ -47,9 +47,9 @@ Figures Measure(const fs::path& koala, const fs::path& folder) {
   image.erase(image.begin(), image.begin() + 2);
   Figures figures;
   const auto begin = std::chrono::steady_clock::now();
-  const app::Bytes packed = c64out::Crunch(image, 6);
+  const app::Bytes packed = crunch::Crunch(image, 6);
   figures.crush_seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
-  if (c64out::Decrunch(packed) != image) throw std::runtime_error(koala.string() + ": it unpacks to something else");
+  if (crunch::Decrunch(packed) != image) throw std::runtime_error(koala.string() + ": it unpacks to something else");
   figures.packed = packed.size();
   const app::Bytes program = support::BuildPictureProgram(folder, PictureOf(image));
   support::C64Machine machine;

@@ -6,9 +6,10 @@
 #include "app/number_text.h"
 #include "app/path_text.h"
 #include "app/whole_file.h"
-#include "c64out/codenet_ending.h"
+#include "c64out/c64_memory.h"
 #include "c64out/disk_ending.h"
 #include "c64out/fill_template.h"
+#include "c64out/network_ending.h"
 #include "c64out/output_settings.h"
 #include "c64out/short_path.h"
 #include "c64out/vice_folder.h"
@@ -93,10 +94,10 @@ void AddDepacker(const BuildJob& job) {
 
 // A program to be started by RUN loads to $0801, and has no more bytes than a C64's memory.
 bool IsProgram(const std::filesystem::path& file) {
-  constexpr std::uintmax_t kLoadAddressBytes = 2, kMemoryBytes = 65536;
+  constexpr std::uintmax_t kLoadAddressBytes = 2;
   const std::uintmax_t size = app::FileSize(file);
   std::ifstream stream(file, std::ios::binary);
-  return size > kLoadAddressBytes && size <= kLoadAddressBytes + kMemoryBytes && stream.get() == 0x01 &&
+  return size > kLoadAddressBytes && size <= kLoadAddressBytes + kMemorySize && stream.get() == 0x01 &&
          stream.get() == 0x08;
 }
 
@@ -117,7 +118,7 @@ void KeepProgram(const BuildJob& job) {
 }
 
 void SendProgram(const BuildJob& job) {
-  EndWithCodenet(job);
+  EndOverNetwork(job);
   // An older program beside the picture goes and is not replaced, on purpose: it no longer is what the C64 shows.
   const std::filesystem::path prg = job.BesidePicture(".prg");
   KeepForeignFile(job, prg);

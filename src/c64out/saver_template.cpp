@@ -6,7 +6,7 @@
 
 #include "app/number_text.h"
 #include "app/utf8.h"
-#include "c64out/codenet_protocol.h"
+#include "c64out/c64_memory.h"
 #include "c64out/fill_template.h"
 #include "c64out/text_lines.h"
 

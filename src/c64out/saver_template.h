@@ -6,12 +6,14 @@
 #include <string>
 #include <string_view>
 
+#include "c64out/c64_memory.h"
+
 namespace kelvo::c64out {
 
-// Where the C64 is to stop saving, for a program file of that many bytes, its load address included: 2049 (its usual
-// load address) and as many more. That is two bytes past the program's end; the two are saved with it.
+// Where the C64 is to stop saving, for a program file of that many bytes, its load address included: kProgramStart and
+// as many more. That is two bytes past the program's end; the two are saved with it.
 constexpr std::uintmax_t SaverEndAddress(std::uintmax_t program_size) {
-  return 2049 + program_size;
+  return kProgramStart + program_size;
 }
 
 // The bytes of the file's name on the C64: "/", "." and digits as they are, each other character's code less 32, so

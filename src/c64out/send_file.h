@@ -5,7 +5,7 @@
 
 #include "app/messages.h"
 #include "app/program_folders.h"
-#include "c64out/codenet_options.h"
+#include "c64out/codenet_form.h"
 #include "c64out/tool_runner.h"
 
 namespace kelvo::c64out {

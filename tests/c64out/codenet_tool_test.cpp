@@ -5,8 +5,8 @@
 #include <csignal>
 #include <thread>
 
-#include "c64out/codenet_arguments.h"
-#include "c64out/codenet_options.h"
+#include "c64out/codenet_form.h"
+#include "codenet/arguments.h"
 #include "support/codenet_server.h"
 #include "support/program.h"
 #include "support/run_tool.h"
@@ -14,21 +14,20 @@
 namespace kelvo::c64out {
 namespace {
 
+using codenet::Arguments, codenet::FileMode, codenet::ParseArguments, codenet::UsageError;
 using Words = std::vector<std::string>;
 
 TEST(CodenetArguments, AreTakenInAnyOrder) {
-  CodenetArguments expected;
+  Arguments expected;
   expected.host = "c64.local";
   expected.port = 65535;
   expected.mode = FileMode::kProgramAt;
   expected.file = "a $b; c";
   expected.address = 0xA;
   expected.execute = 0xCF00;
-  EXPECT_EQ(ParseCodenetArguments(Words{"-n", "c64.local", "-p", "65535", "-wa", "a $b; c", "$A", "-e", "$cF00"}),
-            expected);
-  EXPECT_EQ(ParseCodenetArguments(Words{"-e", "$cF00", "-wa", "a $b; c", "$A", "-p", "65535", "-n", "c64.local"}),
-            expected);
-  EXPECT_TRUE(ParseCodenetArguments(Words{"-n", "127.0.0.1", "--help", "nonsense"}).help);
+  EXPECT_EQ(ParseArguments(Words{"-n", "c64.local", "-p", "65535", "-wa", "a $b; c", "$A", "-e", "$cF00"}), expected);
+  EXPECT_EQ(ParseArguments(Words{"-e", "$cF00", "-wa", "a $b; c", "$A", "-p", "65535", "-n", "c64.local"}), expected);
+  EXPECT_TRUE(ParseArguments(Words{"-n", "127.0.0.1", "--help", "nonsense"}).help);
 }
 
 TEST(CodenetArguments, WrongOnesNameTheOptionAndWhatIsWrong) {
@@ -60,7 +59,7 @@ TEST(CodenetArguments, WrongOnesNameTheOptionAndWhatIsWrong) {
   }
   for (const Wrong& wrong : table) {
     try {
-      ParseCodenetArguments(wrong.words);
+      ParseArguments(wrong.words);
       ADD_FAILURE() << "taken: " << wrong.words.back() << ", " << wrong.message;
     } catch (const UsageError& error) {
       EXPECT_NE(std::string(error.what()).find(wrong.message), std::string::npos)
@@ -98,7 +97,7 @@ TEST(CodenetOptions, ComposesWhatTheToolUnderstands) {
     const ComposedOptions composed = ComposeOptions(form, true);
     EXPECT_EQ(composed.options, choice.options);
     EXPECT_FALSE(composed.incomplete);
-    const CodenetArguments parsed = ParseCodenetArguments(CodenetArgumentList(form, form.file));
+    const Arguments parsed = ParseArguments(CodenetArgumentList(form, form.file));
     EXPECT_EQ(parsed.mode, choice.mode);
     EXPECT_EQ(parsed.file, "a b.prg");
   }

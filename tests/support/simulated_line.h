@@ -6,12 +6,12 @@
 #include <map>
 #include <vector>
 
-#include "c64out/datagram_socket.h"
+#include "codenet/datagram_socket.h"
 #include "support/codenet_machine.h"
 
 namespace kelvo::support {
 
-class SimulatedLine final : public c64out::DatagramSocket, public c64out::TransferWatch {
+class SimulatedLine final : public codenet::DatagramSocket, public codenet::TransferWatch {
  public:
   using Microseconds = std::chrono::microseconds;
 

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "arguments/program_arguments.h"
-#include "c64out/codenet_transfer.h"
+#include "codenet/transfer.h"
 #include "terminal_progress.h"
 #include "udp_socket.h"
 
@@ -24,7 +24,7 @@ extern "C" void WantStop(int) {
   stop_wanted = true;
 }
 
-class SystemWatch final : public c64out::TransferWatch {
+class SystemWatch final : public TransferWatch {
  public:
   Time Now() const override { return std::chrono::steady_clock::now(); }
   bool StopWanted() const override { return stop_wanted; }
@@ -34,16 +34,16 @@ void Complain(const std::string& text) {
   std::fprintf(stderr, "codenet: %s\n", text.c_str());
 }
 
-void Send(const c64out::CodenetArguments& arguments, const c64out::CodenetTransfer& transfer) {
+void Send(const Arguments& arguments, const Transfer& transfer) {
   UdpSocket socket(arguments.host, arguments.port);
   const SystemWatch watch;
-  c64out::CodenetSender sender(socket, watch, static_cast<std::uint8_t>(std::random_device()()));
+  Sender sender(socket, watch, static_cast<std::uint8_t>(std::random_device()()));
   TerminalProgress progress;
   SendTransfer(transfer, sender, progress);
 }
 
-ExitCode Perform(const c64out::CodenetArguments& arguments) {
-  const c64out::CodenetTransfer transfer = PrepareTransfer(arguments);
+ExitCode Perform(const Arguments& arguments) {
+  const Transfer transfer = PrepareTransfer(arguments);
   try {
     Send(arguments, transfer);
   } catch (const std::exception& error) {
@@ -55,11 +55,11 @@ ExitCode Perform(const c64out::CodenetArguments& arguments) {
 
 ExitCode Main(const std::vector<std::string>& words) {
   try {
-    const c64out::CodenetArguments arguments = c64out::ParseCodenetArguments(words);
+    const Arguments arguments = ParseArguments(words);
     if (!arguments.help) return Perform(arguments);
-    std::fwrite(c64out::kCodenetHelp.data(), 1, c64out::kCodenetHelp.size(), stdout);
+    std::fwrite(kHelp.data(), 1, kHelp.size(), stdout);
     return kConfirmed;
-  } catch (const c64out::UsageError& error) {
+  } catch (const UsageError& error) {
     Complain(std::string(error.what()) + "\nTry codenet --help.");
     return kUsage;
   } catch (const std::exception& error) {

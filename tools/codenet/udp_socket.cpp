@@ -22,7 +22,7 @@ HostAddresses LookUp(const std::string& host, std::uint16_t port) {
 }
 
 [[noreturn]] void Fail(const std::error_code& error) {
-  if (MeansNobodyListens(error)) throw c64out::NobodyListens("this host is there, but nothing listens at that port");
+  if (MeansNobodyListens(error)) throw NobodyListens("this host is there, but nothing listens at that port");
   throw std::runtime_error("the network cannot be used: " + error.message());
 }
 

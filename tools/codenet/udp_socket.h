@@ -4,12 +4,12 @@
 #include <cstdint>
 #include <string>
 
-#include "c64out/datagram_socket.h"
+#include "codenet/datagram_socket.h"
 #include "sockets.h"
 
 namespace kelvo::codenet {
 
-class UdpSocket final : public c64out::DatagramSocket {
+class UdpSocket final : public DatagramSocket {
  public:
   // Looks `host` up, a name or a numeric address; nothing is sent yet. Throws std::runtime_error.
   UdpSocket(const std::string& host, std::uint16_t port);

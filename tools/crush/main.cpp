@@ -1,4 +1,4 @@
-// crush: packs a file for the C64, or unpacks it. The work is c64out/crunch.h's.
+// crush: packs a file for the C64, or unpacks it. The work is crunch/crunch.h's.
 #include <cstdio>
 #include <exception>
 #include <filesystem>
@@ -11,7 +11,7 @@
 #include "app/path_text.h"
 #include "app/whole_file.h"
 #include "arguments/program_arguments.h"
-#include "c64out/crunch.h"
+#include "crunch/crunch.h"
 
 namespace {
 
@@ -26,24 +26,24 @@ constexpr std::string_view kHelp =
     "INPUT may be any file of up to 262144 bytes. OUTPUT is written whole or not at all.\n";
 
 // What packing can make of the largest input, with plenty to spare.
-constexpr std::uintmax_t kMostPacked = 2 * c64out::kMostBytesToCrunch;
+constexpr std::uintmax_t kMostPacked = 2 * crunch::kMostBytesToCrunch;
 
 enum ExitCode { kDone, kFailed, kWrongUsage };
 
 std::optional<int> LevelFrom(std::string_view text) {
-  if (text.size() != 1 || text[0] < '0' + c64out::kFirstLevel || text[0] > '0' + c64out::kLastLevel) return {};
+  if (text.size() != 1 || text[0] < '0' + crunch::kFirstLevel || text[0] > '0' + crunch::kLastLevel) return {};
   return text[0] - '0';
 }
 
 void Pack(int level, const fs::path& input, const fs::path& output) {
-  app::WriteWholeFile(output, c64out::Crunch(app::ReadWholeFile(input, c64out::kMostBytesToCrunch), level));
+  app::WriteWholeFile(output, crunch::Crunch(app::ReadWholeFile(input, crunch::kMostBytesToCrunch), level));
 }
 
 void Unpack(const fs::path& input, const fs::path& output) {
   const app::Bytes packed = app::ReadWholeFile(input, kMostPacked);
   app::Bytes bytes;
   try {
-    bytes = c64out::Decrunch(packed);
+    bytes = crunch::Decrunch(packed);
   } catch (const std::runtime_error& error) {
     throw std::runtime_error(app::TextFromPath(input) + ": " + error.what());
   }

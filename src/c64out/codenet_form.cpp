@@ -1,4 +1,4 @@
-#include "c64out/codenet_options.h"
+#include "c64out/codenet_form.h"
 
 #include <algorithm>
 

@@ -1,10 +1,10 @@
-#include "c64out/crunch_parse.h"
+#include "crunch/parse.h"
 
 #include <algorithm>
 #include <array>
 #include <limits>
 
-namespace kelvo::c64out {
+namespace kelvo::crunch {
 namespace {
 
 using Bytes = std::span<const std::uint8_t>;
@@ -217,4 +217,4 @@ Parse FindTokens(Bytes bytes, Literals literals, const Effort& effort) {
   return best;
 }
 
-}  // namespace kelvo::c64out
+}  // namespace kelvo::crunch

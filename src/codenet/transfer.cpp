@@ -1,18 +1,18 @@
-#include "c64out/codenet_transfer.h"
+#include "codenet/transfer.h"
 
 #include "app/number_text.h"
 #include "app/path_text.h"
 
-namespace kelvo::c64out {
+namespace kelvo::codenet {
 namespace {
 
 constexpr std::size_t kLoadAddressSize = 2;
 
-[[noreturn]] void Fail(const CodenetArguments& arguments, const std::string& what) {
+[[noreturn]] void Fail(const Arguments& arguments, const std::string& what) {
   throw app::FileError(arguments.file + ": " + what);
 }
 
-std::uint16_t TakeLoadAddress(const CodenetArguments& arguments, app::Bytes& program) {
+std::uint16_t TakeLoadAddress(const Arguments& arguments, app::Bytes& program) {
   if (program.size() <= kLoadAddressSize) {
     Fail(arguments, "this is no PRG: it has " + std::to_string(program.size()) + " bytes, one has at least 3");
   }
@@ -21,15 +21,15 @@ std::uint16_t TakeLoadAddress(const CodenetArguments& arguments, app::Bytes& pro
   return address;
 }
 
-void Start(const CodenetTransfer& transfer, CodenetSender& sender) {
+void Start(const Transfer& transfer, Sender& sender) {
   if (transfer.run) sender.Run();
   if (transfer.jump) sender.Jump(*transfer.jump);
 }
 
 }  // namespace
 
-CodenetTransfer PrepareTransfer(const CodenetArguments& arguments) {
-  CodenetTransfer transfer;
+Transfer PrepareTransfer(const Arguments& arguments) {
+  Transfer transfer;
   transfer.run = arguments.mode == FileMode::kRunProgram;
   transfer.jump = arguments.execute;
   if (arguments.mode == FileMode::kNone) return transfer;
@@ -47,7 +47,7 @@ CodenetTransfer PrepareTransfer(const CodenetArguments& arguments) {
   return transfer;
 }
 
-void SendTransfer(const CodenetTransfer& transfer, CodenetSender& sender, app::Progress& progress) {
+void SendTransfer(const Transfer& transfer, Sender& sender, app::Progress& progress) {
   if (transfer.bytes.empty()) return Start(transfer, sender);
   sender.WriteMemory(transfer.address, transfer.bytes, progress);
   try {
@@ -57,4 +57,4 @@ void SendTransfer(const CodenetTransfer& transfer, CodenetSender& sender, app::P
   }
 }
 
-}  // namespace kelvo::c64out
+}  // namespace kelvo::codenet

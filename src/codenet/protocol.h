@@ -19,28 +19,28 @@
 
 #include "app/whole_file.h"
 
-namespace kelvo::c64out {
+namespace kelvo::codenet {
 
-inline constexpr int kCodenetPort = 6462;
+inline constexpr int kPort = 6462;
 inline constexpr std::size_t kMostData = 128;        // bytes of memory in one packet
 inline constexpr std::size_t kMemorySize = 0x10000;  // of a C64
 
-enum class CodenetService : std::uint8_t { kPing = 0, kAnswer = 1, kData = 4, kJump = 6, kRun = 7 };
+enum class Service : std::uint8_t { kPing = 0, kAnswer = 1, kData = 4, kJump = 6, kRun = 7 };
 
 // A packet without any parameters: a ping, or the order to run the BASIC program in memory.
-app::Bytes EncodePlain(std::uint8_t sequence, CodenetService service);
+app::Bytes EncodePlain(std::uint8_t sequence, Service service);
 
 // Writes `data` (1..kMostData bytes) from `address` on.
 app::Bytes EncodeData(std::uint8_t sequence, std::uint16_t address, std::span<const std::uint8_t> data);
 
 app::Bytes EncodeJump(std::uint8_t sequence, std::uint16_t address);
 
-struct CodenetAnswer {
+struct Answer {
   std::uint8_t sequence;  // of the packet that it answers
   bool accepted;          // false: the C64 refuses that packet
 };
 
 // Empty for anything that is no answer: too short, of another protocol, or with a service that is no answer's.
-std::optional<CodenetAnswer> DecodeAnswer(std::span<const std::uint8_t> packet);
+std::optional<Answer> DecodeAnswer(std::span<const std::uint8_t> packet);
 
-}  // namespace kelvo::c64out
+}  // namespace kelvo::codenet

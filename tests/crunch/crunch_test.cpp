@@ -1,5 +1,5 @@
 // Packing: whatever goes in comes out again.
-#include "c64out/crunch.h"
+#include "crunch/crunch.h"
 
 #include <gtest/gtest.h>
 
@@ -11,7 +11,7 @@
 #include "support/files.h"
 #include "support/run_tool.h"
 
-namespace kelvo::c64out {
+namespace kelvo::crunch {
 namespace {
 
 using app::Bytes;
@@ -118,4 +118,4 @@ TEST(CrushTool, PacksUnpacksAndTellsWhatIsWrong) {
 }
 
 }  // namespace
-}  // namespace kelvo::c64out
+}  // namespace kelvo::crunch

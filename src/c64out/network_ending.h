@@ -7,6 +7,6 @@ namespace kelvo::c64out {
 
 // Sends the finished program to the C64 and starts it there; or, where the choice says so, lets the C64 save it on its
 // own drive. Throws like BuildJob::Run.
-void EndWithCodenet(const BuildJob& job);
+void EndOverNetwork(const BuildJob& job);
 
 }  // namespace kelvo::c64out

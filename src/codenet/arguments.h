@@ -8,9 +8,9 @@
 #include <string>
 #include <string_view>
 
-#include "c64out/codenet_protocol.h"
+#include "codenet/protocol.h"
 
-namespace kelvo::c64out {
+namespace kelvo::codenet {
 
 // How the file is to be written.
 enum class FileMode {
@@ -21,16 +21,16 @@ enum class FileMode {
   kBytesAt,     // -wb: every byte, to `address`
 };
 
-struct CodenetArguments {
+struct Arguments {
   std::string host;
-  std::uint16_t port = kCodenetPort;
+  std::uint16_t port = kPort;
   FileMode mode = FileMode::kNone;
   std::string file;
   std::uint16_t address = 0;
   std::optional<std::uint16_t> execute;  // -e: jump there in the end
   bool help = false;                     // nothing else counts then
 
-  friend bool operator==(const CodenetArguments&, const CodenetArguments&) = default;
+  friend bool operator==(const Arguments&, const Arguments&) = default;
 };
 
 // A command line that the tool does not take. The message says what is wrong with which option.
@@ -40,12 +40,12 @@ class UsageError : public std::runtime_error {
 };
 
 // What --help prints.
-extern const std::string_view kCodenetHelp;
+extern const std::string_view kHelp;
 
 // `arguments` without the program's own name, in any order. Throws UsageError for an option that is unknown, given
 // twice or without its value, an address or a port that does not parse, a host that is none, and for a line without a
 // host or without anything to do.
-CodenetArguments ParseCodenetArguments(std::span<const std::string> arguments);
+Arguments ParseArguments(std::span<const std::string> arguments);
 
 // "$" and one to four hexadecimal digits, as a number; empty for anything else.
 std::optional<std::uint16_t> ParseC64Address(std::string_view text);
@@ -54,4 +54,4 @@ std::optional<std::uint16_t> ParseC64Address(std::string_view text);
 // begin with.
 bool IsHostText(std::string_view text);
 
-}  // namespace kelvo::c64out
+}  // namespace kelvo::codenet

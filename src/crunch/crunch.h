@@ -15,7 +15,7 @@
 //                plus 128 for a bitmap in columns: byte 8 * (40 * row + column) + line stands at
 //                200 * column + 8 * row + line
 //
-// crunch_section.h tells what a section is, crunch_stream.h how bits and bytes lie in the stream; bits go on from
+// section.h tells what a section is, crunch_stream.h how bits and bytes lie in the stream; bits go on from
 // section to section. The colours of a picture are nibbles: where one is not, the bytes are packed as layout 0.
 #pragma once
 
@@ -23,7 +23,7 @@
 #include <span>
 #include <vector>
 
-namespace kelvo::c64out {
+namespace kelvo::crunch {
 
 inline constexpr int kFirstLevel = 1, kLastLevel = 9;
 inline constexpr std::size_t kMostBytesToCrunch = 1 << 18;
@@ -35,4 +35,4 @@ std::vector<std::uint8_t> Crunch(std::span<const std::uint8_t> bytes, int level)
 // What Crunch() packed. Throws std::runtime_error for bytes that it did not make.
 std::vector<std::uint8_t> Decrunch(std::span<const std::uint8_t> packed);
 
-}  // namespace kelvo::c64out
+}  // namespace kelvo::crunch

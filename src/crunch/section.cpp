@@ -1,8 +1,8 @@
-#include "c64out/crunch_section.h"
+#include "crunch/section.h"
 
 #include <stdexcept>
 
-namespace kelvo::c64out {
+namespace kelvo::crunch {
 namespace {
 
 // The state that writer and reader share: what the next token is told against.
@@ -136,4 +136,4 @@ std::vector<std::uint8_t> ReadSection(Literals literals, std::size_t most, BitRe
   return section.Take();
 }
 
-}  // namespace kelvo::c64out
+}  // namespace kelvo::crunch

@@ -6,12 +6,12 @@
 
 #include "app/progress.h"
 #include "app/whole_file.h"
-#include "c64out/codenet_arguments.h"
-#include "c64out/codenet_sender.h"
+#include "codenet/arguments.h"
+#include "codenet/sender.h"
 
-namespace kelvo::c64out {
+namespace kelvo::codenet {
 
-struct CodenetTransfer {
+struct Transfer {
   std::uint16_t address = 0;
   app::Bytes bytes;  // for `address` on, up to $FFFF at most
   bool run = false;
@@ -20,9 +20,9 @@ struct CodenetTransfer {
 
 // Reads the file. Throws app::FileError when it is missing, no ordinary file, empty, too short for a PRG (less than
 // three bytes), or would run past $FFFF.
-CodenetTransfer PrepareTransfer(const CodenetArguments& arguments);
+Transfer PrepareTransfer(const Arguments& arguments);
 
 // Writes, then starts. Throws what the sender throws; a program whose data is not all confirmed is not started.
-void SendTransfer(const CodenetTransfer& transfer, CodenetSender& sender, app::Progress& progress);
+void SendTransfer(const Transfer& transfer, Sender& sender, app::Progress& progress);
 
-}  // namespace kelvo::c64out
+}  // namespace kelvo::codenet

@@ -8,7 +8,7 @@
 
 #include "app/whole_file.h"
 
-namespace kelvo::c64out {
+namespace kelvo::codenet {
 
 // The other side lets know that no program there takes datagrams at that port.
 class NobodyListens : public std::runtime_error {
@@ -39,4 +39,4 @@ class TransferWatch {
   virtual bool StopWanted() const = 0;
 };
 
-}  // namespace kelvo::c64out
+}  // namespace kelvo::codenet

@@ -18,9 +18,9 @@
 #include <span>
 #include <vector>
 
-#include "c64out/crunch_stream.h"
+#include "crunch/stream.h"
 
-namespace kelvo::c64out {
+namespace kelvo::crunch {
 
 // How many bits a literal takes.
 enum class Literals { kBytes = 8, kNibbles = 4 };
@@ -56,4 +56,4 @@ void WriteSection(std::span<const std::uint8_t> bytes, std::span<const Token> to
 // Reads a section of at most `most` bytes. Throws std::runtime_error for damaged data.
 std::vector<std::uint8_t> ReadSection(Literals literals, std::size_t most, BitReader& reader);
 
-}  // namespace kelvo::c64out
+}  // namespace kelvo::crunch

@@ -1,11 +1,11 @@
-#include "c64out/codenet_arguments.h"
+#include "codenet/arguments.h"
 
 #include <algorithm>
 #include <set>
 
 #include "app/text.h"
 
-namespace kelvo::c64out {
+namespace kelvo::codenet {
 namespace {
 
 // Takes the values of its option, one after the other.
@@ -27,7 +27,7 @@ class Values {
 
 struct Option {
   std::string_view name;
-  void (*read)(const Option& option, Values& values, CodenetArguments& arguments);
+  void (*read)(const Option& option, Values& values, Arguments& arguments);
   FileMode mode = FileMode::kNone;
 };
 
@@ -42,34 +42,34 @@ std::uint16_t ReadAddress(const Option& option, Values& values) {
   return *address;
 }
 
-void ReadHost(const Option& option, Values& values, CodenetArguments& arguments) {
+void ReadHost(const Option& option, Values& values, Arguments& arguments) {
   arguments.host = values.ValueOf(option.name, "the C64's address");
   if (!IsHostText(arguments.host)) Fail(option.name, "\"" + arguments.host + "\" is no host's address or name");
 }
 
-void ReadPort(const Option& option, Values& values, CodenetArguments& arguments) {
+void ReadPort(const Option& option, Values& values, Arguments& arguments) {
   const std::string& text = values.ValueOf(option.name, "a port");
   const auto port = app::WholeNumber<std::uint16_t>(text);
   if (!port || *port == 0) Fail(option.name, "\"" + text + "\" is no port; one is a number from 1 to 65535");
   arguments.port = *port;
 }
 
-void ReadFile(const Option& option, Values& values, CodenetArguments& arguments) {
+void ReadFile(const Option& option, Values& values, Arguments& arguments) {
   if (arguments.mode != FileMode::kNone) Fail(option.name, "only one file can be sent");
   arguments.mode = option.mode;
   arguments.file = values.ValueOf(option.name, "a file");
 }
 
-void ReadFileAndAddress(const Option& option, Values& values, CodenetArguments& arguments) {
+void ReadFileAndAddress(const Option& option, Values& values, Arguments& arguments) {
   ReadFile(option, values, arguments);
   arguments.address = ReadAddress(option, values);
 }
 
-void ReadExecute(const Option& option, Values& values, CodenetArguments& arguments) {
+void ReadExecute(const Option& option, Values& values, Arguments& arguments) {
   arguments.execute = ReadAddress(option, values);
 }
 
-void ReadHelp(const Option&, Values&, CodenetArguments& arguments) {
+void ReadHelp(const Option&, Values&, Arguments& arguments) {
   arguments.help = true;
 }
 
@@ -98,7 +98,7 @@ const std::string& Values::ValueOf(std::string_view option, std::string_view wha
   return Next();
 }
 
-void CheckWhole(const CodenetArguments& arguments) {
+void CheckWhole(const Arguments& arguments) {
   if (arguments.host.empty()) throw UsageError("the C64's address is missing: -n ADDRESS");
   if (arguments.mode == FileMode::kNone && !arguments.execute) throw UsageError("there is nothing to send or to start");
   if (arguments.mode == FileMode::kRunProgram && arguments.execute) Fail("-e", "-x starts the program already");
@@ -106,7 +106,7 @@ void CheckWhole(const CodenetArguments& arguments) {
 
 }  // namespace
 
-const std::string_view kCodenetHelp =
+const std::string_view kHelp =
     "Usage: codenet -n ADDRESS [-p PORT] [FILE OPTION] [-e $ADDR]\n"
     "Sends a file into the memory of a C64 that waits in Codenet's receive state, and starts it.\n"
     "\n"
@@ -123,8 +123,8 @@ const std::string_view kCodenetHelp =
     "Addresses have one to four hexadecimal digits. A shell may want them in quotes: '$c000'.\n"
     "Exit code: 0 the C64 has confirmed everything, 1 it has not, 2 the command line is wrong.\n";
 
-CodenetArguments ParseCodenetArguments(std::span<const std::string> arguments) {
-  CodenetArguments parsed;
+Arguments ParseArguments(std::span<const std::string> arguments) {
+  Arguments parsed;
   std::set<std::string_view> seen;
   for (Values values(arguments); !values.AtEnd();) {
     const std::string& name = values.Next();
@@ -149,4 +149,4 @@ bool IsHostText(std::string_view text) {
   return !text.empty() && !text.starts_with('-') && text.find_first_not_of(kAllowed) == std::string_view::npos;
 }
 
-}  // namespace kelvo::c64out
+}  // namespace kelvo::codenet

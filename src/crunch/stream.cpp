@@ -1,9 +1,9 @@
-#include "c64out/crunch_stream.h"
+#include "crunch/stream.h"
 
 #include <bit>
 #include <stdexcept>
 
-namespace kelvo::c64out {
+namespace kelvo::crunch {
 
 int GammaBits(int number) {
   return 2 * static_cast<int>(std::bit_width(static_cast<unsigned>(number))) - 1;
@@ -48,4 +48,4 @@ int BitReader::GetGamma() {
   return number;
 }
 
-}  // namespace kelvo::c64out
+}  // namespace kelvo::crunch

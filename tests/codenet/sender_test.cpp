@@ -1,15 +1,15 @@
 // Transfers over a network in made-up time: what is sent, when it is sent again, and what may be claimed.
-#include "c64out/codenet_sender.h"
+#include "codenet/sender.h"
 
 #include <gtest/gtest.h>
 
 #include <random>
 
-#include "c64out/codenet_transfer.h"
+#include "codenet/transfer.h"
 #include "support/files.h"
 #include "support/simulated_line.h"
 
-namespace kelvo::c64out {
+namespace kelvo::codenet {
 namespace {
 
 using std::chrono::microseconds;
@@ -44,7 +44,7 @@ class CodenetSenderTest : public testing::Test {
 
   SimulatedLine line_;
   app::NoProgress progress_;
-  CodenetSender sender_{line_, line_, 254};
+  Sender sender_{line_, line_, 254};
 };
 
 TEST_F(CodenetSenderTest, CountsUpItsPacketsAndKeepsThemEven) {
@@ -181,7 +181,7 @@ TEST(CodenetTransfer, AThousandOverABadNetworkEndRightOrWithAnError) {
   app::NoProgress progress;
   int claims = 0;
   for (int transfer = 0; transfer < 1000; ++transfer) {
-    CodenetSender sender(line, line, static_cast<std::uint8_t>(random()));
+    Sender sender(line, line, static_cast<std::uint8_t>(random()));
     app::Bytes bytes(10000);
     for (std::uint8_t& byte : bytes) byte = static_cast<std::uint8_t>(random());
     const bool is_claimed = ErrorOf([&] { sender.WriteMemory(kAddress, bytes, progress); }).empty();
@@ -216,12 +216,12 @@ TEST(CodenetStart, NeverStartsAProgramTwice) {
     SimulatedLine line;
     std::size_t orders = 0;
     line.fate_of = [&](int, const app::Bytes& packet) {
-      if (packet[3] != static_cast<std::uint8_t>(CodenetService::kJump)) {
+      if (packet[3] != static_cast<std::uint8_t>(Service::kJump)) {
         return start.busy && !line.machine.jumps.empty() ? kLost : Fate();
       }
       return orders < start.order_fates.size() ? start.order_fates[orders++] : kLost;
     };
-    CodenetSender sender(line, line, 0);
+    Sender sender(line, line, 0);
     app::NoProgress progress;
     EXPECT_EQ(ErrorOf([&] { SendTransfer({0x2000, app::Bytes(200), false, 0xCF00}, sender, progress); }), start.error);
     EXPECT_EQ(line.machine.jumps, std::vector<int>(start.jumps, 0xCF00));
@@ -229,4 +229,4 @@ TEST(CodenetStart, NeverStartsAProgramTwice) {
 }
 
 }  // namespace
-}  // namespace kelvo::c64out
+}  // namespace kelvo::codenet

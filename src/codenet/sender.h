@@ -18,10 +18,10 @@
 #include <vector>
 
 #include "app/progress.h"
-#include "c64out/codenet_protocol.h"
-#include "c64out/datagram_socket.h"
+#include "codenet/datagram_socket.h"
+#include "codenet/protocol.h"
 
-namespace kelvo::c64out {
+namespace kelvo::codenet {
 
 // A transfer that did not come to its end. The message says what is known about the C64's memory and program.
 class TransferError : public std::runtime_error {
@@ -37,11 +37,11 @@ struct Patience {
 
 // Each call returns only when the C64 has confirmed all of it. Throws TransferError, also when a stop is wanted; a
 // start also throws what the socket throws.
-class CodenetSender {
+class Sender {
  public:
   // `first_sequence` is best a random one, so that answers to an earlier transfer fit no packet of this one.
-  CodenetSender(DatagramSocket& socket, const TransferWatch& watch, std::uint8_t first_sequence,
-                const Patience& patience = {});
+  Sender(DatagramSocket& socket, const TransferWatch& watch, std::uint8_t first_sequence,
+         const Patience& patience = {});
 
   // `bytes` must end at $FFFF or before; else nothing is sent. The progress counts bytes. An error tells how many of
   // them are confirmed.
@@ -94,4 +94,4 @@ class CodenetSender {
   std::vector<Copy> unanswered_;
 };
 
-}  // namespace kelvo::c64out
+}  // namespace kelvo::codenet

@@ -5,9 +5,9 @@
 #include <span>
 #include <vector>
 
-#include "c64out/crunch_section.h"
+#include "crunch/section.h"
 
-namespace kelvo::c64out {
+namespace kelvo::crunch {
 
 // How much work a search takes.
 struct Effort {
@@ -25,4 +25,4 @@ struct Parse {
 // The tokens of `bytes`, in order, and the code for their offsets.
 Parse FindTokens(std::span<const std::uint8_t> bytes, Literals literals, const Effort& effort);
 
-}  // namespace kelvo::c64out
+}  // namespace kelvo::crunch

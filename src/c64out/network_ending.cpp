@@ -1,4 +1,4 @@
-#include "c64out/codenet_ending.h"
+#include "c64out/network_ending.h"
 
 #include "app/whole_file.h"
 #include "c64out/output_settings.h"
@@ -35,7 +35,7 @@ void SaveOnDrive(const BuildJob& job) {
 
 }  // namespace
 
-void EndWithCodenet(const BuildJob& job) {
+void EndOverNetwork(const BuildJob& job) {
   job.Print("--> Sending to " + job.Setting(kCodenetC64Ip));
   if (job.Choice().SaveOn15x1) return SaveOnDrive(job);
   Send(job, "-x", ShortPath(job.Files().program));

@@ -1,6 +1,6 @@
-#include "c64out/codenet_protocol.h"
+#include "codenet/protocol.h"
 
-namespace kelvo::c64out {
+namespace kelvo::codenet {
 namespace {
 
 constexpr std::uint8_t kMagicHigh = 0xCA, kMagicLow = 0x1F;
@@ -13,12 +13,12 @@ void AppendWord(app::Bytes& packet, std::size_t word) {
 
 }  // namespace
 
-app::Bytes EncodePlain(std::uint8_t sequence, CodenetService service) {
+app::Bytes EncodePlain(std::uint8_t sequence, Service service) {
   return {kMagicHigh, kMagicLow, sequence, static_cast<std::uint8_t>(service)};
 }
 
 app::Bytes EncodeData(std::uint8_t sequence, std::uint16_t address, std::span<const std::uint8_t> data) {
-  app::Bytes packet = EncodePlain(sequence, CodenetService::kData);
+  app::Bytes packet = EncodePlain(sequence, Service::kData);
   AppendWord(packet, address);
   AppendWord(packet, data.size());
   packet.insert(packet.end(), data.begin(), data.end());
@@ -27,15 +27,15 @@ app::Bytes EncodeData(std::uint8_t sequence, std::uint16_t address, std::span<co
 }
 
 app::Bytes EncodeJump(std::uint8_t sequence, std::uint16_t address) {
-  app::Bytes packet = EncodePlain(sequence, CodenetService::kJump);
+  app::Bytes packet = EncodePlain(sequence, Service::kJump);
   AppendWord(packet, address);
   return packet;
 }
 
-std::optional<CodenetAnswer> DecodeAnswer(std::span<const std::uint8_t> packet) {
+std::optional<Answer> DecodeAnswer(std::span<const std::uint8_t> packet) {
   if (packet.size() < kHeaderSize || packet[0] != kMagicHigh || packet[1] != kMagicLow) return std::nullopt;
-  if (packet[3] > static_cast<std::uint8_t>(CodenetService::kAnswer)) return std::nullopt;
-  return CodenetAnswer{packet[2], packet[3] == static_cast<std::uint8_t>(CodenetService::kAnswer)};
+  if (packet[3] > static_cast<std::uint8_t>(Service::kAnswer)) return std::nullopt;
+  return Answer{packet[2], packet[3] == static_cast<std::uint8_t>(Service::kAnswer)};
 }
 
-}  // namespace kelvo::c64out
+}  // namespace kelvo::codenet

@@ -9,7 +9,7 @@
 #include <span>
 #include <vector>
 
-namespace kelvo::c64out {
+namespace kelvo::crunch {
 
 // Positive numbers are told by Elias' gamma code, interlaced: for each binary digit behind the first a 1 and the digit,
 // then a 0. From kGammaEnd on there are none: eight digits stop a reader there, without the 0.
@@ -49,4 +49,4 @@ class BitReader {
   int bits_ = 0, bits_left_ = 0;
 };
 
-}  // namespace kelvo::c64out
+}  // namespace kelvo::crunch

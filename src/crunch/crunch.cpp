@@ -1,14 +1,14 @@
-#include "c64out/crunch.h"
+#include "crunch/crunch.h"
 
 #include <algorithm>
 #include <array>
 #include <stdexcept>
 #include <string>
 
-#include "c64out/crunch_parse.h"
-#include "c64out/crunch_section.h"
+#include "crunch/parse.h"
+#include "crunch/section.h"
 
-namespace kelvo::c64out {
+namespace kelvo::crunch {
 namespace {
 
 using Bytes = std::vector<std::uint8_t>;
@@ -134,4 +134,4 @@ std::vector<std::uint8_t> Decrunch(BytesView packed) {
   return bytes;
 }
 
-}  // namespace kelvo::c64out
+}  // namespace kelvo::crunch

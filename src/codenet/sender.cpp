@@ -1,11 +1,11 @@
-#include "c64out/codenet_sender.h"
+#include "codenet/sender.h"
 
 #include <algorithm>
 #include <string>
 
 #include "app/number_text.h"
 
-namespace kelvo::c64out {
+namespace kelvo::codenet {
 namespace {
 
 using std::chrono::microseconds;
@@ -22,11 +22,11 @@ std::string Confirmed(std::size_t done, std::size_t all) {
 
 }  // namespace
 
-CodenetSender::CodenetSender(DatagramSocket& socket, const TransferWatch& watch, std::uint8_t first_sequence,
-                             const Patience& patience)
+Sender::Sender(DatagramSocket& socket, const TransferWatch& watch, std::uint8_t first_sequence,
+               const Patience& patience)
     : socket_(socket), watch_(watch), patience_(patience), next_(first_sequence) {}
 
-void CodenetSender::WriteMemory(std::uint16_t address, std::span<const std::uint8_t> bytes, app::Progress& progress) {
+void Sender::WriteMemory(std::uint16_t address, std::span<const std::uint8_t> bytes, app::Progress& progress) {
   if (address + bytes.size() > kMemorySize) {
     throw TransferError(std::to_string(bytes.size()) + " bytes at $" + app::ToHex(address, 4) + " run past $FFFF");
   }
@@ -45,24 +45,24 @@ void CodenetSender::WriteMemory(std::uint16_t address, std::span<const std::uint
   progress.Advance(static_cast<int>(bytes.size()));
 }
 
-void CodenetSender::WriteData(std::uint16_t address, std::span<const std::uint8_t> data) {
+void Sender::WriteData(std::uint16_t address, std::span<const std::uint8_t> data) {
   const std::uint8_t sequence = NextSequence();
   const Reply reply = Confirm(sequence, EncodeData(sequence, address, data));
   if (reply == Reply::kRefused) throw TransferError("the C64 refuses the data");
   if (reply == Reply::kNone) throw TransferError("the C64 does not answer");
 }
 
-void CodenetSender::Jump(std::uint16_t address) {
+void Sender::Jump(std::uint16_t address) {
   const std::uint8_t sequence = NextSequence();
   Start(sequence, EncodeJump(sequence, address));
 }
 
-void CodenetSender::Run() {
+void Sender::Run() {
   const std::uint8_t sequence = NextSequence();
-  Start(sequence, EncodePlain(sequence, CodenetService::kRun));
+  Start(sequence, EncodePlain(sequence, Service::kRun));
 }
 
-void CodenetSender::Start(std::uint8_t sequence, std::span<const std::uint8_t> packet) {
+void Sender::Start(std::uint8_t sequence, std::span<const std::uint8_t> packet) {
   microseconds wait = patience_.first_wait;
   for (int tries = 0; tries < patience_.tries; ++tries, wait *= 2) {
     Reply reply = Try(sequence, packet, wait);
@@ -77,16 +77,16 @@ void CodenetSender::Start(std::uint8_t sequence, std::span<const std::uint8_t> p
   throw TransferError("the C64 answers, but does not confirm the order to start");
 }
 
-bool CodenetSender::StillListens() {
+bool Sender::StillListens() {
   const std::uint8_t sequence = NextSequence();
   try {
-    return Confirm(sequence, EncodePlain(sequence, CodenetService::kPing)) != Reply::kNone;
+    return Confirm(sequence, EncodePlain(sequence, Service::kPing)) != Reply::kNone;
   } catch (const NobodyListens&) {
     return false;
   }
 }
 
-std::uint8_t CodenetSender::NextSequence() {
+std::uint8_t Sender::NextSequence() {
   const std::uint8_t sequence = next_++;
   Number& number = numbers_[sequence];
   while (LivesOn(number.last_sent)) TakeNext(number.last_sent + patience_.packet_life);
@@ -94,7 +94,7 @@ std::uint8_t CodenetSender::NextSequence() {
   return sequence;
 }
 
-CodenetSender::Reply CodenetSender::Confirm(std::uint8_t sequence, std::span<const std::uint8_t> packet) {
+Sender::Reply Sender::Confirm(std::uint8_t sequence, std::span<const std::uint8_t> packet) {
   Reply reply = Reply::kNone;
   microseconds wait = patience_.first_wait;
   for (int tries = 0; tries < patience_.tries && reply == Reply::kNone; ++tries, wait *= 2) {
@@ -104,8 +104,7 @@ CodenetSender::Reply CodenetSender::Confirm(std::uint8_t sequence, std::span<con
 }
 
 // Nothing that is there before the packet leaves can answer it; to an earlier copy of it there may be an answer now.
-CodenetSender::Reply CodenetSender::Try(std::uint8_t sequence, std::span<const std::uint8_t> packet,
-                                        microseconds wait) {
+Sender::Reply Sender::Try(std::uint8_t sequence, std::span<const std::uint8_t> packet, microseconds wait) {
   Number& number = numbers_[sequence];
   TakeWaiting();
   if (number.reply != Reply::kNone) return number.reply;
@@ -117,7 +116,7 @@ CodenetSender::Reply CodenetSender::Try(std::uint8_t sequence, std::span<const s
   return number.reply;
 }
 
-void CodenetSender::Settle() {
+void Sender::Settle() {
   for (;;) {
     std::erase_if(unanswered_, [this](const Copy& copy) { return !LivesOn(copy.sent); });
     if (unanswered_.empty()) return;
@@ -125,20 +124,20 @@ void CodenetSender::Settle() {
   }
 }
 
-void CodenetSender::TakeWaiting() {
+void Sender::TakeWaiting() {
   for (app::Bytes datagram = socket_.Receive({}); !datagram.empty(); datagram = socket_.Receive({})) {
     CheckStop();
     Take(datagram);
   }
 }
 
-void CodenetSender::TakeNext(Time end) {
+void Sender::TakeNext(Time end) {
   CheckStop();
   const auto left = std::chrono::ceil<microseconds>(end - watch_.Now());
   if (left > microseconds(0)) Take(socket_.Receive(std::min(left, kPiece)));
 }
 
-void CodenetSender::Take(std::span<const std::uint8_t> datagram) {
+void Sender::Take(std::span<const std::uint8_t> datagram) {
   const auto answer = DecodeAnswer(datagram);
   if (!answer) return;
   const auto copy = std::find_if(unanswered_.begin(), unanswered_.end(),
@@ -148,8 +147,8 @@ void CodenetSender::Take(std::span<const std::uint8_t> datagram) {
   numbers_[answer->sequence].reply = answer->accepted ? Reply::kAccepted : Reply::kRefused;
 }
 
-void CodenetSender::CheckStop() const {
+void Sender::CheckStop() const {
   if (watch_.StopWanted()) throw TransferError("stopped before the C64 had confirmed everything");
 }
 
-}  // namespace kelvo::c64out
+}  // namespace kelvo::codenet
