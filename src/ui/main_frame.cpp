@@ -362,7 +362,7 @@ void MainFrame::dragEnterEvent(QDragEnterEvent* event) {
 
 void MainFrame::dropEvent(QDropEvent* event) {
   event->acceptProposedAction();
-  files_.OpenPicture(FromQt(event->mimeData()->urls().first().toLocalFile()));
+  files_.OpenPicture(FromQt(NativePath(event->mimeData()->urls().first().toLocalFile())));
 }
 
 void MainFrame::closeEvent(QCloseEvent* event) {

@@ -20,7 +20,7 @@ QString ToQtFilter(std::string_view filter) {
 }
 
 QString StillThere(const QString& path) {
-  QFileInfo place(path);
+  QFileInfo place(path.endsWith(':') ? path + '/' : path);  // a drive, and not the folder last used on it
   while (!path.isEmpty() && !place.exists() && !place.isRoot()) place.setFile(place.absolutePath());
   return place.exists() ? place.absoluteFilePath() : QDir::homePath();
 }
@@ -30,7 +30,7 @@ std::optional<files::ChosenFile> QtFileDialogs::SelectFile(const std::string& fo
   dialog.setFileMode(QFileDialog::ExistingFile);
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
   const auto filter = dialog.nameFilters().indexOf(dialog.selectedNameFilter());
-  return files::ChosenFile{FromQt(dialog.selectedFiles().first()), static_cast<int>(filter) + 1};
+  return files::ChosenFile{FromQt(NativePath(dialog.selectedFiles().first())), static_cast<int>(filter) + 1};
 }
 
 std::optional<std::string> QtFileDialogs::SaveAs(const std::string& path) {
@@ -41,7 +41,7 @@ std::optional<std::string> QtFileDialogs::SaveAs(const std::string& path) {
   dialog.setDirectory(StillThere(proposal.absolutePath()));
   dialog.selectFile(proposal.completeBaseName() + ".kvp");
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
-  return FromQt(dialog.selectedFiles().first());
+  return FromQt(NativePath(dialog.selectedFiles().first()));
 }
 
 }  // namespace kelvo::ui

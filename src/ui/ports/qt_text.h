@@ -1,6 +1,7 @@
 // Between the core's UTF-8 texts and Qt's.
 #pragma once
 
+#include <QDir>
 #include <QString>
 #include <string>
 #include <string_view>
@@ -13,6 +14,11 @@ inline QString ToQt(std::string_view text) {
 
 inline std::string FromQt(const QString& text) {
   return text.toStdString();
+}
+
+// A path as the platform writes it: Qt's own have slashes everywhere.
+inline QString NativePath(const QString& path) {
+  return QDir::toNativeSeparators(path);
 }
 
 }  // namespace kelvo::ui
