@@ -3,7 +3,7 @@
 
 #include <cstring>
 
-#include "app/progress.h"
+#include "app/long_work.h"
 #include "goals.h"
 #include "model/full_view.h"
 #include "model/zoom_view.h"

@@ -15,7 +15,7 @@ namespace {
 using editing::Button;
 using model::PictureImage;
 
-constexpr int kFillTool = 2, kLineTool = 3, kContinuousLineTool = 4, kCircleTool = 5, kMouseCopyTool = 6;
+using editing::ToolId;
 constexpr int kMostActions = 60, kMostFills = 4;
 
 // What a cell's bytes are on the C64.
@@ -117,7 +117,7 @@ class Session final : public app::Messages, public app::ProcessEvents {
         return GiveUpShape();
       case 9:
         Tick();
-        painting_.ChooseTool(1 + input_.Below(7));
+        painting_.ChooseTool(static_cast<ToolId>(input_.Below(7)));
         return GiveUpShape();
       case 10:
         return SetPens();
@@ -143,12 +143,12 @@ class Session final : public app::Messages, public app::ProcessEvents {
   // Follows which presses begin something that Undo takes back.
   void Press(const PictureImage& before) {
     const editing::PointerEvent event{Place(), input_.Bit() ? Button::kLeft : Button::kRight};
-    const int tool = painting_.ToolIndex();
-    if (tool == kFillTool && ++fills_ > kMostFills) return;
+    const ToolId tool = painting_.ChosenTool();
+    if (tool == ToolId::kFill && ++fills_ > kMostFills) return;
     const auto stroke = painting_.StrokeButton();
     if (stroke && *stroke != event.button) return painting_.Press(event);
-    const bool is_shape = tool == kLineTool || tool == kContinuousLineTool || tool == kCircleTool;
-    const bool only_takes = tool == kMouseCopyTool && event.button == Button::kRight;
+    const bool is_shape = tool == ToolId::kLine || tool == ToolId::kContinuousLine || tool == ToolId::kCircle;
+    const bool only_takes = tool == ToolId::kMouseCopy && event.button == Button::kRight;
     if (is_shape && points_ == 0) undo_before_shape_ = undo_;
     if (is_shape ? points_ == 0 : !only_takes) undo_ = before;
     if (is_shape) points_ = std::min(points_ + 1, 2);
@@ -159,7 +159,7 @@ class Session final : public app::Messages, public app::ProcessEvents {
   void Tick() {
     painting_.Tick();
     if (points_ != 2) return;
-    points_ = painting_.ToolIndex() == kContinuousLineTool ? 1 : 0;
+    points_ = painting_.ChosenTool() == ToolId::kContinuousLine ? 1 : 0;
     undo_before_shape_.reset();
   }
 
@@ -189,7 +189,7 @@ class Session final : public app::Messages, public app::ProcessEvents {
     painting_.Tick();
     painting_.Undo();
     painting_.Escape();
-    painting_.ChooseTool(1 + input_.Below(7));
+    painting_.ChooseTool(static_cast<ToolId>(input_.Below(7)));
     if (input_.Bit()) painting_.Release();
     Require(picture_ == before, "no second action starts inside the first");
   }

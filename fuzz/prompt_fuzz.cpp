@@ -25,16 +25,6 @@ Names NamesIn(const fs::path& folder) {
   return names;
 }
 
-class Switch final : public app::AnimationSwitch {
- public:
-  void ToggleAnimMode() override { is_on_ = !is_on_; }
-  bool IsAnimModeChecked() const override { return is_on_; }
-  void SetAnimFlag(bool) override {}
-
- private:
-  bool is_on_ = false;
-};
-
 // One program for all inputs; after each it is brought back to how it began.
 class PromptAtWork : support::Program {
  public:
@@ -60,7 +50,7 @@ class PromptAtWork : support::Program {
     prompt.lines.clear();
     command::ProcessCommand(*line, {folders, document, files, prompt, animation_});
     Require(messages.shown.empty(), "a typed command opens no message box");
-    const std::string& path = document.file.CurrentFilePath;
+    const std::string path = app::TextFromPath(document.file.CurrentFilePath);
     Require(path.empty() ||
                 fs::weakly_canonical(path).string().starts_with(fs::weakly_canonical(folders.Root()).string() + "/"),
             "pictures are those of the program folder");
@@ -85,7 +75,8 @@ class PromptAtWork : support::Program {
   }
 
  private:
-  Switch animation_;
+  bool is_animation_on_ = false;
+  const command::AnimationSwitch animation_{[this] { return is_animation_on_ = !is_animation_on_; }, [](bool) {}};
   Names names_, outside_;
 };
 

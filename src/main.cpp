@@ -20,12 +20,7 @@
 
 namespace {
 
-using kelvo::ui::FromQt;
-using kelvo::ui::NativePath;
-
-std::filesystem::path PathOf(const QString& text) {
-  return kelvo::app::PathFromText(FromQt(text));
-}
+using kelvo::ui::PathFromQt;
 
 void NameProgram() {
   QCoreApplication::setOrganizationName("Kelvo");
@@ -59,9 +54,9 @@ std::optional<int> Answer(QCommandLineParser& parser) {
 kelvo::app::ProgramFolders FindFolders() {
   const QString executable = QCoreApplication::applicationDirPath();
   const QString user = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/Kelvo";
-  kelvo::app::ProgramFolders folders(kelvo::app::ChooseProgramFolder(PathOf(executable), PathOf(user)));
+  kelvo::app::ProgramFolders folders(kelvo::app::ChooseProgramFolder(PathFromQt(executable), PathFromQt(user)));
   folders.Create();
-  folders.Seed(PathOf(executable) / KELVO_SHARE_FROM_PROGRAM);
+  folders.Seed(PathFromQt(executable) / KELVO_SHARE_FROM_PROGRAM);
   return folders;
 }
 
@@ -73,7 +68,7 @@ void Begin(kelvo::ui::MainFrame& frame, kelvo::app::Messages& messages, const QS
     frame.StartUp();
   }
   if (!frame.OfferRecovery() && !pictures.isEmpty()) {
-    frame.Files().OpenPicture(FromQt(NativePath(QFileInfo(pictures.first()).absoluteFilePath())));
+    frame.Files().OpenPicture(PathFromQt(QFileInfo(pictures.first()).absoluteFilePath()));
     if (pictures.size() > 1) {
       messages.Inform("Kelvo opens one picture at a time: the first that is named, and no other.");
     }

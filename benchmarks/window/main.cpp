@@ -20,6 +20,9 @@
 #include "support/files.h"
 #include "support/pictures.h"
 #include "ui/application.h"
+#include "ui/desks/animation_desk.h"
+#include "ui/desks/build_desk.h"
+#include "ui/desks/painting_desk.h"
 #include "ui/main_frame.h"
 #include "ui/ports/qt_settings.h"
 #include "ui/ports/qt_text.h"
@@ -61,7 +64,7 @@ void Mouse(QWidget* box, QEvent::Type type, QPoint at, Qt::MouseButtons held) {
 }
 
 double FillTime(MainFrame& frame, QWidget* box) {
-  frame.Desk().ChooseTool(2);
+  frame.Desk().ChooseTool(kelvo::editing::ToolId::kFill);
   PaintWatch watch(box);
   QTest::qWait(100);
   const double begin = watch.Now();
@@ -74,7 +77,7 @@ double FillTime(MainFrame& frame, QWidget* box) {
 
 // 2000 moves, one a millisecond, as a fast mouse sends them.
 double DragBacklog(MainFrame& frame, QWidget* box) {
-  frame.Desk().ChooseTool(1);
+  frame.Desk().ChooseTool(kelvo::editing::ToolId::kDraw);
   PaintWatch watch(box);
   Mouse(box, QEvent::MouseButtonPress, {10, 10}, Qt::LeftButton);
   const double begin = watch.Now();
@@ -150,7 +153,7 @@ double BuildTime(MainFrame& frame, kelvo::app::SettingsStore& settings, const ke
   frame.Files().OpenPicture(kelvo::app::TextFromPath(folders.Gfx() / "landscape.kvp"));
   QElapsedTimer clock;
   clock.start();
-  frame.Builds().BuildCompoPic(kelvo::c64out::kCompoPicEntries[0].choice);
+  frame.Builds().BuildCompoPic(kelvo::c64out::kCreatePrg);
   const double milliseconds = static_cast<double>(clock.nsecsElapsed()) / 1e6;
   return exists(folders.Gfx() / "landscape.prg") ? milliseconds : std::numeric_limits<double>::infinity();
 }

@@ -40,11 +40,6 @@ void AnimMode::SetAnimFlag(bool on) {
   display_.ShowStatus(on ? "ANIM=ON" : "ANIM=OFF");
 }
 
-void AnimMode::FrameWindowUnloaded(const FrameWindowPlace& place) {
-  KeepFrameWindowPlace(with_.settings, place);
-  Check(false);
-}
-
 void AnimMode::Check(bool on) {
   checked_ = on;
   display_.ShowCheckMark(on);

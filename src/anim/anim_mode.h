@@ -4,7 +4,6 @@
 #include <string_view>
 
 #include "anim/anim_settings.h"
-#include "app/animation_switch.h"
 #include "app/messages.h"
 #include "app/settings_store.h"
 #include "files/document.h"
@@ -33,18 +32,19 @@ struct AnimSurroundings {
 // The menu's check mark and the flag, which stands in the status bar alone, are two states, on purpose: the check mark
 // says whether the frame window is open, and the flag follows it; but the command prompt can set the flag alone. Then
 // they disagree until the mode is switched again.
-class AnimMode final : public app::AnimationSwitch {
+class AnimMode {
  public:
   AnimMode(const AnimSurroundings& with, AnimDisplay& display) : with_(with), display_(display) {}
 
   // What the menu entry does. All that stands against the mode is told, and leaves it off.
-  void ToggleAnimMode() override;
-  bool IsAnimModeChecked() const override { return checked_; }
+  void ToggleAnimMode();
+  bool IsAnimModeChecked() const { return checked_; }
 
-  void SetAnimFlag(bool on) override;
+  // Sets the flag alone.
+  void SetAnimFlag(bool on);
 
-  // The frame window is gone, whoever closed it: its place is kept and the check mark cleared.
-  void FrameWindowUnloaded(const FrameWindowPlace& place);
+  // The frame window is gone, whoever closed it: the check mark is cleared.
+  void FrameWindowUnloaded() { Check(false); }
 
  private:
   void Check(bool on);

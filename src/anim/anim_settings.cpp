@@ -1,9 +1,9 @@
 #include "anim/anim_settings.h"
 
 #include <algorithm>
-#include <limits>
 
 namespace kelvo::anim {
+
 AnimProperties ReadAnimProperties(const app::SettingsStore& settings) {
   return {settings.Read(kFolder), settings.Read(kAnimPrefix)};
 }
@@ -22,17 +22,6 @@ bool ReadOnionSkin(const app::SettingsStore& settings) {
 
 void KeepOnionSkin(app::SettingsStore& settings, bool on) {
   settings.Write(kOnionSkin, on ? "1" : "0");
-}
-
-FrameWindowPlace ReadFrameWindowPlace(const app::SettingsStore& settings) {
-  using Limits = std::numeric_limits<int>;
-  return {app::ReadNumber(settings, kFrmAnimLeftPos, Limits::min(), Limits::max()),
-          app::ReadNumber(settings, kFrmAnimTopPos, Limits::min(), Limits::max())};
-}
-
-void KeepFrameWindowPlace(app::SettingsStore& settings, const FrameWindowPlace& place) {
-  settings.Write(kFrmAnimLeftPos, std::to_string(place.left));
-  settings.Write(kFrmAnimTopPos, std::to_string(place.top));
 }
 
 }  // namespace kelvo::anim

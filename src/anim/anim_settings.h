@@ -11,8 +11,6 @@ inline constexpr app::Setting kFolder{"AnimProperties", "Folder", ""};
 inline constexpr app::Setting kAnimPrefix{"AnimProperties", "AnimPrefix", "anim"};
 inline constexpr app::Setting kPlayRate{"AnimProperties", "PlayRate", "10"};
 inline constexpr app::Setting kOnionSkin{"AnimProperties", "OnionSkin", "0"};  // 1: the frame before shines through
-inline constexpr app::Setting kFrmAnimLeftPos{"Settings", "frmAnimLeftPos", "0"};
-inline constexpr app::Setting kFrmAnimTopPos{"Settings", "frmAnimTopPos", "0"};
 
 inline constexpr int kSlowestRate = 1, kFastestRate = 25;  // frames a second
 
@@ -29,16 +27,5 @@ void KeepPlayRate(app::SettingsStore& settings, int rate);
 
 bool ReadOnionSkin(const app::SettingsStore& settings);
 void KeepOnionSkin(app::SettingsStore& settings, bool on);
-
-// Where the content of the frame window begins, in display pixels. What is stored may be out of reach: that is for the
-// window to see.
-struct FrameWindowPlace {
-  int left = 0, top = 0;
-
-  friend bool operator==(const FrameWindowPlace&, const FrameWindowPlace&) = default;
-};
-
-FrameWindowPlace ReadFrameWindowPlace(const app::SettingsStore& settings);
-void KeepFrameWindowPlace(app::SettingsStore& settings, const FrameWindowPlace& place);
 
 }  // namespace kelvo::anim

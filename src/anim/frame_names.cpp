@@ -32,6 +32,10 @@ std::string FrameNames::Ending(int number) {
   return std::string(kDigits - std::min(kDigits, digits.size()), '0') + digits + std::string(kFrameEnding);
 }
 
+fs::path FrameNames::Path(int number) const {
+  return app::PathFromText(path_start_ + Ending(number));
+}
+
 fs::path FrameNames::Folder() const {
   return FolderOrHere(FolderText());
 }
@@ -46,9 +50,9 @@ std::optional<int> FrameNames::NumberOf(std::string_view file_name) const {
   return number >= kFirstFrame ? std::optional(number) : std::nullopt;
 }
 
-std::optional<int> FrameNames::NumberOfPath(std::string_view path) const {
-  const std::string name = app::FileNamePart(path);
-  const std::string folder(path.substr(0, path.size() - name.size()));
+std::optional<int> FrameNames::NumberOfPath(const fs::path& path) const {
+  const std::string text = app::TextFromPath(path), name = app::FileNamePart(text);
+  const std::string folder = text.substr(0, text.size() - name.size());
   std::error_code ignored;
   const bool here = folder == FolderText() || fs::equivalent(FolderOrHere(folder), Folder(), ignored);
   return here ? NumberOf(name) : std::nullopt;

@@ -18,7 +18,7 @@ class FrameNames {
  public:
   explicit FrameNames(const AnimProperties& properties);
 
-  std::string Path(int number) const { return path_start_ + Ending(number); }
+  std::filesystem::path Path(int number) const;
   std::string FileName(int number) const { return FileStart() + Ending(number); }
 
   // The folder that the paths lead to, as the text that stands before the file names: empty, or with its separator.
@@ -29,7 +29,7 @@ class FrameNames {
   std::optional<int> NumberOf(std::string_view file_name) const;
 
   // The same for a whole path, which may spell the folder in another way.
-  std::optional<int> NumberOfPath(std::string_view path) const;
+  std::optional<int> NumberOfPath(const std::filesystem::path& path) const;
 
  private:
   static std::string Ending(int number);

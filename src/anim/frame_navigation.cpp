@@ -30,6 +30,20 @@ std::optional<int> FrameNumberIn(std::string_view typed) {
 
 }  // namespace
 
+std::string FrameNavigation::Move(FrameMove move) {
+  switch (move) {
+    case FrameMove::kPrevious:
+      return Previous();
+    case FrameMove::kNext:
+      return Next();
+    case FrameMove::kBack:
+      return Back();
+    case FrameMove::kFirst:
+      return First();
+  }
+  return {};
+}
+
 std::string FrameNavigation::First() {
   Refresh();
   const auto first = row_.ReadableAfter(0);

@@ -13,6 +13,9 @@ namespace kelvo::anim {
 
 inline constexpr const char* kNoFrames = "THERE ARE NO FRAMES";
 
+// The buttons of the frame window.
+enum class FrameMove { kPrevious, kNext, kBack, kFirst };
+
 // The current frame is the one whose file is the current file, so there is none while another picture is open.
 //
 // A frame that is left is saved first when it has changed; if that fails, or the wanted frame cannot be loaded, the
@@ -22,6 +25,7 @@ class FrameNavigation {
  public:
   explicit FrameNavigation(const AnimSurroundings& with) : with_(with) {}
 
+  [[nodiscard]] std::string Move(FrameMove move);
   [[nodiscard]] std::string First();
   [[nodiscard]] std::string Previous();
   // Behind the last frame it asks whether to make the next one from the picture in memory.

@@ -7,7 +7,7 @@
 
 namespace kelvo::anim {
 
-FramePlayer::FramePlayer(std::vector<std::string> paths, int rate)
+FramePlayer::FramePlayer(std::vector<std::filesystem::path> paths, int rate)
     : paths_(std::move(paths)), rate_(std::clamp(rate, kSlowestRate, kFastestRate)) {}
 
 const model::PictureImage* FramePlayer::Due(Milliseconds since_start) {

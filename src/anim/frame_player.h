@@ -3,8 +3,8 @@
 
 #include <chrono>
 #include <cstddef>
+#include <filesystem>
 #include <optional>
-#include <string>
 #include <vector>
 
 #include "model/picture_image.h"
@@ -19,7 +19,7 @@ class FramePlayer {
   using Milliseconds = std::chrono::milliseconds;
 
   // The frames in their order, and frames a second, kSlowestRate..kFastestRate.
-  FramePlayer(std::vector<std::string> paths, int rate);
+  FramePlayer(std::vector<std::filesystem::path> paths, int rate);
 
   bool IsEmpty() const { return paths_.empty(); }
 
@@ -39,7 +39,7 @@ class FramePlayer {
   Turn TurnAt(Milliseconds since_start) const;
   void Read(Turn turn);
 
-  std::vector<std::string> paths_;
+  std::vector<std::filesystem::path> paths_;
   int rate_;
   Turn shown_turn_ = -1;
   std::optional<std::size_t> read_index_;

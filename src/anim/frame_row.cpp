@@ -11,9 +11,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-bool HasPictureSize(const std::string& path) {
+bool HasPictureSize(const fs::path& path) {
   std::error_code error;
-  const std::uintmax_t size = fs::file_size(app::PathFromText(path), error);
+  const std::uintmax_t size = fs::file_size(path, error);
   return !error && files::FormatOf(files::kOwnType).Takes(size);
 }
 
@@ -32,8 +32,8 @@ FrameRow::FrameRow(const FrameNames& names) {
     const auto number = names.NumberOf(name);
     std::error_code ignored;
     if (!number || !entry->is_regular_file(ignored)) continue;
-    const std::string path = names.FolderText() + name, exact = names.Path(*number);
-    std::string& chosen = paths_[*number];
+    const fs::path path = app::PathFromText(names.FolderText() + name), exact = names.Path(*number);
+    fs::path& chosen = paths_[*number];
     if (chosen != exact && (path == exact || path > chosen)) chosen = path;
   }
 }
@@ -46,15 +46,15 @@ std::optional<int> FrameRow::ReadableBefore(int number) const {
   return FirstReadable(std::make_reverse_iterator(paths_.lower_bound(number)), paths_.rend());
 }
 
-std::vector<std::string> FrameRow::ReadablePaths() const {
-  std::vector<std::string> paths;
+std::vector<fs::path> FrameRow::ReadablePaths() const {
+  std::vector<fs::path> paths;
   for (const auto& [number, path] : paths_) {
     if (HasPictureSize(path)) paths.push_back(path);
   }
   return paths;
 }
 
-std::optional<model::PictureImage> ReadFrame(const std::string& path) {
+std::optional<model::PictureImage> ReadFrame(const fs::path& path) {
   try {
     return files::LoadPicture(path, files::kOwnType, {});
   } catch (const std::exception&) {

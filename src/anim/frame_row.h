@@ -1,9 +1,9 @@
 // The frames of an animation that are on the disk, in order.
 #pragma once
 
+#include <filesystem>
 #include <map>
 #include <optional>
-#include <string>
 #include <vector>
 
 #include "anim/frame_names.h"
@@ -20,7 +20,7 @@ class FrameRow {
 
   int Count() const { return static_cast<int>(paths_.size()); }
   bool Has(int number) const { return paths_.contains(number); }
-  std::string Path(int number) const { return paths_.at(number); }  // of a frame that it has
+  const std::filesystem::path& Path(int number) const { return paths_.at(number); }  // of a frame that it has
   int Last() const { return paths_.empty() ? 0 : paths_.rbegin()->first; }
 
   // The nearest frame after or before `number` (0 or more) whose file has the size of a picture.
@@ -28,13 +28,13 @@ class FrameRow {
   std::optional<int> ReadableBefore(int number) const;
 
   // The paths of all frames whose files have the size of a picture.
-  std::vector<std::string> ReadablePaths() const;
+  std::vector<std::filesystem::path> ReadablePaths() const;
 
  private:
-  std::map<int, std::string> paths_;
+  std::map<int, std::filesystem::path> paths_;
 };
 
 // The picture in a frame's file; empty when it cannot be read.
-std::optional<model::PictureImage> ReadFrame(const std::string& path);
+std::optional<model::PictureImage> ReadFrame(const std::filesystem::path& path);
 
 }  // namespace kelvo::anim

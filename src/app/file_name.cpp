@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <string>
 #include <system_error>
 
 #include "app/folder_entries.h"
@@ -29,6 +30,11 @@ bool NamesDevice(std::string_view name) {
          std::find(kPorts.begin(), kPorts.end(), stem.substr(0, 3)) != kPorts.end();
 }
 
+bool IsTaken(const fs::path& name) {
+  std::error_code ignored;
+  return fs::exists(fs::symlink_status(name, ignored));
+}
+
 }  // namespace
 
 bool IsPlainName(std::string_view name) {
@@ -38,8 +44,7 @@ bool IsPlainName(std::string_view name) {
 
 fs::path EntryOf(const fs::path& folder, std::string_view name) {
   fs::path exact = folder / PathFromText(name);
-  std::error_code ignored;
-  if (fs::exists(fs::symlink_status(exact, ignored))) return exact;
+  if (IsTaken(exact)) return exact;
   const std::string wanted = ToLower(name);
   fs::path found;
   for (const fs::path& entry : EntriesOf(folder)) {
@@ -53,6 +58,26 @@ std::string FittingName(std::string_view stem, std::string_view ending) {
   const std::size_t room = kMostBytes - std::min(ending.size(), kMostBytes);
   for (std::size_t characters = room; stem.size() > room; --characters) stem = FirstCharacters(stem, characters);
   return std::string(stem) + std::string(ending);
+}
+
+fs::path FreeNameBeside(const fs::path& file) {
+  const std::string stem = TextFromPath(file.filename());
+  std::string ending;
+  fs::path name;
+  do {
+    ending += ".old";
+    name = file.parent_path() / PathFromText(FittingName(stem, ending));
+  } while (IsTaken(name));
+  return name;
+}
+
+fs::path FreeNameIn(const fs::path& folder, std::string_view stem, std::string_view mark, std::string_view ending) {
+  const auto named = [&](const std::string& number) {
+    return folder / PathFromText(FittingName(stem, std::string(mark) + number + std::string(ending)));
+  };
+  fs::path name = named("");
+  for (int number = 2; IsTaken(name); ++number) name = named("_" + std::to_string(number));
+  return name;
 }
 
 }  // namespace kelvo::app

@@ -1,4 +1,4 @@
-// Names that a person types for a file or a folder, and the entries that they find.
+// Names of files: those that a person types, the entries that they find, and those that no file has yet.
 #pragma once
 
 #include <filesystem>
@@ -19,5 +19,14 @@ std::filesystem::path EntryOf(const std::filesystem::path& folder, std::string_v
 // `stem` and `ending` as one name, the stem cut at a character so that the whole is no longer than the 255 bytes that
 // file systems take.
 std::string FittingName(std::string_view stem, std::string_view ending);
+
+// `file` with ".old" behind its name, more than once where that is what it takes to find a name that is free. A name
+// that would become too long loses characters before the endings.
+std::filesystem::path FreeNameBeside(const std::filesystem::path& file);
+
+// A file of `folder` that is called `stem`, `mark` and `ending`, with "_2", "_3"... behind the mark where that is what
+// it takes. A stem that is too long loses its last characters.
+std::filesystem::path FreeNameIn(const std::filesystem::path& folder, std::string_view stem, std::string_view mark,
+                                 std::string_view ending);
 
 }  // namespace kelvo::app

@@ -4,8 +4,8 @@
 #include <system_error>
 
 #include "app/durable_file.h"
+#include "app/file_name.h"
 #include "app/folder_entries.h"
-#include "app/free_name.h"
 #include "app/whole_file.h"
 
 namespace kelvo::app {

@@ -21,7 +21,4 @@ class SettingsStore {
 // The setting as a number; its default when the text is no number or lies outside lowest..highest.
 int ReadNumber(const SettingsStore& settings, const Setting& setting, int lowest, int highest);
 
-inline constexpr Setting kMagnification{"Settings", "Magnification", "4"};
-inline constexpr Setting kGridColor{"Settings", "GridColor", "9"};
-
 }  // namespace kelvo::app

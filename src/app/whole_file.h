@@ -5,7 +5,8 @@
 #include <filesystem>
 #include <span>
 #include <stdexcept>
-#include <vector>
+
+#include "app/bytes.h"
 
 namespace kelvo::app {
 
@@ -14,8 +15,6 @@ class FileError : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
 };
-
-using Bytes = std::vector<std::uint8_t>;
 
 // The size of a regular file. Throws FileError when it is missing, unreadable or something else (a folder, a pipe).
 std::uintmax_t FileSize(const std::filesystem::path& file);

@@ -52,7 +52,7 @@ std::string BuildJob::BaseName() const {
 }
 
 fs::path BuildJob::BesidePicture(std::string_view extension) const {
-  return app::PathFromText(app::FolderPart(document_.file.CurrentFilePath) + "/" + BaseName() + std::string(extension));
+  return document_.file.CurrentFilePath.parent_path() / app::PathFromText(BaseName() + std::string(extension));
 }
 
 std::string BuildJob::DiskFileName(const app::Setting& name_setting) const {

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "app/surroundings.h"
-#include "c64out/compo_pic_entries.h"
+#include "c64out/compo_pic_choice.h"
 #include "c64out/tool_runner.h"
 #include "files/document.h"
 

@@ -2,7 +2,7 @@
 
 #include <stdexcept>
 
-#include "app/free_name.h"
+#include "app/file_name.h"
 #include "app/path_text.h"
 
 namespace kelvo::c64out {

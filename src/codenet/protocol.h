@@ -17,7 +17,7 @@
 #include <optional>
 #include <span>
 
-#include "app/whole_file.h"
+#include "app/bytes.h"
 
 namespace kelvo::codenet {
 

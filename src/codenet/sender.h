@@ -17,7 +17,7 @@
 #include <stdexcept>
 #include <vector>
 
-#include "app/progress.h"
+#include "app/long_work.h"
 #include "codenet/datagram_socket.h"
 #include "codenet/protocol.h"
 

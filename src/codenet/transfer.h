@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <optional>
 
-#include "app/progress.h"
+#include "app/long_work.h"
 #include "app/whole_file.h"
 #include "codenet/arguments.h"
 #include "codenet/sender.h"

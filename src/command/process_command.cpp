@@ -86,7 +86,7 @@ void LoadFrom(const Call& call, const fs::path& folder, std::string_view typed) 
       typed.ends_with(kPictureEnding) ? typed.substr(0, typed.size() - kPictureEnding.size()) : typed;
   const std::string name = std::string(stem) + std::string(kPictureEnding);
   if (!app::IsPlainName(name)) return call.Fail("LOAD " + std::string(stem), kNotLoaded);
-  call.with.files.OpenPicture(app::TextFromPath(app::EntryOf(folder, name)), files::OnFailure::kPromptOnly);
+  call.with.files.OpenPicture(app::EntryOf(folder, name), files::OnFailure::kPromptOnly);
 }
 
 void LoadFromDevice(const Call& call, std::string_view device, std::string_view name) {
@@ -122,12 +122,11 @@ void New(Call& call) {
 // Without an argument the mode itself is switched. ON and OFF set the flag and the status text alone, on purpose: they
 // ask nothing and open no window, and the menu's check mark may then disagree with the flag.
 void Anim(Call& call) {
-  app::AnimationSwitch& animation = call.with.animation;
+  const AnimationSwitch& animation = call.with.animation;
   if (call.argument.empty()) {
-    animation.ToggleAnimMode();
-    call.Reply(animation.IsAnimModeChecked() ? "ANIM ON" : "ANIM OFF");
+    call.Reply(animation.toggle() ? "ANIM ON" : "ANIM OFF");
   } else if (call.argument == "ON" || call.argument == "OFF") {
-    animation.SetAnimFlag(call.argument == "ON");
+    animation.set_flag(call.argument == "ON");
     call.Reply(call.line);
   } else {
     call.Fail(call.line, kBadAnimArgument);

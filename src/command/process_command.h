@@ -10,9 +10,9 @@
 //   903  an unknown word                     907  a folder that cannot be removed
 #pragma once
 
+#include <functional>
 #include <string_view>
 
-#include "app/animation_switch.h"
 #include "app/messages.h"
 #include "app/program_folders.h"
 #include "files/document.h"
@@ -20,13 +20,22 @@
 
 namespace kelvo::command {
 
+// How the command language reaches animation mode.
+struct AnimationSwitch {
+  // What the menu entry Animation mode does, with all its questions. Gives how its check mark ended; the flag follows
+  // it.
+  std::function<bool()> toggle;
+  // Sets the animation-mode flag, which is what the status bar says. The menu entry is left alone, on purpose.
+  std::function<void(bool on)> set_flag;
+};
+
 // What commands work with.
 struct CommandSurroundings {
   const app::ProgramFolders& folders;
   const files::Document& document;
   files::PictureFiles& files;
   app::PromptOutput& prompt;
-  app::AnimationSwitch& animation;
+  const AnimationSwitch& animation;
 };
 
 // Carries out `line`, which comes without the prompt character. Nothing is kept between calls. Names in a command are

@@ -1,6 +1,6 @@
 #include "editing/circle_tool.h"
 
-#include "editing/circle.h"
+#include "editing/shapes.h"
 
 namespace kelvo::editing {
 

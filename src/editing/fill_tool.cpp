@@ -5,13 +5,14 @@
 namespace kelvo::editing {
 
 PressResult FillTool::Press(const PointerEvent& event) {
-  const app::WaitScope wait(with_.pointer);
+  const app::WaitScope wait(ports_.pointer);
   undo_.SaveUndoData("Undo fill");
-  const FullCellInFill full_cell =
-      IsOn(with_.settings, kReplaceLeastUsedColWhenFilling) ? FullCellInFill::kReplaceLeastUsed : FullCellInFill::kKeep;
-  app::Guarded(with_.log, "MDIFormMenu_FloodFill",
+  const FullCellInFill full_cell = IsOn(ports_.settings, kReplaceLeastUsedColWhenFilling)
+                                       ? FullCellInFill::kReplaceLeastUsed
+                                       : FullCellInFill::kKeep;
+  app::Guarded(ports_.log, "MDIFormMenu_FloodFill",
                [&] { fill_.Fill(event.at.x, event.at.y, pens_.Of(event.button), full_cell); });
-  with_.views.PictureChanged();
+  ports_.views.PictureChanged();
   return PressResult::kHandled;
 }
 

@@ -7,7 +7,7 @@
 #include <optional>
 #include <stdexcept>
 
-#include "app/process_events.h"
+#include "app/long_work.h"
 #include "model/bit_pair.h"
 #include "model/picture_image.h"
 #include "model/picture_views.h"

@@ -1,29 +1,6 @@
 #include "editing/painting.h"
 
-#include "editing/cell_tools.h"
-#include "editing/circle_tool.h"
-#include "editing/draw_tool.h"
-#include "editing/fill_tool.h"
-#include "editing/line_tool.h"
-
 namespace kelvo::editing {
-namespace {
-
-constexpr std::array<ToolRow, 7> kTools{{
-    {"draw", "Draw", 'D'},
-    {"fill", "Fill", 'F'},
-    {"line", "Line", 'L'},
-    {"continuous_line", "Continous line", 'K'},
-    {"circle", "Circle", 'C'},
-    {"mouse_copy", "Mouse copy", 'M'},
-    {"block_fill", "Char block fill", 'B'},
-}};
-
-}  // namespace
-
-std::span<const ToolRow> ToolTable() {
-  return kTools;
-}
 
 // Marks one event as being at work for as long as it lives.
 class Painting::BusyScope {
@@ -40,24 +17,19 @@ class Painting::BusyScope {
 Painting::Painting(model::PictureImage& picture, const PaintingPorts& ports)
     : undo_(picture, ports.views),
       plotter_(picture, ports.views, ports.settings, ports.messages),
-      fill_(picture, ports.views, ports.events),
-      tools_{std::make_unique<DrawTool>(plotter_, pens_, undo_),
-             std::make_unique<FillTool>(fill_, pens_, undo_,
-                                        FillTool::Surroundings{ports.settings, ports.log, ports.pointer, ports.views}),
-             std::make_unique<LineTool>(LineKind::kSingle, plotter_, pens_, undo_),
-             std::make_unique<LineTool>(LineKind::kContinuous, plotter_, pens_, undo_),
-             std::make_unique<CircleTool>(plotter_, pens_, undo_),
-             std::make_unique<MouseCopyTool>(picture, ports.views, undo_, buffer_),
-             std::make_unique<BlockFillTool>(picture, ports.views, undo_, pens_)} {}
+      fill_(picture, ports.views, ports.events) {
+  const ToolParts parts{picture, ports, pens_, undo_, plotter_, fill_, buffer_};
+  for (const ToolRow& row : ToolTable()) tools_.push_back(row.make(parts));
+}
 
 Painting::~Painting() = default;
 
-void Painting::ChooseTool(int index) {
+void Painting::ChooseTool(ToolId tool) {
   Tick();  // a shape whose last point is set is drawn before the tool changes
   if (busy_) return;
   stroke_.reset();
   Active().Cancel();
-  index_ = index;
+  tool_ = tool;
 }
 
 void Painting::Press(const PointerEvent& event) {
@@ -85,7 +57,7 @@ bool Painting::Tick() {
 }
 
 void Painting::Escape() {
-  if (!busy_ && !Active().Cancel()) ChooseTool(kDrawToolIndex);
+  if (!busy_ && !Active().Cancel()) ChooseTool(ToolId::kDraw);
 }
 
 void Painting::Undo() {

@@ -1,45 +1,21 @@
 // Painting as a whole: the tools, the pens, the stroke under way, and undo.
 #pragma once
 
-#include <array>
 #include <memory>
 #include <optional>
-#include <span>
 #include <string_view>
+#include <vector>
 
-#include "app/error_log.h"
-#include "app/messages.h"
-#include "app/process_events.h"
-#include "app/settings_store.h"
-#include "app/wait_pointer.h"
 #include "editing/flood_fill.h"
+#include "editing/painting_ports.h"
 #include "editing/pens.h"
 #include "editing/plotter.h"
 #include "editing/tool.h"
+#include "editing/tool_table.h"
 #include "editing/undo_step.h"
 #include "model/pixel_colour.h"
 
 namespace kelvo::editing {
-
-// A tool as the toolbar shows it. Tools are numbered from 1 in the table's order.
-struct ToolRow {
-  std::string_view name;  // of its icon and of its action
-  std::string_view caption;
-  char key;  // chooses it
-};
-
-inline constexpr int kDrawToolIndex = 1, kBlockFillToolIndex = 7;
-
-std::span<const ToolRow> ToolTable();
-
-struct PaintingPorts {
-  model::PictureViews& views;
-  const app::SettingsStore& settings;
-  app::Messages& messages;
-  app::ProcessEvents& events;
-  app::WaitPointer& pointer;
-  const app::ErrorLog& log;
-};
 
 // Takes pointer events in picture pixels. While one of them is at work (a fill that lets events through, a message box
 // that waits for an answer), others are passed over, so that no second action starts inside the first.
@@ -48,8 +24,8 @@ class Painting {
   Painting(model::PictureImage& picture, const PaintingPorts& ports);
   ~Painting();
 
-  void ChooseTool(int index);  // 1..7
-  int ToolIndex() const { return index_; }
+  void ChooseTool(ToolId tool);
+  ToolId ChosenTool() const { return tool_; }
   std::string_view Prompt() const { return Active().Prompt(); }
 
   // A press while another button's stroke lasts is passed over.
@@ -78,15 +54,15 @@ class Painting {
  private:
   class BusyScope;
 
-  Tool& Active() const { return *tools_[static_cast<std::size_t>(index_ - 1)]; }
+  Tool& Active() const { return *tools_[static_cast<std::size_t>(tool_)]; }
 
   Pens pens_;
   UndoStep undo_;
   Plotter plotter_;
   FloodFill fill_;
   model::DetachedCell buffer_{};
-  std::array<std::unique_ptr<Tool>, 7> tools_;
-  int index_ = kDrawToolIndex;
+  std::vector<std::unique_ptr<Tool>> tools_;  // by their ids
+  ToolId tool_ = ToolId::kDraw;
   std::optional<PointerEvent> stroke_;  // where the stroke under way is
   bool busy_ = false;
 };

@@ -1,6 +1,7 @@
-// The colours of the two mouse buttons.
+// The colours of the two mouse buttons, and the keys that choose the left one.
 #pragma once
 
+#include <optional>
 #include <utility>
 
 #include "model/c64_colour.h"
@@ -16,5 +17,9 @@ struct Pens {
   model::C64Colour Of(Button button) const { return button == Button::kLeft ? left : right; }
   void Swap() { std::swap(left, right); }
 };
+
+// The left pen's colour for a key: '1'..'8' give the colours 0..7, Q W E R T Y U I (upper or lower case) 8..15; other
+// keys nothing.
+std::optional<model::C64Colour> PenForKey(char key);
 
 }  // namespace kelvo::editing

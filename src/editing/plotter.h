@@ -3,8 +3,8 @@
 
 #include "app/messages.h"
 #include "app/settings_store.h"
-#include "editing/line.h"
 #include "editing/pixel_plot.h"
+#include "editing/shapes.h"
 #include "model/picture_views.h"
 
 namespace kelvo::editing {

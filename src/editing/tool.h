@@ -3,8 +3,8 @@
 
 #include <string_view>
 
-#include "editing/line.h"
 #include "editing/pens.h"
+#include "editing/shapes.h"
 #include "model/pixel_place.h"
 
 namespace kelvo::editing {

@@ -6,22 +6,23 @@ namespace kelvo::editing {
 
 void UndoStep::SaveUndoData(std::string_view caption) {
   earlier_ = std::move(last_);
-  last_ = {picture_, std::string(caption)};
+  last_ = Step{picture_, std::string(caption)};
 }
 
 void UndoStep::Withdraw() {
-  last_ = std::exchange(earlier_, {});
+  last_ = std::exchange(earlier_, std::nullopt);
 }
 
 void UndoStep::Forget() {
-  last_ = earlier_ = {};
+  last_.reset();
+  earlier_.reset();
 }
 
 void UndoStep::Undo() {
   if (!CanUndo()) return;
-  picture_.Bitmap = last_.before.Bitmap;
-  picture_.ColourMemory = last_.before.ColourMemory;
-  picture_.ScreenMemory = last_.before.ScreenMemory;
+  picture_.Bitmap = last_->before.Bitmap;
+  picture_.ColourMemory = last_->before.ColourMemory;
+  picture_.ScreenMemory = last_->before.ScreenMemory;
   Forget();
   views_.PictureChanged();
 }

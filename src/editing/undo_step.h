@@ -1,6 +1,7 @@
 // The one step of undo.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -26,19 +27,19 @@ class UndoStep {
   // Another picture is in memory: the snapshot is none of its.
   void Forget();
 
-  bool CanUndo() const { return !last_.caption.empty(); }
-  std::string Caption() const { return CanUndo() ? last_.caption : "Undo"; }
+  bool CanUndo() const { return last_.has_value(); }
+  std::string Caption() const { return last_ ? last_->caption : "Undo"; }
 
  private:
   struct Step {
     model::PictureImage before;
-    std::string caption;  // empty: nothing to undo
+    std::string caption;
   };
 
   model::PictureImage& picture_;
   model::PictureViews& views_;
-  Step last_;
-  Step earlier_;  // what the last one took the place of
+  std::optional<Step> last_;
+  std::optional<Step> earlier_;  // what the last one took the place of
 };
 
 }  // namespace kelvo::editing

@@ -11,7 +11,6 @@
 #include "app/durable_file.h"
 #include "app/file_name.h"
 #include "app/folder_entries.h"
-#include "app/free_name.h"
 #include "app/path_text.h"
 #include "app/text.h"
 #include "app/whole_file.h"
@@ -78,7 +77,7 @@ void Backups::KeepSnapshot(std::span<const std::uint8_t> bytes, const CurrentFil
     if (Holds(file, bytes)) return;
     MakeRoom(file, [&] { return app::FreeNameIn(folders_.Backup(), picture.CurrentFileName, mark, kSnapshotEnding); });
   }
-  AddToBackupIndex(Index(), {file_name, stamp, picture.CurrentFilePath});
+  AddToBackupIndex(Index(), {file_name, stamp, app::TextFromPath(picture.CurrentFilePath)});
 }
 
 // Renames a snapshot, and its note with it. Other programs may do the same at this moment.

@@ -6,15 +6,15 @@
 
 namespace kelvo::files {
 
-std::string NameOfPath(std::string_view path) {
+std::string NameOfPath(const std::filesystem::path& path) {
   constexpr std::string_view kProgram = ".prg";
-  std::string name = app::FileNamePart(path);
+  std::string name = app::TextFromPath(path.filename());
   if (app::ToLower(name).ends_with(kProgram)) name.resize(name.size() - kProgram.size());
   return name;
 }
 
-CurrentFile SetFileParameters(std::string_view path) {
-  return {std::string(path), NameOfPath(path)};
+CurrentFile SetFileParameters(const std::filesystem::path& path) {
+  return {path, NameOfPath(path)};
 }
 
 std::string WindowTitle(const CurrentFile& file) {

@@ -1,24 +1,24 @@
 // The file that the picture in memory belongs to.
 #pragma once
 
+#include <filesystem>
 #include <string>
-#include <string_view>
 
 namespace kelvo::files {
 
-// Both texts are empty while the picture has no file.
+// Both are empty while the picture has no file.
 struct CurrentFile {
-  std::string CurrentFilePath;
+  std::filesystem::path CurrentFilePath;
   std::string CurrentFileName;  // as the title bar and the status bar show it
 
   bool HasFile() const { return !CurrentFilePath.empty(); }
 };
 
-// The name that goes with `path`: the part after the last separator without a trailing ".PRG" in any case.
-std::string NameOfPath(std::string_view path);
+// The name that goes with `path`: the file name without a trailing ".PRG" in any case.
+std::string NameOfPath(const std::filesystem::path& path);
 
 // The current file for a path.
-CurrentFile SetFileParameters(std::string_view path);
+CurrentFile SetFileParameters(const std::filesystem::path& path);
 
 // The program with its version, the credit line, and the name in brackets ("unnamed.kvp" without a file).
 std::string WindowTitle(const CurrentFile& file);

@@ -1,7 +1,7 @@
 // The picture that is being edited, with the file it belongs to.
 #pragma once
 
-#include "app/whole_file.h"
+#include "app/bytes.h"
 #include "files/current_file.h"
 #include "model/picture_image.h"
 

@@ -1,8 +1,8 @@
 // What the file operations need of the windows.
 #pragma once
 
+#include <filesystem>
 #include <optional>
-#include <string>
 
 #include "files/current_file.h"
 #include "files/picture_format.h"
@@ -10,7 +10,7 @@
 namespace kelvo::files {
 
 struct ChosenFile {
-  std::string path;
+  std::filesystem::path path;
   FormatType type;  // the position of the filter that was active
 };
 
@@ -18,10 +18,10 @@ struct ChosenFile {
 class FileDialogs {
  public:
   virtual ~FileDialogs() = default;
-  // "Select file" with OpenFilter(), starting in `folder`.
-  virtual std::optional<ChosenFile> SelectFile(const std::string& folder) = 0;
+  // "Select file" with OfferedFormats(), starting in `folder`.
+  virtual std::optional<ChosenFile> SelectFile(const std::filesystem::path& folder) = 0;
   // "Save Kelvo-file", proposing `path`. A file of just the answer's name may be replaced: the dialog has asked.
-  virtual std::optional<std::string> SaveAs(const std::string& path) = 0;
+  virtual std::optional<std::filesystem::path> SaveAs(const std::filesystem::path& path) = 0;
 };
 
 // Where the current file shows: the window title, the first status panel, and the entries that need a file.

@@ -1,7 +1,7 @@
 // Reading a picture from a file.
 #pragma once
 
-#include <string_view>
+#include <filesystem>
 
 #include "app/whole_file.h"
 #include "files/picture_format.h"
@@ -9,11 +9,11 @@
 
 namespace kelvo::files {
 
-// The file at `path`, which `type` takes by its size. Throws FormatError for one of another size, app::FileError for
+// The bytes of `file`, which `type` takes by its size. Throws FormatError for one of another size, app::FileError for
 // one that cannot be read.
-app::Bytes ReadPictureFile(std::string_view path, FormatType type);
+app::Bytes ReadPictureFile(const std::filesystem::path& file, FormatType type);
 
 // The picture in that file; `background` stays where the file carries none.
-model::PictureImage LoadPicture(std::string_view path, FormatType type, model::C64Colour background);
+model::PictureImage LoadPicture(const std::filesystem::path& file, FormatType type, model::C64Colour background);
 
 }  // namespace kelvo::files

@@ -8,31 +8,32 @@
 #include "files/backups.h"
 #include "files/load_picture.h"
 #include "files/picture_format.h"
-#include "files/rescue_copy.h"
+#include "files/recovery_copy.h"
 
 namespace kelvo::files {
 namespace {
 
 namespace fs = std::filesystem;
 
-bool IsThere(std::string_view path) {
+bool IsThere(const fs::path& path) {
   std::error_code ignored;
-  return fs::exists(app::PathFromText(path), ignored);
+  return fs::exists(path, ignored);
 }
 
 constexpr std::size_t kExtensionSize = 4;  // with its dot
 
 // Saving replaces an extension of three characters. Another ending belongs to the name.
-std::string WithExtension(const std::string& path) {
-  const std::string extension = app::TextFromPath(app::PathFromText(path).extension());
-  return app::CharactersOf(extension).size() == kExtensionSize ? path : path + ".kvp";
+fs::path WithExtension(fs::path path) {
+  const std::string extension = app::TextFromPath(path.extension());
+  if (app::CharactersOf(extension).size() != kExtensionSize) path += ".kvp";
+  return path;
 }
 
 // What a file that a person did not choose with a filter is read as.
-FormatType TypeOf(const std::string& path) {
+FormatType TypeOf(const fs::path& path) {
   std::error_code error;
-  const std::uintmax_t size = fs::file_size(app::PathFromText(path), error);
-  return TypeOfFile(path, error ? 0 : size);
+  const std::uintmax_t size = fs::file_size(path, error);
+  return TypeOfFile(app::TextFromPath(path), error ? 0 : size);
 }
 
 }  // namespace
@@ -40,16 +41,16 @@ FormatType TypeOf(const std::string& path) {
 bool PictureFiles::Open() {
   const auto chosen = with_.dialogs.SelectFile(FolderForDialogs());
   if (!chosen) return false;
-  with_.settings.Write(kFilePath, app::FolderPart(chosen->path));
+  with_.settings.Write(kFilePath, app::TextFromPath(chosen->path.parent_path()));
   return OpenAs(chosen->path, chosen->type, OnFailure::kMessageBox);
 }
 
-bool PictureFiles::OpenPicture(std::string_view path, OnFailure on_failure) {
-  const std::string own_path(path);  // it may be the current file's own text, which loading replaces
+bool PictureFiles::OpenPicture(const fs::path& path, OnFailure on_failure) {
+  const fs::path own_path = path;  // it may be the current file's own, which loading replaces
   return OpenAs(own_path, TypeOf(own_path), on_failure);
 }
 
-bool PictureFiles::OpenAs(const std::string& path, FormatType type, OnFailure on_failure) {
+bool PictureFiles::OpenAs(const fs::path& path, FormatType type, OnFailure on_failure) {
   const app::WaitScope wait(with_.pointer);
   auto read = Read(path, type, on_failure);
   if (!read || !MayThrowAwayPicture()) return false;
@@ -61,7 +62,7 @@ bool PictureFiles::OpenAs(const std::string& path, FormatType type, OnFailure on
   return true;
 }
 
-std::optional<Document> PictureFiles::Read(const std::string& path, FormatType type, OnFailure on_failure) {
+std::optional<Document> PictureFiles::Read(const fs::path& path, FormatType type, OnFailure on_failure) {
   std::optional<Document> read;
   app::Guarded(
       with_.log, "MDIFormMenu_LoadPicture",
@@ -78,7 +79,7 @@ std::optional<Document> PictureFiles::Read(const std::string& path, FormatType t
   return read;
 }
 
-void PictureFiles::TellFailedLoad(std::string_view path, const std::string& why, OnFailure on_failure) {
+void PictureFiles::TellFailedLoad(const fs::path& path, const std::string& why, OnFailure on_failure) {
   with_.prompt.CommandPromptList("LOAD " + NameOfPath(path) + " [err 902]");
   if (on_failure == OnFailure::kMessageBox) with_.messages.Warn(why);
 }
@@ -102,11 +103,11 @@ bool PictureFiles::Save() {
 }
 
 bool PictureFiles::SaveAs() {
-  const std::string proposal =
-      document_.file.HasFile() ? document_.file.CurrentFilePath : FolderForDialogs() + "/unnamed.kvp";
+  const fs::path proposal =
+      document_.file.HasFile() ? document_.file.CurrentFilePath : FolderForDialogs() / "unnamed.kvp";
   const auto chosen = with_.dialogs.SaveAs(proposal);
   if (!chosen) return false;
-  const std::string path = WithExtension(*chosen);
+  const fs::path path = WithExtension(*chosen);
   return MayReplace(path, *chosen) && Write(path);
 }
 
@@ -114,33 +115,34 @@ bool PictureFiles::SaveChanges() {
   return SaveTo(document_.file.CurrentFilePath);
 }
 
-bool PictureFiles::SaveTo(const std::string& path) {
+bool PictureFiles::SaveTo(const fs::path& path) {
   return MayReplace(path, path) && Write(path);
 }
 
 // Saving under `path` may write another file than the one that was chosen.
-bool PictureFiles::MayReplace(const std::string& path, const std::string& chosen) {
-  const std::string target = path.size() < kExtensionSize ? path : SavedName(path);
+bool PictureFiles::MayReplace(const fs::path& path, const fs::path& chosen) {
+  const bool can_be_saved = app::CharactersOf(app::TextFromPath(path)).size() >= kExtensionSize;
+  const fs::path target = can_be_saved ? SavedName(path) : path;
   if (!IsThere(target)) return true;
   if (target == document_.file.CurrentFilePath && IsChangedElsewhere()) {
-    return with_.messages.Ask(target + " was changed by another program. Replace it?\n" +
+    return with_.messages.Ask(app::TextFromPath(target) + " was changed by another program. Replace it?\n" +
                               "What that program wrote is kept in the BACKUP folder.");
   }
   std::error_code ignored;
-  if (fs::equivalent(app::PathFromText(target), app::PathFromText(chosen), ignored)) return true;
-  return with_.messages.Ask(target + " exists already. Replace it?");
+  if (fs::equivalent(target, chosen, ignored)) return true;
+  return with_.messages.Ask(app::TextFromPath(target) + " exists already. Replace it?");
 }
 
 bool PictureFiles::IsChangedElsewhere() const {
   try {
-    const std::filesystem::path file = app::PathFromText(document_.file.CurrentFilePath);
-    return !document_.on_disk.empty() && app::ReadWholeFile(file, app::kMostBytesToCopy) != document_.on_disk;
+    return !document_.on_disk.empty() &&
+           app::ReadWholeFile(document_.file.CurrentFilePath, app::kMostBytesToCopy) != document_.on_disk;
   } catch (const app::FileError&) {
     return false;  // it is gone, or saving tells what is wrong with it
   }
 }
 
-bool PictureFiles::Write(const std::string& path) {
+bool PictureFiles::Write(const fs::path& path) {
   const app::WaitScope wait(with_.pointer);
   std::string trouble;
   const bool saved = app::Guarded(
@@ -172,7 +174,7 @@ bool PictureFiles::Recover(const Document& rescued) {
   Document recovered{.picture = rescued.picture, .kept = {}, .file = rescued.file};
   if (IsThere(recovered.file.CurrentFilePath)) {
     app::Guarded(with_.log, "MDIFormMenu_Recover", [&] {
-      recovered.on_disk = app::ReadWholeFile(app::PathFromText(recovered.file.CurrentFilePath), app::kMostBytesToCopy);
+      recovered.on_disk = app::ReadWholeFile(recovered.file.CurrentFilePath, app::kMostBytesToCopy);
     });
   }
   TakeOver(std::move(recovered));
@@ -192,7 +194,7 @@ void PictureFiles::ThinBackups() {
   });
 }
 
-void PictureFiles::OpenRecent(std::string_view path) {
+void PictureFiles::OpenRecent(const fs::path& path) {
   if (IsThere(path)) OpenPicture(path);
 }
 
@@ -208,9 +210,9 @@ bool PictureFiles::MayThrowAwayPicture() {
   return may;
 }
 
-std::string PictureFiles::FolderForDialogs() const {
+fs::path PictureFiles::FolderForDialogs() const {
   const std::string stored = with_.settings.Read(kFilePath);
-  return stored.empty() ? app::TextFromPath(with_.folders.Gfx()) : stored;
+  return stored.empty() ? with_.folders.Gfx() : app::PathFromText(stored);
 }
 
 }  // namespace kelvo::files

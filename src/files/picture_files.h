@@ -1,13 +1,13 @@
 // The File menu: open, reload, save, save as, new.
 #pragma once
 
+#include <filesystem>
 #include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
+#include "app/long_work.h"
 #include "app/surroundings.h"
-#include "app/wait_pointer.h"
 #include "files/document.h"
 #include "files/file_ports.h"
 #include "files/recent_files.h"
@@ -36,7 +36,7 @@ class PictureFiles {
 
   // True when a picture was opened. The first asks with the open dialog.
   bool Open();
-  bool OpenPicture(std::string_view path, OnFailure on_failure = OnFailure::kMessageBox);
+  bool OpenPicture(const std::filesystem::path& path, OnFailure on_failure = OnFailure::kMessageBox);
 
   // Opens the current file again, without asking. False without a current file.
   bool Reload();
@@ -47,7 +47,7 @@ class PictureFiles {
   bool Save();
   bool SaveAs();
   bool SaveChanges();
-  bool SaveTo(const std::string& path);
+  bool SaveTo(const std::filesystem::path& path);
 
   // Whether another program changed the current file since this one last read or wrote it.
   bool IsChangedElsewhere() const;
@@ -64,22 +64,22 @@ class PictureFiles {
   // Removes backups that nobody would miss, as the settings say.
   void ThinBackups();
 
-  std::vector<std::string> RecentPaths() const { return recent_.Paths(); }
+  std::vector<std::filesystem::path> RecentPaths() const { return recent_.Paths(); }
   // Opens a path of the recent list; one that is gone is passed over in silence.
-  void OpenRecent(std::string_view path);
+  void OpenRecent(const std::filesystem::path& path);
 
   // Where a dialog for files begins: the folder that was used last, else GFX.
-  std::string FolderForDialogs() const;
+  std::filesystem::path FolderForDialogs() const;
 
  private:
-  bool OpenAs(const std::string& path, FormatType type, OnFailure on_failure);
-  std::optional<Document> Read(const std::string& path, FormatType type, OnFailure on_failure);
-  void TellFailedLoad(std::string_view path, const std::string& why, OnFailure on_failure);
+  bool OpenAs(const std::filesystem::path& path, FormatType type, OnFailure on_failure);
+  std::optional<Document> Read(const std::filesystem::path& path, FormatType type, OnFailure on_failure);
+  void TellFailedLoad(const std::filesystem::path& path, const std::string& why, OnFailure on_failure);
   // The picture becomes that of `document`, with nothing left to save.
   void TakeOver(Document document);
   bool MayThrowAwayPicture();
-  bool MayReplace(const std::string& path, const std::string& chosen);
-  bool Write(const std::string& path);
+  bool MayReplace(const std::filesystem::path& path, const std::filesystem::path& chosen);
+  bool Write(const std::filesystem::path& path);
 
   Document& document_;
   FileSurroundings with_;

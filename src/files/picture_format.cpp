@@ -14,14 +14,14 @@ using model::PictureImage;
 
 // By type, the general row first.
 constexpr std::array<PictureFormat, 5> kFormats{{
-    {"", "", 10050, 10050, 0, 1024, 2048, 2049},
-    {"Kelvo-files (*.kvp;*.lmp)|*.kvp;*.lmp", "Felaktig filstorlek.", 10050, 10057, 0, 1024, 2048, 2049},
-    {"|Vidcom64 (*.vid)|*.vid", "Felaktig filstorlek. Giltig VIDCOM64-fil ska vara 10050 bytes", 10050, 10050, 0, 1024,
-     2048, std::nullopt},
-    {"|Koala Paint (*.koa)|*.koa", "Felaktig filstorlek. Giltig KOALA PAINT-fil ska vara 10003 bytes", 10003, 10003,
-     9000, 8000, 0, 10000},
-    {"|Koala Paint (*.kla)|*.kla", "Felaktig filstorlek. Giltig KOALA PAINT-fil ska vara 10003 bytes", 10003, 10003,
-     9000, 8000, 0, 10000},
+    {"", "", "", 10050, 10050, 0, 1024, 2048, 2049},
+    {"Kelvo-files", "*.kvp *.lmp", "Felaktig filstorlek.", 10050, 10057, 0, 1024, 2048, 2049},
+    {"Vidcom64", "*.vid", "Felaktig filstorlek. Giltig VIDCOM64-fil ska vara 10050 bytes", 10050, 10050, 0, 1024, 2048,
+     std::nullopt},
+    {"Koala Paint", "*.koa", "Felaktig filstorlek. Giltig KOALA PAINT-fil ska vara 10003 bytes", 10003, 10003, 9000,
+     8000, 0, 10000},
+    {"Koala Paint", "*.kla", "Felaktig filstorlek. Giltig KOALA PAINT-fil ska vara 10003 bytes", 10003, 10003, 9000,
+     8000, 0, 10000},
 }};
 
 constexpr std::array<std::pair<std::string_view, FormatType>, 5> kTypeByExtension{{
@@ -74,10 +74,8 @@ const PictureFormat& FormatOf(FormatType type) {
   return type > 0 && type < static_cast<int>(kFormats.size()) ? kFormats[static_cast<std::size_t>(type)] : kFormats[0];
 }
 
-std::string OpenFilter() {
-  std::string filter;
-  for (const PictureFormat& format : kFormats) filter += format.filter;
-  return filter;
+std::span<const PictureFormat> OfferedFormats() {
+  return std::span(kFormats).subspan(1);
 }
 
 FormatType TypeOfFile(std::string_view path, std::uintmax_t size) {

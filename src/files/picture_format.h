@@ -13,7 +13,7 @@
 #include <string>
 #include <string_view>
 
-#include "app/whole_file.h"
+#include "app/bytes.h"
 #include "model/picture_image.h"
 
 namespace kelvo::files {
@@ -21,8 +21,8 @@ namespace kelvo::files {
 // How a file of one type is read. Block offsets count from the byte after the load address; the background's position
 // counts from the start of the file, on purpose: for Koala it therefore names the colour byte of cell 999.
 struct PictureFormat {
-  std::string_view filter;        // its part of the open dialog's filter text; empty for the general row
-  std::string_view size_message;  // shown when a file has another size; empty: such a load just fails
+  std::string_view caption, patterns;  // as a file dialog shows them, "*.a *.b"; empty for the general row
+  std::string_view size_message;       // shown when a file has another size; empty: such a load just fails
   std::size_t file_size, other_size;
   std::size_t colour_at, screen_at, bitmap_at;
   std::optional<std::size_t> background_at;
@@ -37,8 +37,8 @@ inline constexpr FormatType kOwnType = 1, kVidcom64Type = 2, kKoaType = 3, kKlaT
 
 const PictureFormat& FormatOf(FormatType type);
 
-// The filters of all types joined, as "caption|patterns|caption|patterns...".
-std::string OpenFilter();
+// The formats that a dialog offers, by type from 1 on.
+std::span<const PictureFormat> OfferedFormats();
 
 // The type of a file that no dialog chose: by extension (.kvp, .lmp, .vid, .koa, .kla), else by size.
 FormatType TypeOfFile(std::string_view path, std::uintmax_t size);

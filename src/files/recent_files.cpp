@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "app/path_text.h"
+
 namespace kelvo::files {
 namespace {
 
@@ -16,20 +18,20 @@ constexpr std::array<app::Setting, RecentFiles::kMost> kPlaces{{
 
 }  // namespace
 
-std::vector<std::string> RecentFiles::Paths() const {
-  std::vector<std::string> paths;
+std::vector<std::filesystem::path> RecentFiles::Paths() const {
+  std::vector<std::filesystem::path> paths;
   for (const app::Setting& place : kPlaces) {
-    std::string path = settings_.Read(place);
-    if (!path.empty()) paths.push_back(std::move(path));
+    const std::string path = settings_.Read(place);
+    if (!path.empty()) paths.push_back(app::PathFromText(path));
   }
   return paths;
 }
 
-void RecentFiles::Add(std::string_view path) {
-  std::vector<std::string> paths = Paths();
-  if (std::find(paths.begin(), paths.end(), path) == paths.end()) paths.insert(paths.begin(), std::string(path));
+void RecentFiles::Add(const std::filesystem::path& path) {
+  std::vector<std::filesystem::path> paths = Paths();
+  if (std::find(paths.begin(), paths.end(), path) == paths.end()) paths.insert(paths.begin(), path);
   paths.resize(kMost);
-  for (std::size_t i = 0; i < kPlaces.size(); ++i) settings_.Write(kPlaces[i], paths[i]);
+  for (std::size_t i = 0; i < kPlaces.size(); ++i) settings_.Write(kPlaces[i], app::TextFromPath(paths[i]));
 }
 
 }  // namespace kelvo::files

@@ -1,8 +1,7 @@
 // The five pictures opened last, kept in the settings.
 #pragma once
 
-#include <string>
-#include <string_view>
+#include <filesystem>
 #include <vector>
 
 #include "app/settings_store.h"
@@ -16,10 +15,10 @@ class RecentFiles {
   explicit RecentFiles(app::SettingsStore& settings) : settings_(settings) {}
 
   // At most kMost paths, the latest first; empty places in the settings are left out.
-  std::vector<std::string> Paths() const;
+  std::vector<std::filesystem::path> Paths() const;
 
   // A path that is in the list keeps its place; a new one goes to the front, and the last of five drops out.
-  void Add(std::string_view path);
+  void Add(const std::filesystem::path& path);
 
  private:
   app::SettingsStore& settings_;

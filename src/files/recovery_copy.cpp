@@ -4,6 +4,7 @@
 
 #include "app/path_text.h"
 #include "app/whole_file.h"
+#include "files/backups.h"
 #include "files/load_picture.h"
 #include "files/picture_format.h"
 
@@ -25,9 +26,9 @@ RecoveryFiles::RecoveryFiles(const std::filesystem::path& folder, int slot)
 std::optional<Document> RecoveryFiles::Read() const {
   try {
     Document document;
-    document.picture = LoadPicture(app::TextFromPath(picture), kOwnType, {});
+    document.picture = LoadPicture(picture, kOwnType, {});
     const app::Bytes path = app::ReadWholeFile(name, kLongestPath);
-    if (!path.empty()) document.file = SetFileParameters(std::string(path.begin(), path.end()));
+    if (!path.empty()) document.file = SetFileParameters(app::PathFromText(std::string(path.begin(), path.end())));
     return document;
   } catch (const std::exception&) {
     return std::nullopt;
@@ -66,7 +67,7 @@ void RecoveryCopy::KeepNow() {
 }
 
 void RecoveryCopy::Write(const RecoveryFiles& files) const {
-  const std::string& path = document_.file.CurrentFilePath;
+  const std::string path = app::TextFromPath(document_.file.CurrentFilePath);
   app::WriteOwnFile(files.name, {reinterpret_cast<const std::uint8_t*>(path.data()), path.size()}, kFlush);
   model::PictureImage signed_picture = document_.picture;
   Sign(signed_picture);
@@ -88,6 +89,14 @@ void RecoveryCopy::RemoveBut(const Place* newest) {
   for (Place& place : places_) {
     if (&place != newest && place.is_used) place.is_used = !place.files.Remove();
   }
+}
+
+std::filesystem::path KeepRescueCopy(const Document& document, const app::ProgramFolders& folders,
+                                     const app::Clock& clock) {
+  model::PictureImage picture = document.picture;
+  Sign(picture);
+  const std::string name = document.file.HasFile() ? document.file.CurrentFileName : "unnamed";
+  return Backups(folders, clock).Keep(Encode(picture), name, "_unsaved", ".kvp");
 }
 
 }  // namespace kelvo::files

@@ -1,4 +1,5 @@
-// The copy of unsaved work that outlives a crash.
+// The copies of unsaved work: the one that outlives a crash, and those that are kept before an operation throws work
+// away.
 #pragma once
 
 #include <chrono>
@@ -7,6 +8,8 @@
 #include <utility>
 #include <vector>
 
+#include "app/clock.h"
+#include "app/program_folders.h"
 #include "files/document.h"
 
 namespace kelvo::files {
@@ -58,5 +61,10 @@ class RecoveryCopy {
   std::optional<model::PictureImage> written_;  // what the copy holds; empty where there is none
   std::optional<Time> last_try_;
 };
+
+// Writes the picture in memory into the BACKUP folder in the own format, named after the picture with the time and
+// "_unsaved"; a number follows where such a file is there already. Gives the path. Throws app::FileError.
+std::filesystem::path KeepRescueCopy(const Document& document, const app::ProgramFolders& folders,
+                                     const app::Clock& clock);
 
 }  // namespace kelvo::files

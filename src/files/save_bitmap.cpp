@@ -65,14 +65,14 @@ void KeepWhatGoes(const Document& document, const fs::path& file, const app::Byt
 
 }  // namespace
 
-std::string SavedName(std::string_view path) {
-  if (path.ends_with(kEnding)) return std::string(path);
-  return std::string(WithoutLast(path, kEnding.size())) + std::string(kEnding);
+fs::path SavedName(const fs::path& path) {
+  const std::string text = app::TextFromPath(path);
+  if (text.ends_with(kEnding)) return path;
+  return app::PathFromText(std::string(WithoutLast(text, kEnding.size())) + std::string(kEnding));
 }
 
-std::string SaveBitmap(Document& document, std::string_view path, const SavePlaces& places) {
-  const std::string target = SavedName(path.empty() ? document.file.CurrentFilePath : path);
-  const fs::path file = app::PathFromText(target);
+std::string SaveBitmap(Document& document, const fs::path& path, const SavePlaces& places) {
+  const fs::path file = SavedName(path);
   model::PictureImage picture = document.picture;
   Sign(picture);
   const app::Bytes written = Encode(picture);
@@ -80,10 +80,10 @@ std::string SaveBitmap(Document& document, std::string_view path, const SavePlac
   KeepWhatGoes(document, file, written, places, troubles);
   app::WriteWholeFile(file, written);
 
-  const CurrentFile before = std::exchange(document.file, SetFileParameters(target));
+  const CurrentFile before = std::exchange(document.file, SetFileParameters(file));
   document.picture = document.kept = picture;
   document.on_disk = written;
-  places.settings.Write(kFilePath, app::FolderPart(before.HasFile() ? before.CurrentFilePath : target));
+  places.settings.Write(kFilePath, app::TextFromPath((before.HasFile() ? before.CurrentFilePath : file).parent_path()));
   Collect(troubles, [&] { app::WriteOwnFile(places.folders.Snapshot(), written); });
   app::SweepTemporaryFiles(file.has_parent_path() ? file.parent_path() : ".");
   return troubles;

@@ -1,8 +1,8 @@
 // Saving the picture in the own format, with its backup and its snapshot.
 #pragma once
 
+#include <filesystem>
 #include <string>
-#include <string_view>
 
 #include "app/clock.h"
 #include "app/program_folders.h"
@@ -16,7 +16,7 @@ inline constexpr app::Setting kFilePath{"Settings", "FilePath", ""};
 // The name that a picture is saved under: `path` itself when it ends in ".kvp", else `path` with its last four
 // characters replaced by ".kvp", whatever they are, on purpose: "pic.txt" becomes "pic.kvp", and "picture" "pic.kvp"
 // too. Throws std::runtime_error for a path of fewer than four characters.
-std::string SavedName(std::string_view path);
+std::filesystem::path SavedName(const std::filesystem::path& path);
 
 struct SavePlaces {
   const app::ProgramFolders& folders;
@@ -24,7 +24,7 @@ struct SavePlaces {
   const app::Clock& clock;
 };
 
-// Writes the picture to SavedName(`path`), an empty path meaning the current file, and makes that the current file. The
+// Writes the picture to SavedName(`path`) and makes that the current file. The
 // signature and the background stay in the picture's spare screen bytes.
 //
 // Nothing that is replaced is lost, whenever the program ends: first the snapshot of the last load or save goes into
@@ -33,6 +33,6 @@ struct SavePlaces {
 // app::FileError when the picture could not be written, or what another program left there could not be kept: then the
 // picture and the file are as they were. Gives what went wrong with the backup or the snapshot of a picture that was
 // written, else an empty text.
-std::string SaveBitmap(Document& document, std::string_view path, const SavePlaces& places);
+std::string SaveBitmap(Document& document, const std::filesystem::path& path, const SavePlaces& places);
 
 }  // namespace kelvo::files

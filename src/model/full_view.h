@@ -1,7 +1,7 @@
 // Drawing the picture at 1:1: one multicolour pixel as two display pixels side by side.
 #pragma once
 
-#include "app/progress.h"
+#include "app/long_work.h"
 #include "model/picture_image.h"
 #include "model/surface.h"
 

@@ -33,8 +33,8 @@ void OptimizeChar(model::PictureImage& picture, int index) {
   }
 }
 
-void OptimizeBackgroundColor(model::PictureImage& picture, app::Progress& progress, CellDisplay& display) {
-  SweepCells(progress, display, [&](const model::PixelPlace& place) { OptimizeChar(picture, place.byte - 8); });
+void OptimizeBackgroundColor(model::PictureImage& picture, app::Progress& progress, const ShowCell& show) {
+  SweepCells(progress, show, [&](const model::PixelPlace& place) { OptimizeChar(picture, place.byte - 8); });
 }
 
 }  // namespace kelvo::optimise

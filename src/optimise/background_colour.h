@@ -1,7 +1,7 @@
 // "Optimize background color": pixels that show the background colour are drawn with the background's bit pair.
 #pragma once
 
-#include "app/progress.h"
+#include "app/long_work.h"
 #include "model/picture_image.h"
 #include "optimise/cell_sweep.h"
 
@@ -12,6 +12,6 @@ namespace kelvo::optimise {
 void OptimizeChar(model::PictureImage& picture, int index);
 
 // The whole picture. It looks the same before and after.
-void OptimizeBackgroundColor(model::PictureImage& picture, app::Progress& progress, CellDisplay& display);
+void OptimizeBackgroundColor(model::PictureImage& picture, app::Progress& progress, const ShowCell& show);
 
 }  // namespace kelvo::optimise

@@ -2,7 +2,6 @@
 
 #include <stdexcept>
 
-#include "app/path_text.h"
 #include "app/whole_file.h"
 #include "files/picture_format.h"
 
@@ -23,8 +22,7 @@ model::PictureImage DecodeSpriteSource(std::span<const std::uint8_t> bytes) {
   return files::Decode(files::FormatOf(files::kGeneralType), bytes.first(kPictureSize), {});
 }
 
-model::PictureImage LoadSpriteSource(std::string_view path) {
-  const std::filesystem::path file = app::PathFromText(path);
+model::PictureImage LoadSpriteSource(const std::filesystem::path& file) {
   CheckSize(app::FileSize(file));
   return DecodeSpriteSource(app::ReadWholeFile(file, kProgramSize));
 }

@@ -2,8 +2,8 @@
 #pragma once
 
 #include <cstdint>
+#include <filesystem>
 #include <span>
-#include <string_view>
 
 #include "model/picture_image.h"
 
@@ -14,6 +14,6 @@ namespace kelvo::sprites {
 model::PictureImage DecodeSpriteSource(std::span<const std::uint8_t> bytes);
 
 // The same from a file. Throws app::FileError too, for a file that cannot be read.
-model::PictureImage LoadSpriteSource(std::string_view path);
+model::PictureImage LoadSpriteSource(const std::filesystem::path& file);
 
 }  // namespace kelvo::sprites

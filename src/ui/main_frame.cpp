@@ -5,10 +5,12 @@
 #include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QMdiArea>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QStatusBar>
+#include <QTimer>
 #include <algorithm>
 
 #include "app/path_text.h"
@@ -16,9 +18,21 @@
 #include "editing/preferences.h"
 #include "files/backups.h"
 #include "model/palette.h"
+#include "ui/desks/animation_desk.h"
+#include "ui/desks/build_desk.h"
+#include "ui/desks/painting_desk.h"
+#include "ui/desks/picture_windows.h"
+#include "ui/desks/recovery_desk.h"
+#include "ui/menu_table.h"
+#include "ui/ports/frame_ports.h"
 #include "ui/ports/qt_text.h"
+#include "ui/widgets/child_window.h"
+#include "ui/widgets/choice_menu.h"
 #include "ui/widgets/settings_dialog.h"
 #include "ui/windows/frm_about.h"
+#include "ui/windows/frm_bmp2sprite_main.h"
+#include "ui/windows/frm_codenet_gui.h"
+#include "ui/windows/frm_command.h"
 #include "ui/windows/frm_fullscreen.h"
 #include "ui/windows/screenshot.h"
 
@@ -68,16 +82,24 @@ MainFrame::MainFrame(const app::ProgramFolders& folders, app::SettingsStore& set
       panels_(statusBar()),
       building_(new QLabel("Building... (Escape stops)", this)),
       Timer1_(new QTimer(this)),
-      messages_(this),
-      dialogs_(this),
-      events_(pointer_),
-      views_(*full_view_, *zoom_),
-      files_(document_, {{folders_, settings, clock, log_, messages_, prompt_}, pointer_, dialogs_, *this, views_}),
-      desk_(document_, {views_, settings, messages_, events_, pointer_, log_},
-            {*full_view_, *zoom_, *colors_, *pens_, *char_data_, *Toolbar1_}),
-      animation_({settings, messages_, document_, files_}, *this, *full_view_, *zoom_),
-      builds_({{folders_, settings, clock, log_, messages_, prompt_}, document_, files_, runner_}, this),
-      recovery_({folders_, clock, log_, messages_, document_, files_, slot_}) {
+      ports_(std::make_unique<FramePorts>(this)),
+      views_(std::make_unique<PictureWindows>(*full_view_, *zoom_)),
+      files_(document_, {{folders_, settings, clock, log_, ports_->messages, prompt_},
+                         ports_->pointer,
+                         ports_->dialogs,
+                         *this,
+                         *views_}),
+      desk_(std::make_unique<PaintingDesk>(
+          document_, editing::PaintingPorts{*views_, settings, ports_->messages, ports_->events, ports_->pointer, log_},
+          PaintingWindows{*full_view_, *zoom_, *colors_, *pens_, *char_data_, *Toolbar1_})),
+      animation_(std::make_unique<AnimationDesk>(anim::AnimSurroundings{settings, ports_->messages, document_, files_},
+                                                 *this, *full_view_, *zoom_)),
+      builds_(std::make_unique<BuildDesk>(
+          BuildDeskSurroundings{
+              {folders_, settings, clock, log_, ports_->messages, prompt_}, document_, files_, ports_->tools},
+          this)),
+      recovery_(std::make_unique<RecoveryDesk>(
+          RecoveryDesk::Surroundings{folders_, clock, log_, ports_->messages, document_, files_, slot_})) {
   setObjectName("MDIFormMenu");
   area_->setObjectName("mdiArea");
   setCentralWidget(area_);
@@ -92,13 +114,23 @@ MainFrame::MainFrame(const app::ProgramFolders& folders, app::SettingsStore& set
   ConnectBuilds();
   Timer1_->setObjectName("Timer1");
   connect(Timer1_, &QTimer::timeout, this, &MainFrame::Timer1_Timer);
-  connect(&recovery_, &RecoveryDesk::Word, this,
+  connect(recovery_.get(), &RecoveryDesk::Word, this,
           [this](const QString& word) { statusBar()->showMessage(word, kWarningMilliseconds); });
-  connect(&file_watch_, &FileWatch::Touched, this, [this] {
+  connect(&ports_->file_watch, &FileWatch::Touched, this, [this] {
     if (files_.IsChangedElsewhere()) {
       statusBar()->showMessage("The file was changed elsewhere: Reload?", kWarningMilliseconds);
     }
   });
+}
+
+MainFrame::~MainFrame() = default;
+
+bool MainFrame::OfferRecovery() {
+  return recovery_->Offer();
+}
+
+void MainFrame::PictureReplaced() {
+  desk_->PictureReplaced();
 }
 
 void MainFrame::MakeChildren() {
@@ -125,7 +157,7 @@ void MainFrame::AddChild(ChildWindowId id, QWidget* form, QPoint place, bool is_
 
 void MainFrame::ArrangeWindows() {
   ui::ArrangeWindows(children_);
-  animation_.ArrangeWindow();
+  animation_->ArrangeWindow();
   RefreshMenus();
   GiveFocusToPicture();
 }
@@ -136,9 +168,9 @@ void MainFrame::GiveFocusToPicture() {
 }
 
 void MainFrame::MakeChoiceMenus() {
-  background_menu_ = new ChoiceMenu(menu_.Menu("mnuBG"), ColourCaptions());
-  grid_menu_ = new ChoiceMenu(menu_.Menu("mnuGrid"), ColourCaptions());
-  border_menu_ = new ChoiceMenu(menu_.Menu("mnuZB"), {"Flash", "White", "None"});
+  background_menu_ = new ChoiceMenu(menu_.Menu(kBackgroundMenu), ColourCaptions());
+  grid_menu_ = new ChoiceMenu(menu_.Menu(kGridMenu), ColourCaptions());
+  border_menu_ = new ChoiceMenu(menu_.Menu(kBorderMenu), {"Flash", "White", "None"});
   connect(background_menu_, &ChoiceMenu::Chosen, this, &MainFrame::SetBackgroundColour);
   connect(grid_menu_, &ChoiceMenu::Chosen, this, &MainFrame::SetGridColor);
   connect(border_menu_, &ChoiceMenu::Chosen, this,
@@ -147,12 +179,12 @@ void MainFrame::MakeChoiceMenus() {
 }
 
 void MainFrame::MakeRecentMenu() {
-  QMenu* menu = menu_.Menu("mnuRecent");
+  QMenu* menu = menu_.Menu(kRecentMenu);
   connect(menu, &QMenu::aboutToShow, this, [this, menu] {
     menu->clear();
     const auto paths = files_.RecentPaths();
-    for (const std::string& path : paths) {
-      QAction* entry = menu->addAction(ToQt(path).replace('&', "&&"));
+    for (const std::filesystem::path& path : paths) {
+      QAction* entry = menu->addAction(QtFromPath(path).replace('&', "&&"));
       entry->setObjectName(QString("mnuRecent_%1").arg(menu->actions().size() - 1));
       connect(entry, &QAction::triggered, this, [this, path] { files_.OpenRecent(path); });
     }
@@ -161,21 +193,21 @@ void MainFrame::MakeRecentMenu() {
 }
 
 void MainFrame::ConnectDesk() {
-  connect(&desk_, &PaintingDesk::StateChanged, this, &MainFrame::ShowPaintingState);
-  connect(&desk_, &PaintingDesk::PointerAt, this,
+  connect(desk_.get(), &PaintingDesk::StateChanged, this, &MainFrame::ShowPaintingState);
+  connect(desk_.get(), &PaintingDesk::PointerAt, this,
           [this](const QString& text) { panels_.Show(StatusPanel::kPointer, text); });
-  connect(&desk_, &PaintingDesk::BackgroundChosen, this,
+  connect(desk_.get(), &PaintingDesk::BackgroundChosen, this,
           [this](model::C64Colour colour) { SetBackgroundColour(colour.Number()); });
 }
 
 void MainFrame::ConnectAnimation() {
-  connect(&animation_, &AnimationDesk::CheckMarkChanged, this, &MainFrame::RefreshMenus);
-  connect(&animation_, &AnimationDesk::StatusChanged, this,
+  connect(animation_.get(), &AnimationDesk::CheckMarkChanged, this, &MainFrame::RefreshMenus);
+  connect(animation_.get(), &AnimationDesk::StatusChanged, this,
           [this](const QString& text) { panels_.Show(StatusPanel::kAnimation, text); });
-  connect(&animation_, &AnimationDesk::Word, this,
+  connect(animation_.get(), &AnimationDesk::Word, this,
           [this](const QString& word) { statusBar()->showMessage(word, kWordMilliseconds); });
-  connect(&animation_, &AnimationDesk::KeyReleased, this, [this](QKeyEvent* event) {
-    if (event->key() != Qt::Key_Escape || builds_.IsBuilding()) return keyReleaseEvent(event);
+  connect(animation_.get(), &AnimationDesk::KeyReleased, this, [this](QKeyEvent* event) {
+    if (event->key() != Qt::Key_Escape || builds_->IsBuilding()) return keyReleaseEvent(event);
     activateWindow();
     GiveFocusToPicture();
   });
@@ -185,12 +217,12 @@ void MainFrame::ConnectBuilds() {
   building_->setObjectName("pnlBuilding");
   building_->hide();
   statusBar()->addPermanentWidget(building_);
-  connect(&builds_, &BuildDesk::StateChanged, this, &MainFrame::ShowBuilding);
-  connect(&builds_, &BuildDesk::Ended, this, &MainFrame::BuildEnded);
+  connect(builds_.get(), &BuildDesk::StateChanged, this, &MainFrame::ShowBuilding);
+  connect(builds_.get(), &BuildDesk::Ended, this, &MainFrame::BuildEnded);
 }
 
 void MainFrame::ShowBuilding() {
-  building_->setVisible(builds_.IsBuilding());
+  building_->setVisible(builds_->IsBuilding());
   RefreshMenus();
 }
 
@@ -206,29 +238,32 @@ void MainFrame::BuildEnded(c64out::BuildOutcome outcome) {
 
 void MainFrame::ProcessCommand(const QString& line) {
   last_command_ = line;
-  command::ProcessCommand(FromQt(line), {folders_, document_, files_, prompt_, animation_.Mode()});
+  const command::AnimationSwitch animation{[this] {
+                                             animation_->Mode().ToggleAnimMode();
+                                             return animation_->Mode().IsAnimModeChecked();
+                                           },
+                                           [this](bool on) { animation_->Mode().SetAnimFlag(on); }};
+  command::ProcessCommand(FromQt(line), {folders_, document_, files_, prompt_, animation});
   RefreshMenus();
 }
 
 void MainFrame::ShowPaintingState() {
-  panels_.Show(StatusPanel::kTool, ToQt(desk_.Painting().Prompt()));
-  const bool fills_blocks = desk_.Painting().ToolIndex() == editing::kBlockFillToolIndex;
+  panels_.Show(StatusPanel::kTool, ToQt(desk_->Painting().Prompt()));
+  const bool fills_blocks = desk_->Painting().ChosenTool() == editing::ToolId::kBlockFill;
   panels_.Show(StatusPanel::kBlockFill, fills_blocks ? "BF=ON" : "BF=OFF");
-  QAction* undo = menu_.Action("mnuUndo");
-  undo->setText("&" + ToQt(desk_.Painting().UndoData().Caption()));
-  undo->setEnabled(desk_.Painting().UndoData().CanUndo());
+  menu_.Refresh();
 }
 
 void MainFrame::StartUp() {
   setWindowTitle(ToQt(files::WindowTitle(document_.file)));
-  zoom_->SetMagnification(app::ReadNumber(settings_, app::kMagnification, 4, 8));
-  SetGridColor(app::ReadNumber(settings_, app::kGridColor, 0, model::C64Colour::kCount - 1));
+  zoom_->SetMagnification(app::ReadNumber(settings_, kMagnification, 4, 8));
+  SetGridColor(app::ReadNumber(settings_, kGridColor, 0, model::C64Colour::kCount - 1));
   Timer1_->start(kTimerMilliseconds);
   ShowFile(document_.file);
-  builds_.LookForVice();
+  builds_->LookForVice();
   std::error_code ignored;
   std::filesystem::remove(folders_.Snapshot(), ignored);  // so that the first save makes no backup
-  views_.PictureChanged();
+  views_->PictureChanged();
   ArrangeWindows();
   RestorePlaces(settings_, *this, children_);
   RefreshMenus();
@@ -236,8 +271,8 @@ void MainFrame::StartUp() {
 
 void MainFrame::LookAtFolders() {
   if (const auto folder = folders_.FindReadOnly()) {
-    messages_.Warn("Kelvo cannot write to its folder " + app::TextFromPath(*folder) +
-                   ".\nPictures can be painted and saved, but backups, rescue copies or builds fail.");
+    ports_->messages.Warn("Kelvo cannot write to its folder " + app::TextFromPath(*folder) +
+                          ".\nPictures can be painted and saved, but backups, rescue copies or builds fail.");
   }
   files_.ThinBackups();
 }
@@ -249,8 +284,8 @@ void MainFrame::SetMagnification(int magnification) {
 void MainFrame::SetBackgroundColour(int number) {
   document_.picture.BackgroundColour = ColourNumber(number);
   background_menu_->Check(number);
-  desk_.ShowColours();
-  views_.PictureChanged();
+  desk_->ShowColours();
+  views_->PictureChanged();
 }
 
 void MainFrame::SetGridColor(int number) {
@@ -278,7 +313,7 @@ void MainFrame::mnuFullscreenView_Click() {
 
 void MainFrame::ShowSpriteConverter() {
   if (sprite_converter_ == nullptr) {
-    sprite_converter_ = new frmBMP2SpriteMain(document_.picture, ToQt(files_.FolderForDialogs()), this);
+    sprite_converter_ = new frmBMP2SpriteMain(document_.picture, QtFromPath(files_.FolderForDialogs()), this);
   }
   sprite_converter_->show();
   sprite_converter_->raise();
@@ -286,30 +321,30 @@ void MainFrame::ShowSpriteConverter() {
 
 void MainFrame::ShowCodenetGui() {
   if (codenet_gui_ == nullptr) {
-    codenet_gui_ = new frmCodenetGUI({folders_, settings_, log_, messages_, prompt_, runner_}, this);
+    codenet_gui_ = new frmCodenetGUI({folders_, settings_, log_, ports_->messages, prompt_, ports_->tools}, this);
   }
   codenet_gui_->show();
   codenet_gui_->raise();
 }
 
 void MainFrame::StopTools() {
-  builds_.LeaveAll();
+  builds_->LeaveAll();
   if (codenet_gui_ != nullptr) codenet_gui_->Stop();
 }
 
 void MainFrame::SaveScreenshot() {
-  const std::string& path = document_.file.CurrentFilePath;
-  const QString proposal = ToQt(path.empty() ? app::TextFromPath(folders_.Gfx() / "unnamed") : path);
+  const std::filesystem::path& path = document_.file.CurrentFilePath;
+  const QString proposal = QtFromPath(path.empty() ? folders_.Gfx() / "unnamed" : path);
   app::Guarded(
       log_, "MDIFormMenu_mnuSaveJPG", [&] { mnuSaveJPG(full_view_->Picture(), proposal, this); },
-      [this](const std::exception& error) { messages_.Warn(error.what()); });
+      [this](const std::exception& error) { ports_->messages.Warn(error.what()); });
 }
 
 void MainFrame::ShowFile(const files::CurrentFile& file) {
   setWindowTitle(ToQt(files::WindowTitle(file)));
   panels_.Show(StatusPanel::kFile, ToQt(files::StatusName(file)));
-  animation_.FileChanged();
-  file_watch_.Follow(ToQt(file.CurrentFilePath));
+  animation_->FileChanged();
+  ports_->file_watch.Follow(QtFromPath(file.CurrentFilePath));
   RefreshMenus();
 }
 
@@ -328,19 +363,19 @@ void MainFrame::RefreshMenus() {
 }
 
 void MainFrame::Timer1_Timer() {
-  desk_.Tick();
+  desk_->Tick();
   zoom_->TickBorder();
-  recovery_.Tick();
+  recovery_->Tick();
 }
 
 void MainFrame::keyReleaseEvent(QKeyEvent* event) {
-  if (event->key() == Qt::Key_Escape && builds_.IsBuilding()) return builds_.Stop();
+  if (event->key() == Qt::Key_Escape && builds_->IsBuilding()) return builds_->Stop();
   if (event->key() == Qt::Key_Escape && IsInSideWindow(focusWidget())) return GiveFocusToPicture();
   const bool is_arrow = event->key() >= Qt::Key_Left && event->key() <= Qt::Key_Down;
   if (is_arrow && qobject_cast<QAbstractButton*>(focusWidget()) != nullptr) return;  // it led from button to button
   // Ctrl+R with Ctrl let go first is still Ctrl+R, not the pen of R.
-  const Qt::KeyboardModifiers modifiers = event->modifiers() | keys_.HeldAtPress(event->key());
-  if (!desk_.HandleKeyUp(event->key(), modifiers)) QMainWindow::keyReleaseEvent(event);
+  const Qt::KeyboardModifiers modifiers = event->modifiers() | ports_->keys.HeldAtPress(event->key());
+  if (!desk_->HandleKeyUp(event->key(), modifiers)) QMainWindow::keyReleaseEvent(event);
 }
 
 bool MainFrame::IsInSideWindow(const QWidget* widget) const {
@@ -351,7 +386,7 @@ bool MainFrame::IsInSideWindow(const QWidget* widget) const {
 }
 
 void MainFrame::changeEvent(QEvent* event) {
-  if (event->type() == QEvent::ActivationChange && !isActiveWindow()) desk_.LoseFocus();
+  if (event->type() == QEvent::ActivationChange && !isActiveWindow()) desk_->LoseFocus();
   QMainWindow::changeEvent(event);
 }
 
@@ -362,25 +397,25 @@ void MainFrame::dragEnterEvent(QDragEnterEvent* event) {
 
 void MainFrame::dropEvent(QDropEvent* event) {
   event->acceptProposedAction();
-  files_.OpenPicture(FromQt(NativePath(event->mimeData()->urls().first().toLocalFile())));
+  files_.OpenPicture(PathFromQt(event->mimeData()->urls().first().toLocalFile()));
 }
 
 void MainFrame::closeEvent(QCloseEvent* event) {
   if (!files_.MayClose()) return event->ignore();
-  settings_.Write(app::kGridColor, std::to_string(zoom_->GridColor().Number()));
-  settings_.Write(app::kMagnification, menu_.Action("mnuZoom_4X")->isChecked() ? "4" : "8");
+  settings_.Write(kGridColor, std::to_string(zoom_->GridColor().Number()));
+  settings_.Write(kMagnification, std::to_string(zoom_->Area().Magnification()));
   KeepPlaces(settings_, *this, children_);
-  animation_.UnloadFrameWindow();
+  animation_->UnloadFrameWindow();
   StopTools();
   Timer1_->stop();  // a tick would keep the work that was given up
-  recovery_.Remove();
+  recovery_->Remove();
   event->accept();
 }
 
 void MainFrame::EndSuddenly() {
-  recovery_.KeepNow();
+  recovery_->KeepNow();
   StopTools();
-  runner_.EndNow();
+  ports_->tools.EndNow();
 }
 
 }  // namespace kelvo::ui

@@ -2,45 +2,39 @@
 #pragma once
 
 #include <QMainWindow>
-#include <QTimer>
 #include <array>
+#include <memory>
 
-#include "app/clock.h"
 #include "app/error_log.h"
 #include "app/program_folders.h"
-#include "app/settings_store.h"
+#include "c64out/build_compo_pic.h"
 #include "files/picture_files.h"
-#include "ui/desks/animation_desk.h"
-#include "ui/desks/build_desk.h"
-#include "ui/desks/painting_desk.h"
-#include "ui/desks/picture_windows.h"
-#include "ui/desks/recovery_desk.h"
 #include "ui/main_menu.h"
-#include "ui/ports/event_pump.h"
-#include "ui/ports/file_watch.h"
-#include "ui/ports/key_guard.h"
 #include "ui/ports/program_slot.h"
-#include "ui/ports/qt_file_dialogs.h"
-#include "ui/ports/qt_messages.h"
-#include "ui/ports/wait_cursor.h"
-#include "ui/widgets/child_window.h"
-#include "ui/widgets/choice_menu.h"
-#include "ui/widgets/paint_tool_bar.h"
 #include "ui/widgets/prompt_lines.h"
 #include "ui/widgets/status_panels.h"
-#include "ui/windows/frm_bmp2sprite_main.h"
-#include "ui/windows/frm_bmp_view.h"
-#include "ui/windows/frm_char_data.h"
-#include "ui/windows/frm_codenet_gui.h"
-#include "ui/windows/frm_colors.h"
-#include "ui/windows/frm_command.h"
-#include "ui/windows/frm_pens.h"
-#include "ui/windows/frm_zoom.h"
 #include "ui/windows/window_places.h"
 
 class QMdiArea;
 
 namespace kelvo::ui {
+
+class AnimationDesk;
+class BuildDesk;
+class ChoiceMenu;
+class PaintingDesk;
+class PaintToolBar;
+class PictureWindows;
+class RecoveryDesk;
+class frmBMP2SpriteMain;
+class frmBMPView;
+class frmCharData;
+class frmCodenetGUI;
+class frmColors;
+class frmCommand;
+class frmPens;
+class frmZoom;
+struct FramePorts;
 
 enum class ChildWindowId { kFullView, kColors, kCharData, kPrompt, kZoom, kPens };
 inline constexpr std::size_t kChildWindows = 6;
@@ -51,12 +45,13 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
  public:
   // The settings and the clock outlive the window.
   MainFrame(const app::ProgramFolders& folders, app::SettingsStore& settings, const app::Clock& clock);
+  ~MainFrame() override;
 
   // What happens once, before the window is first shown: settings, folders, timer, texts.
   void StartUp();
 
   // Offers unsaved work that an earlier run left behind; true when the user took it up.
-  bool OfferRecovery() { return recovery_.Offer(); }
+  bool OfferRecovery();
   // What has time until the window is there: says what cannot be written, and removes backups that nobody would miss.
   void LookAtFolders();
   // The program has to end without asking: unsaved work and tools are seen to.
@@ -67,8 +62,8 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   bool HasFile() const { return document_.file.HasFile(); }
 
   const frmZoom& Zoom() const { return *zoom_; }
-  PaintingDesk& Desk() { return desk_; }
-  const PaintingDesk& Desk() const { return desk_; }
+  PaintingDesk& Desk() { return *desk_; }
+  const PaintingDesk& Desk() const { return *desk_; }
   void SetMagnification(int magnification);
   void SetBackgroundColour(int number);  // 0..15
   void SetGridColor(int number);         // 0..15
@@ -81,10 +76,10 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   void ShowCodenetGui();
   void ArrangeWindows();
 
-  BuildDesk& Builds() { return builds_; }
-  const BuildDesk& Builds() const { return builds_; }
-  AnimationDesk& Animation() { return animation_; }
-  const AnimationDesk& Animation() const { return animation_; }
+  BuildDesk& Builds() { return *builds_; }
+  const BuildDesk& Builds() const { return *builds_; }
+  AnimationDesk& Animation() { return *animation_; }
+  const AnimationDesk& Animation() const { return *animation_; }
   void ProcessCommand(const QString& line);
   bool HasLastCommand() const { return !last_command_.isEmpty(); }
   void RepeatLastCommand() { ProcessCommand(last_command_); }
@@ -103,7 +98,7 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
 
  private:
   void ShowFile(const files::CurrentFile& file) override;
-  void PictureReplaced() override { desk_.PictureReplaced(); }
+  void PictureReplaced() override;
   void AddChild(ChildWindowId id, QWidget* form, QPoint place, bool is_shown = true);
   void MakeChildren();
   void ConnectAnimation();
@@ -128,7 +123,6 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
 
   PromptLines prompt_;
   QString last_command_;
-  KeyGuard keys_;
 
   QMdiArea* area_;
   frmBMPView* full_view_;
@@ -147,18 +141,13 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   QLabel* building_;  // to be seen while a build is at work
   QTimer* Timer1_;
 
-  QtMessages messages_;
-  QtFileDialogs dialogs_;
-  WaitCursor pointer_;
-  EventPump events_;
-  PictureWindows views_;
+  std::unique_ptr<FramePorts> ports_;
+  std::unique_ptr<PictureWindows> views_;
   files::PictureFiles files_;
-  PaintingDesk desk_;
-  AnimationDesk animation_;
-  QtToolRunner runner_;
-  BuildDesk builds_;
-  RecoveryDesk recovery_;
-  FileWatch file_watch_;
+  std::unique_ptr<PaintingDesk> desk_;
+  std::unique_ptr<AnimationDesk> animation_;
+  std::unique_ptr<BuildDesk> builds_;
+  std::unique_ptr<RecoveryDesk> recovery_;
   frmBMP2SpriteMain* sprite_converter_ = nullptr;  // made when it is first asked for
   frmCodenetGUI* codenet_gui_ = nullptr;           // likewise
 };

@@ -4,6 +4,7 @@
 
 #include "ui/main_frame.h"
 #include "ui/menu_table.h"
+#include "ui/ports/qt_text.h"
 #include "ui/widgets/icons.h"
 
 namespace kelvo::ui {
@@ -48,6 +49,7 @@ void MainMenu::Refresh() const {
     action->setEnabled(can);
     action->setToolTip(can ? nullptr : entry.lack);
     if (entry.is_checked != nullptr) action->setChecked(entry.is_checked(frame_));
+    if (entry.text_now != nullptr) action->setText(ToQt(entry.text_now(frame_)));
   }
 }
 

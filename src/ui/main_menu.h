@@ -14,11 +14,10 @@ class MainMenu {
   // Fills `frame`'s menu bar. Every action belongs to `frame` and has its row's name as objectName.
   explicit MainMenu(MainFrame& frame);
 
-  // Asks every row whether it can, and whether it is checked.
+  // Asks every row whether it can, whether it is checked, and what it says.
   void Refresh() const;
 
   QMenu* Menu(const QString& name) const { return menus_.value(name); }
-  QAction* Action(const QString& name) const { return actions_.value(name); }
 
  private:
   MainFrame& frame_;

@@ -2,7 +2,10 @@
 
 #include <iterator>
 
-#include "c64out/compo_pic_entries.h"
+#include "c64out/compo_pic_choice.h"
+#include "ui/desks/animation_desk.h"
+#include "ui/desks/build_desk.h"
+#include "ui/desks/painting_desk.h"
 #include "ui/main_frame.h"
 
 namespace kelvo::ui {
@@ -10,12 +13,12 @@ namespace {
 
 constexpr MenuRow kMenus[] = {
     {"mnuFile", nullptr, "&File", ""},
-    {"mnuRecent", "mnuFile", "Load r&ecent...", "Open this picture"},
+    {kRecentMenu, "mnuFile", "Load r&ecent...", "Open this picture"},
     {"mnuLimPaint", nullptr, "&Paint", ""},
-    {"mnuBG", "mnuLimPaint", "&Background color", "Show this color wherever the picture's background shows"},
+    {kBackgroundMenu, "mnuLimPaint", "&Background color", "Show this color wherever the picture's background shows"},
     {"mnuViewMenu", nullptr, "&Show", ""},
-    {"mnuGrid", "mnuViewMenu", "Zoom &grid", "Draw the grid of the zoom window in this color"},
-    {"mnuZB", "mnuViewMenu", "Zoom &border", "How the border of the zoom window looks"},
+    {kGridMenu, "mnuViewMenu", "Zoom &grid", "Draw the grid of the zoom window in this color"},
+    {kBorderMenu, "mnuViewMenu", "Zoom &border", "How the border of the zoom window looks"},
     {"mnuFunctions", nullptr, "F&unctions", ""},
     {"mnuAnim", nullptr, "&Animation", ""},
     {"mnuVICE", nullptr, "&VICE", ""},
@@ -40,23 +43,19 @@ constexpr MenuEntry ZoomEntry(const char* name, const char* text, const char* ke
 }
 
 // Builds for the network need no emulator.
-template <std::size_t index>
-constexpr MenuEntry BuildEntry(const char* key = "") {
-  const c64out::CompoPicEntry& entry = c64out::kCompoPicEntries[index];
-  return {entry.name,
-          entry.choice.ViaCodenet ? "mnuCodenet" : "mnuVICE",
-          entry.text,
+template <const c64out::CompoPicChoice& choice>
+constexpr MenuEntry BuildEntry(const char* name, const char* text, const char* key, const char* tip) {
+  return {name,
+          choice.ViaCodenet ? "mnuCodenet" : "mnuVICE",
+          text,
           key,
-          entry.tip,
-          [](MainFrame& f) { f.Builds().BuildCompoPic(c64out::kCompoPicEntries[index].choice); },
-          [](const MainFrame& f) {
-            return f.Builds().IsFree() &&
-                   (f.Builds().IsViceReady() || c64out::kCompoPicEntries[index].choice.ViaCodenet);
-          },
+          tip,
+          [](MainFrame& f) { f.Builds().BuildCompoPic(choice); },
+          [](const MainFrame& f) { return f.Builds().IsFree() && (f.Builds().IsViceReady() || choice.ViaCodenet); },
           nullptr,
           nullptr,
-          entry.choice.ViaCodenet ? "Not while a build is at work"
-                                  : "It needs VICE, set in VICE settings, and no other build at work"};
+          choice.ViaCodenet ? "Not while a build is at work"
+                            : "It needs VICE, set in VICE settings, and no other build at work"};
 }
 
 constexpr MenuEntry Separator(const char* menu) {
@@ -76,7 +75,7 @@ constexpr MenuEntry kEntries[] = {
      nullptr, "open"},
     {"mnuReload", "mnuFile", "&Reload", "Ctrl+R", "Open the current picture's file again",
      [](MainFrame& f) { f.Files().Reload(); }, kHasFile, nullptr, "reload"},
-    Submenu("mnuRecent", "mnuFile"),
+    Submenu(kRecentMenu, "mnuFile"),
     Separator("mnuFile"),
     {"mnuSave", "mnuFile", "&Save", "Ctrl+S", "Save the picture under its name", [](MainFrame& f) { f.Files().Save(); },
      nullptr, nullptr, "save"},
@@ -88,9 +87,10 @@ constexpr MenuEntry kEntries[] = {
     {"mnuExit", "mnuFile", "E&xit", "Ctrl+Q", "End the program", [](MainFrame& f) { f.close(); }},
 
     {"mnuUndo", "mnuLimPaint", "&Undo", "Ctrl+Z", "Take back the last action", [](MainFrame& f) { f.Desk().Undo(); },
-     [](const MainFrame& f) { return f.Desk().Painting().UndoData().CanUndo(); }, nullptr, "undo"},
+     [](const MainFrame& f) { return f.Desk().Painting().UndoData().CanUndo(); }, nullptr, "undo", nullptr,
+     [](const MainFrame& f) { return "&" + f.Desk().Painting().UndoData().Caption(); }},
     Separator("mnuLimPaint"),
-    Submenu("mnuBG", "mnuLimPaint"),
+    Submenu(kBackgroundMenu, "mnuLimPaint"),
     {"mnuRepeatCommand", "mnuLimPaint", "&Repeat last command", "F3", "Give the last command of the prompt again",
      [](MainFrame& f) { f.RepeatLastCommand(); }, [](const MainFrame& f) { return f.HasLastCommand(); }},
     {"mnuPreferences", "mnuLimPaint", "&Preferences...", "", "How painting treats full cells",
@@ -105,8 +105,8 @@ constexpr MenuEntry kEntries[] = {
     Separator("mnuViewMenu"),
     ZoomEntry<4>("mnuZoom_4X", "Zoom &4:1", "Ctrl+4", "Show pixels four times as large"),
     ZoomEntry<8>("mnuZoom_8X", "Zoom &8:1", "Ctrl+8", "Show pixels eight times as large"),
-    Submenu("mnuGrid", "mnuViewMenu"),
-    Submenu("mnuZB", "mnuViewMenu"),
+    Submenu(kGridMenu, "mnuViewMenu"),
+    Submenu(kBorderMenu, "mnuViewMenu"),
     Separator("mnuViewMenu"),
     {"mnuFullscreenView", "mnuViewMenu", "F&ullscreen view", "F11", "The picture alone, over the whole screen",
      [](MainFrame& f) { f.mnuFullscreenView_Click(); }, nullptr, nullptr, "fullscreen"},
@@ -128,17 +128,22 @@ constexpr MenuEntry kEntries[] = {
     {"mnuAnimProperties", "mnuAnim", "Animation &properties...", "", "Where the frames are and how they are named",
      [](MainFrame& f) { f.Animation().ShowProperties(); }},
 
-    BuildEntry<0>("F6"),
-    BuildEntry<1>(),
-    BuildEntry<2>("F5"),
+    BuildEntry<c64out::kCreatePrg>("mnuCreatePRGCompopic", "Create compopic executable as &PRG", "F6",
+                                   "Make a C64 program that shows the picture, beside the picture"),
+    BuildEntry<c64out::kCreateD64>("mnuCreateD64CompoPic", "Create &D64 containing compopic PRG", "",
+                                   "Make a disk image with a program that shows the picture, beside the picture"),
+    BuildEntry<c64out::kPreviewInVice>("mnuPreviewCompopicInVICE", "Show preview in &VICE", "F5",
+                                       "Make the disk image and start VICE on it"),
     Separator("mnuVICE"),
     {"mnuViceSettings", "mnuVICE", "VICE &settings...", "", "Where VICE is, and the program's name on a disk",
      [](MainFrame& f) { f.Builds().ShowViceSettings(); }},
     {"mnuStopBuild", "mnuVICE", "S&top build", "", "End the build that is at work (Escape)",
      [](MainFrame& f) { f.Builds().Stop(); }, [](const MainFrame& f) { return f.Builds().IsBuilding(); }},
 
-    BuildEntry<3>(),
-    BuildEntry<4>(),
+    BuildEntry<c64out::kPreviewOnC64>("mnuShowPreviewOnC64", "Show &preview on C64", "",
+                                      "Send the picture to a C64 and show it there"),
+    BuildEntry<c64out::kSaveOn15x1>("mnuSaveCompopicOn15x1", "&Save compopic on 15x1", "",
+                                    "Send the picture to a C64 and save it on that machine's disk drive"),
     {"mnuCodenetGUI", "mnuCodenet", "Codenet &GUI", "", "Send any file to a C64",
      [](MainFrame& f) { f.ShowCodenetGui(); }},
     Separator("mnuCodenet"),

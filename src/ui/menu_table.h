@@ -2,10 +2,17 @@
 #pragma once
 
 #include <span>
+#include <string>
 
 namespace kelvo::ui {
 
 class MainFrame;
+
+// The menus that the main window fills.
+inline constexpr const char* kRecentMenu = "mnuRecent";
+inline constexpr const char* kBackgroundMenu = "mnuBG";
+inline constexpr const char* kGridMenu = "mnuGrid";
+inline constexpr const char* kBorderMenu = "mnuZB";
 
 struct MenuRow {
   const char* name;    // objectName
@@ -22,10 +29,11 @@ struct MenuEntry {
   const char* key;  // empty: no shortcut
   const char* tip;
   void (*run)(MainFrame&);
-  bool (*can)(const MainFrame&) = nullptr;         // null: always
-  bool (*is_checked)(const MainFrame&) = nullptr;  // null: the entry carries no check mark
-  const char* icon = nullptr;                      // its file's name; null: none
-  const char* lack = nullptr;                      // said while it cannot be chosen; null: nothing
+  bool (*can)(const MainFrame&) = nullptr;              // null: always
+  bool (*is_checked)(const MainFrame&) = nullptr;       // null: the entry carries no check mark
+  const char* icon = nullptr;                           // its file's name; null: none
+  const char* lack = nullptr;                           // said while it cannot be chosen; null: nothing
+  std::string (*text_now)(const MainFrame&) = nullptr;  // null: always `text`
 };
 
 std::span<const MenuRow> Menus();

@@ -84,8 +84,13 @@ TEST_F(AnimModeTest, LooksAtTheFolderOnlyAfterTheFirstFrame) {
 }
 
 TEST_F(AnimModeTest, TheCommandSetsTheFlagAloneOrSwitchesTheModeWithIt) {
+  const command::AnimationSwitch animation{[this] {
+                                             mode.ToggleAnimMode();
+                                             return mode.IsAnimModeChecked();
+                                           },
+                                           [this](bool on) { mode.SetAnimFlag(on); }};
   const auto reply = [&](const char* line) {
-    command::ProcessCommand(line, {folders, document, files, prompt, mode});
+    command::ProcessCommand(line, {folders, document, files, prompt, animation});
     return prompt.lines.back();
   };
   EXPECT_EQ(reply("ANIM "), "ANIM OFF");  // there is no folder yet
@@ -97,11 +102,9 @@ TEST_F(AnimModeTest, TheCommandSetsTheFlagAloneOrSwitchesTheModeWithIt) {
   EXPECT_EQ(reply("ANIM"), "ANIM ON");
   EXPECT_TRUE(shows.check_mark && shows.window);
 
-  mode.FrameWindowUnloaded({-12, 345});
+  mode.FrameWindowUnloaded();
   EXPECT_EQ(shows.status, "ANIM=OFF");
   EXPECT_FALSE(shows.check_mark);
-  EXPECT_EQ(ReadFrameWindowPlace(settings), (FrameWindowPlace{-12, 345}));
-  EXPECT_EQ(settings.values["Settings/frmAnimTopPos"], "345");
   EXPECT_EQ(reply("ANIM"), "ANIM ON");
   EXPECT_EQ(reply("ANIM off"), "ANIM off");
   EXPECT_EQ(shows.status, "ANIM=OFF");

@@ -30,7 +30,7 @@ class FramesTest : public testing::Test, protected support::Program {
     settings.Write(kFolder, Text("a/"));
     settings.Write(kAnimPrefix, "Anim");
   }
-  fs::path File(int number) const { return app::PathFromText(FrameNames({Text("a/"), "Anim"}).Path(number)); }
+  fs::path File(int number) const { return FrameNames({Text("a/"), "Anim"}).Path(number); }
   void WriteFrames(std::initializer_list<int> numbers) {
     for (const int number : numbers) WriteFrame(File(number), number);
   }

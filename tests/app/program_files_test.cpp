@@ -8,7 +8,6 @@
 #include "app/settings_store.h"
 #include "app/whole_file.h"
 #include "files/recovery_copy.h"
-#include "files/rescue_copy.h"
 #include "support/program.h"
 
 #ifndef _WIN32
@@ -92,13 +91,14 @@ TEST(PathText, PartsEndAtTheLastSeparator) {
 }
 
 TEST(Settings, NonsenseReadsAsTheDefault) {
+  constexpr Setting kNumber{"Settings", "Number", "9"};
   support::MapSettings settings;
   for (const char* nonsense : {"16", "-1", "", "red", "5x", "99999999999999999999"}) {
-    settings.Write(kGridColor, nonsense);
-    EXPECT_EQ(ReadNumber(settings, kGridColor, 0, 15), 9) << nonsense;
+    settings.Write(kNumber, nonsense);
+    EXPECT_EQ(ReadNumber(settings, kNumber, 0, 15), 9) << nonsense;
   }
-  settings.Write(kGridColor, "15");
-  EXPECT_EQ(ReadNumber(settings, kGridColor, 0, 15), 15);
+  settings.Write(kNumber, "15");
+  EXPECT_EQ(ReadNumber(settings, kNumber, 0, 15), 15);
 }
 
 TEST(WholeFile, RefusesWhatIsNoOrdinaryFile) {

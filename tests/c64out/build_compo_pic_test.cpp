@@ -74,8 +74,7 @@ const Lines kCleanSystem{"bmpshow.src", "codenet", "crush", "currentbmp.prg", "d
 
 class BuildCompoPicTest : public testing::Test, public Scene {};
 
-constexpr CompoPicChoice kPrg = kCompoPicEntries[0].choice, kD64 = kCompoPicEntries[1].choice,
-                         kVice = kCompoPicEntries[2].choice, kPreview = kCompoPicEntries[3].choice;
+constexpr CompoPicChoice kPrg = kCreatePrg, kD64 = kCreateD64, kVice = kPreviewInVice, kPreview = kPreviewOnC64;
 
 TEST_F(BuildCompoPicTest, MakesAPrgBesideThePicture) {
   const files::Document before = document;

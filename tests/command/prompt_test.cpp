@@ -16,25 +16,19 @@ namespace fs = std::filesystem;
 using support::Lines;
 
 // An error of somebody else, which is not the command's.
-class FailingAnimation final : public app::AnimationSwitch {
- public:
-  void ToggleAnimMode() override { throw std::logic_error("no mode"); }
-  bool IsAnimModeChecked() const override { return false; }
-  void SetAnimFlag(bool) override {}
-};
+const AnimationSwitch kFailingAnimation{[]() -> bool { throw std::logic_error("no mode"); }, [](bool) {}};
 
 class ProcessCommandTest : public testing::Test, protected support::Program {
  protected:
   Lines Replies(const std::string& line) {
     prompt.lines.clear();
-    ProcessCommand(line, {folders, document, files, prompt, animation});
+    ProcessCommand(line, {folders, document, files, prompt, kFailingAnimation});
     return prompt.lines;
   }
   static void WritePicture(const fs::path& path) {
     fs::create_directories(path.parent_path());
     support::WriteFile(path, support::CountingBytes(10003));
   }
-  FailingAnimation animation;
 };
 
 TEST_F(ProcessCommandTest, RepliesExactly) {

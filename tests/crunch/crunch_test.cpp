@@ -7,7 +7,7 @@
 #include <stdexcept>
 #include <string>
 
-#include "app/whole_file.h"
+#include "app/bytes.h"
 #include "support/files.h"
 #include "support/run_tool.h"
 

@@ -4,10 +4,9 @@
 #include <algorithm>
 
 #include "editing/cell_slots.h"
-#include "editing/circle.h"
-#include "editing/line.h"
 #include "editing/pixel_plot.h"
 #include "editing/set_data.h"
+#include "editing/shapes.h"
 #include "support/pictures.h"
 
 namespace kelvo::editing {

@@ -5,7 +5,7 @@
 
 #include <functional>
 
-#include "editing/pen_keys.h"
+#include "editing/pens.h"
 #include "editing/preferences.h"
 #include "support/mazes.h"
 #include "support/pictures.h"
@@ -19,7 +19,7 @@ using model::PixelPoint;
 using support::Colour;
 using support::ColourAt;
 
-enum Tools { kDraw = 1, kFill, kLine, kContinuousLine, kCircle, kMouseCopy, kBlockFill };
+using enum ToolId;
 
 // What an action may stop at, so that events come in between; and the wait pointer, "<" when it is shown, ">" when not.
 class Surroundings final : public support::RecordingMessages, public app::ProcessEvents, public app::WaitPointer {
@@ -112,12 +112,12 @@ TEST_F(PaintingTest, AStrokeEndsWithItsButton) {
 
 TEST_F(PaintingTest, PreferencesDecideWhatAFullCellDoes) {
   struct Case {
-    int tool;
+    ToolId tool;
     const char* stored;
     int at_press, beside;  // the colours after it
   };
   for (const Case& c : {Case{kDraw, "", 5, 1}, {kDraw, "0", 2, 1}, {kFill, "", 0, 1}, {kFill, "1", 5, 5}}) {
-    SCOPED_TRACE(testing::Message() << c.tool << " with " << c.stored);
+    SCOPED_TRACE(testing::Message() << static_cast<int>(c.tool) << " with " << c.stored);
     settings.values.clear();
     const app::Setting& preference = c.tool == kDraw ? k4thColReplaces : kReplaceLeastUsedColWhenFilling;
     if (*c.stored != 0) settings.Write(preference, c.stored);
@@ -200,12 +200,12 @@ TEST_F(PaintingTest, ShapesAreDrawnWithTheLeftPenAtTheTickAfterTheirLastPoint) {
 TEST_F(PaintingTest, AnUnfinishedShapeGoesWithEscapeUndoAndThePicture) {
   using Way = void (Painting::*)();
   for (const Way way : {&Painting::Escape, &Painting::Undo, &Painting::Forget}) {
-    for (const int tool : {kLine, kContinuousLine, kCircle}) {
+    for (const ToolId tool : {kLine, kContinuousLine, kCircle}) {
       painting.ChooseTool(tool);
       Click({10, 10});
       Click({14, 10});
       (painting.*way)();
-      EXPECT_EQ(painting.ToolIndex(), tool);
+      EXPECT_EQ(painting.ChosenTool(), tool);
       EXPECT_FALSE(painting.UndoData().CanUndo());
       Click({20, 10});
       EXPECT_FALSE(painting.Tick());
@@ -219,7 +219,7 @@ TEST_F(PaintingTest, AnUnfinishedShapeGoesWithEscapeUndoAndThePicture) {
   EXPECT_EQ(CountOf(5), 10);
   painting.ChooseTool(kCircle);
   painting.Escape();  // there is no shape
-  EXPECT_EQ(painting.ToolIndex(), kDraw);
+  EXPECT_EQ(painting.ChosenTool(), kDraw);
   Press({1, 1});
   painting.Forget();
   painting.Move({9, 1}, true);
@@ -227,14 +227,14 @@ TEST_F(PaintingTest, AnUnfinishedShapeGoesWithEscapeUndoAndThePicture) {
 }
 
 TEST_F(PaintingTest, AShapeOfWhichNothingIsDrawnGivesTheStepBeforeItBack) {
-  for (const int tool : {kLine, kContinuousLine, kCircle}) {
-    for (const int other : {0, static_cast<int>(kFill)}) {  // 0: Escape
+  for (const ToolId tool : {kLine, kContinuousLine, kCircle}) {
+    for (const bool by_escape : {true, false}) {
       painting.ChooseTool(kDraw);
       Click({1, 1});
       painting.ChooseTool(tool);
       Click({10, 10});
       painting.Tick();
-      other == 0 ? painting.Escape() : painting.ChooseTool(other);
+      by_escape ? painting.Escape() : painting.ChooseTool(kFill);
       EXPECT_EQ(painting.UndoData().Caption(), "Undo draw");
       painting.Undo();
       EXPECT_EQ(CountOf(5), 0);
@@ -281,7 +281,7 @@ TEST_F(PaintingTest, FillsTakeThePenOfTheButtonAndLetNothingElseStart) {
   EXPECT_EQ(CountOf(2), 32000);
   Click({80, 100});
   EXPECT_EQ(CountOf(5), 32000);
-  EXPECT_EQ(painting.ToolIndex(), kFill);
+  EXPECT_EQ(painting.ChosenTool(), kFill);
   painting.Move({20, 20}, true);  // a fill begins no stroke
   EXPECT_EQ(CountOf(5), 32000);
   EXPECT_FALSE(exists(folders.ErrorLogFile()));
@@ -301,8 +301,8 @@ TEST_F(PaintingTest, UndoIsNamedAfterTheToolAndLeavesTheBackground) {
   constexpr const char* kCaptions[] = {"draw", "fill", "line", "line", "circle", "copy", "block fill"};
   picture = support::RandomPicture(8);
   int changes = 0;
-  for (int tool = kDraw; tool <= kBlockFill; ++tool) {
-    painting.ChooseTool(tool);
+  for (int tool = 0; tool < static_cast<int>(ToolTable().size()); ++tool) {
+    painting.ChooseTool(static_cast<ToolId>(tool));
     Click({20, 30}, Button::kRight);  // takes a cell, or sets a first point
     const PictureImage before = picture;
     Drag({60, 90}, {80, 120});
@@ -311,7 +311,7 @@ TEST_F(PaintingTest, UndoIsNamedAfterTheToolAndLeavesTheBackground) {
     PictureImage expected = before;
     picture.BackgroundColour = expected.BackgroundColour = Colour(tool);
     views.pictures = 0;
-    EXPECT_EQ(painting.UndoData().Caption(), std::string("Undo ") + kCaptions[tool - 1]);
+    EXPECT_EQ(painting.UndoData().Caption(), std::string("Undo ") + kCaptions[tool]);
     painting.Undo();
     EXPECT_EQ(picture, expected) << "tool " << tool;
     EXPECT_EQ(views.pictures, 1);

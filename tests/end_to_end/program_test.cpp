@@ -14,7 +14,7 @@
 #include <thread>
 
 #include "editing/painting.h"
-#include "editing/pen_keys.h"
+#include "editing/pens.h"
 #include "model/palette.h"
 #include "support/pictures.h"
 #include "support/run_tool.h"
@@ -23,6 +23,7 @@ namespace kelvo::end_to_end {
 namespace {
 
 using editing::Button;
+using editing::ToolId;
 using model::PixelPoint;
 
 // Runs a shell command to its end; true when it succeeded.
@@ -129,9 +130,9 @@ class Session : public ProgramTest {
     Wait(kMoreThanATick);
     painting.Tick();
   }
-  void Tool(char key, int index) {
+  void Tool(char key, ToolId tool) {
     Hands(std::string("key ") + key + " sleep 0.1");
-    painting.ChooseTool(index);
+    painting.ChooseTool(tool);
   }
   void Pen(char key) {
     Hands(std::string("key ") + key + " sleep 0.1");
@@ -148,41 +149,41 @@ TEST_F(Session, SavesWhatTheCoreGives) {
   FindZoomWindow();
   ASSERT_TRUE(core.files.OpenPicture(file.string()));
   Pen('u');  // a light blue sky
-  Tool('f', 2);
+  Tool('f', ToolId::kFill);
   Click({60, 20});
-  Tool('d', 1);
+  Tool('d', ToolId::kDraw);
   Pen('6');
   Drag({1, 100}, {80, 100});
   for (int x = 4; x < 80; x += 6) Drag({x, 99}, {x + 2, 97});
-  Tool('c', 5);
+  Tool('c', ToolId::kCircle);
   Pen('8');
   Click({60, 30});
   Click({66, 30});
   Tick();
-  Tool('f', 2);
+  Tool('f', ToolId::kFill);
   Click({60, 30});
-  Tool('l', 3);
+  Tool('l', ToolId::kLine);
   Pen('3');
   Click({20, 100});
   Tick();
   Click({20, 60});
   Tick();
-  Tool('k', 4);
+  Tool('k', ToolId::kContinuousLine);
   Pen('w');
   for (const PixelPoint at : {PixelPoint{10, 60}, {20, 40}, {30, 60}, {10, 60}}) {
     Click(at);
     Tick();
   }
-  Tool('f', 2);
+  Tool('f', ToolId::kFill);
   Pen('6');
   Click({40, 120});
-  Tool('b', 7);
+  Tool('b', ToolId::kBlockFill);
   Pen('q');
   Drag({2, 130}, {30, 130}, Button::kRight);
-  Tool('m', 6);
+  Tool('m', ToolId::kMouseCopy);
   Click({6, 130}, Button::kRight);
   Drag({50, 130}, {70, 130});
-  Tool('d', 1);
+  Tool('d', ToolId::kDraw);
   Drag({40, 10}, {70, 40}, Button::kRight);
   Drag({5, 5}, {30, 5});
   Hands("key ctrl+z sleep 0.2");

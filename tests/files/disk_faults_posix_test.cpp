@@ -12,6 +12,7 @@
 #include <set>
 #include <thread>
 
+#include "app/whole_file.h"
 #include "files/backups.h"
 #include "files/recovery_copy.h"
 #include "support/faulty_disk.h"

@@ -36,7 +36,7 @@ TEST_F(PictureFilesTest, OpeningByDialogTakesTheChosenTypeAndTellsEveryone) {
   EXPECT_EQ(display.title, "Kelvo v1.2 by the Kelvo developers [Castle]");
   EXPECT_EQ(prompt.lines, Lines{"LOAD Castle"});
   EXPECT_EQ(views.pictures, 1);
-  EXPECT_EQ(files.RecentPaths(), Lines{path});
+  EXPECT_EQ(files.RecentPaths(), std::vector<fs::path>{path});
   EXPECT_EQ(support::ReadFile(folders.Snapshot()), support::ReadFile(folder / "Castle.PRG"));
   EXPECT_FALSE(document.HasUnsavedWork());
 
@@ -315,7 +315,7 @@ TEST(RecentFiles, KeepTheFiveLastInOrder) {
   EXPECT_TRUE(recent.Paths().empty());
   settings.values["Recent/Recent2"] = "old";  // a gap before it closes
   for (const char* path : {"a", "b", "c", "d", "b", "e"}) recent.Add(path);
-  EXPECT_EQ(recent.Paths(), (Lines{"e", "d", "c", "b", "a"}));
+  EXPECT_EQ(recent.Paths(), (std::vector<fs::path>{"e", "d", "c", "b", "a"}));
   EXPECT_EQ(settings.values["Recent/Recent5"], "a");
 }
 

@@ -6,8 +6,8 @@
 #include <stdexcept>
 #include <tuple>
 
+#include "app/long_work.h"
 #include "app/number_text.h"
-#include "app/progress.h"
 #include "model/full_view.h"
 #include "model/onion_skin.h"
 #include "model/palette.h"

@@ -9,19 +9,14 @@ namespace {
 
 using model::PictureImage;
 
-class RecordingCells final : public CellDisplay {
- public:
-  void ShowCell(int cell) override { cells.push_back(cell); }
-  std::vector<int> cells;
-};
-
 TEST(OptimizeBackground, KeepsTheLookAndLeavesNoOtherPairForTheBackground) {
   for (unsigned seed = 0; seed < 20; ++seed) {
     PictureImage picture = support::RandomPicture(seed);
     const PictureImage before = picture;
     app::NoProgress none;
-    RecordingCells display;
-    OptimizeBackgroundColor(picture, none, display);
+    std::vector<int> cells;
+    const ShowCell show = [&](int cell) { cells.push_back(cell); };
+    OptimizeBackgroundColor(picture, none, show);
     for (int y = 1; y <= 200; ++y) {
       for (int x = 1; x <= 160; ++x) {
         const model::PixelData pixel = model::GetPixelData(picture, x, y);
@@ -32,10 +27,10 @@ TEST(OptimizeBackground, KeepsTheLookAndLeavesNoOtherPairForTheBackground) {
     PictureImage expected = before;
     expected.Bitmap = picture.Bitmap;
     EXPECT_EQ(picture, expected);
-    OptimizeBackgroundColor(picture, none, display);
+    OptimizeBackgroundColor(picture, none, show);
     EXPECT_EQ(picture, expected);
-    EXPECT_EQ(display.cells.size(), 2000U);
-    EXPECT_EQ(display.cells.back(), 1000);
+    EXPECT_EQ(cells.size(), 2000U);
+    EXPECT_EQ(cells.back(), 1000);
   }
 }
 

@@ -6,7 +6,7 @@
 #include <span>
 #include <vector>
 
-#include "app/whole_file.h"
+#include "app/bytes.h"
 
 namespace kelvo::support {
 

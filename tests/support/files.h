@@ -10,8 +10,8 @@
 #include <string_view>
 #include <vector>
 
+#include "app/bytes.h"
 #include "app/path_text.h"
-#include "app/whole_file.h"
 
 namespace kelvo::support {
 

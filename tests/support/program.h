@@ -9,11 +9,11 @@
 
 #include "app/clock.h"
 #include "app/error_log.h"
+#include "app/long_work.h"
 #include "app/messages.h"
 #include "app/path_text.h"
 #include "app/program_folders.h"
 #include "app/settings_store.h"
-#include "app/wait_pointer.h"
 #include "files/picture_files.h"
 #include "model/picture_views.h"
 #include "support/files.h"
@@ -93,12 +93,12 @@ class NoWaitPointer final : public app::WaitPointer {
 
 class PlannedDialogs final : public files::FileDialogs {
  public:
-  std::optional<files::ChosenFile> SelectFile(const std::string& folder) override {
-    folders.push_back(folder);
+  std::optional<files::ChosenFile> SelectFile(const std::filesystem::path& folder) override {
+    folders.push_back(app::TextFromPath(folder));
     return open;
   }
-  std::optional<std::string> SaveAs(const std::string& path) override {
-    proposals.push_back(path);
+  std::optional<std::filesystem::path> SaveAs(const std::filesystem::path& path) override {
+    proposals.push_back(app::TextFromPath(path));
     return save;
   }
   std::optional<files::ChosenFile> open;

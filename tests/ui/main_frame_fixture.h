@@ -6,17 +6,23 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
 #include <QMenu>
 #include <QMessageBox>
 #include <QMouseEvent>
+#include <QSpinBox>
 #include <QTest>
 #include <QTimer>
 
 #include "app/path_text.h"
+#include "model/pixel_colour.h"
 #include "support/program.h"
+#include "ui/desks/animation_desk.h"
+#include "ui/desks/build_desk.h"
+#include "ui/desks/painting_desk.h"
 #include "ui/main_frame.h"
 #include "ui/ports/qt_text.h"
 

@@ -169,9 +169,5 @@ TEST(SurfaceView, AlsoAtOddScales) {
   }
 }
 
-TEST(FileDialogs, FiltersTakeQtsForm) {
-  EXPECT_EQ(ToQtFilter("A (*.a;*.b)|*.a;*.b|C (*.c)|*.c"), "A (*.a *.b);;C (*.c)");
-}
-
 }  // namespace
 }  // namespace kelvo::ui

@@ -38,16 +38,16 @@ TEST(SettingsFile, WithGarbageOrWithoutAPlaceStillServesTheProgram) {
     support::WriteText(config / "Kelvo.conf", text);
     {
       QtSettings settings;
-      EXPECT_EQ(app::ReadNumber(settings, app::kMagnification, 4, 8), 4);
-      settings.Write(app::kMagnification, "8");
+      EXPECT_EQ(app::ReadNumber(settings, kMagnification, 4, 8), 4);
+      settings.Write(kMagnification, "8");
     }
-    EXPECT_EQ(QtSettings().Read(app::kMagnification), "8");
+    EXPECT_EQ(QtSettings().Read(kMagnification), "8");
   }
   remove_all(config);
   support::WriteText(config, "a file where the folder should be");
   QtSettings settings;
-  settings.Write(app::kGridColor, "3");
-  EXPECT_EQ(settings.Read(app::kGridColor), "3");
+  settings.Write(kGridColor, "3");
+  EXPECT_EQ(settings.Read(kGridColor), "3");
   QCoreApplication::setOrganizationName({});
   QCoreApplication::setApplicationName({});
 }

@@ -76,7 +76,7 @@ TEST_F(PromptTest, TypingNeverPaintsAndTheFocusIsGivenBack) {
   Type("q1f");
   QTest::keyClick(line, Qt::Key_Right);
   QTest::keyClick(line, Qt::Key_PageDown);
-  EXPECT_EQ(frame->Desk().Painting().ToolIndex(), 1);
+  EXPECT_EQ(frame->Desk().Painting().ChosenTool(), editing::ToolId::kDraw);
   EXPECT_EQ(ZoomOrigin(), QPoint(0, 0));
   EXPECT_TRUE(Find("swatch_1")->accessibleName().startsWith("left pen"));
   QTest::keyClick(line, Qt::Key_Escape);

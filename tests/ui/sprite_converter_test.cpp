@@ -5,6 +5,7 @@
 #include <QRadioButton>
 
 #include "main_frame_fixture.h"
+#include "ui/windows/frm_bmp2sprite_main.h"
 
 namespace kelvo::ui {
 namespace {

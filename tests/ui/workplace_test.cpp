@@ -121,7 +121,7 @@ TEST_F(WorkplaceTest, AKeyThatAMenuTookDoesNothingInTheWindow) {
   QTest::keyPress(menu, Qt::Key_F);
   EXPECT_FALSE(Action("mnuView_0")->isChecked());
   QTest::keyRelease(Box("frmZoom"), Qt::Key_F);
-  EXPECT_EQ(frame->Desk().Painting().ToolIndex(), 1);
+  EXPECT_EQ(frame->Desk().Painting().ChosenTool(), editing::ToolId::kDraw);
   menu->popup({});
   menu->setActiveAction(Action("mnuView_3"));
   QTest::keyPress(menu, Qt::Key_Return);

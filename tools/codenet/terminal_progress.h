@@ -1,7 +1,7 @@
 // Progress as one line that rewrites itself, where somebody watches: a user at a terminal, or Kelvo.
 #pragma once
 
-#include "app/progress.h"
+#include "app/long_work.h"
 
 namespace kelvo::codenet {
 

@@ -1,7 +1,6 @@
 #include "ui/desks/animation_desk.h"
 
 #include <QScopedValueRollback>
-#include <array>
 #include <utility>
 
 #include "anim/anim_settings.h"
@@ -10,13 +9,6 @@
 #include "ui/windows/window_places.h"
 
 namespace kelvo::ui {
-namespace {
-
-// What the buttons of the frame window do, in their order.
-constexpr std::array kMoves{&anim::FrameNavigation::Previous, &anim::FrameNavigation::Next,
-                            &anim::FrameNavigation::Back, &anim::FrameNavigation::First};
-
-}  // namespace
 
 AnimationDesk::AnimationDesk(const anim::AnimSurroundings& with, QMainWindow& frame, frmBMPView& full_view,
                              frmZoom& zoom)
@@ -51,13 +43,12 @@ void AnimationDesk::ShowFrameWindow() {
 
 void AnimationDesk::MakeFrameWindow() {
   frame_window_ = new frmAnim(&frame_);
-  const anim::FrameWindowPlace place = anim::ReadFrameWindowPlace(with_.settings);
-  PlaceFloating(*frame_window_, {place.left, place.top}, frame_);
+  PlaceFloating(*frame_window_, ReadFrameWindowPlace(with_.settings), frame_);
   frame_window_->SetPlayRate(anim::ReadPlayRate(with_.settings));
   frame_window_->SetOnionSkin(anim::ReadOnionSkin(with_.settings));
-  connect(frame_window_, &frmAnim::Clicked, this, [this](int button) {
+  connect(frame_window_, &frmAnim::MoveAsked, this, [this](anim::FrameMove move) {
     StopPlay();
-    Move([this, button] { return (navigation_.*kMoves.at(static_cast<std::size_t>(button)))(); });
+    Move([this, move] { return navigation_.Move(move); });
   });
   connect(frame_window_, &frmAnim::NumberTyped, this,
           [this](const QString& number) { Move([&] { return navigation_.GoTo(FromQt(number)); }); });
@@ -76,7 +67,8 @@ void AnimationDesk::MakeFrameWindow() {
     frame_window_->disconnect(this);  // until it is deleted it may be closed again
     std::exchange(frame_window_, nullptr)->deleteLater();
     zoom_.SetOnionSkin(std::nullopt);
-    mode_.FrameWindowUnloaded({at.x(), at.y()});
+    KeepFrameWindowPlace(with_.settings, at);
+    mode_.FrameWindowUnloaded();
   });
 }
 

@@ -44,7 +44,7 @@ void BuildDesk::Run(const c64out::CompoPicChoice& choice) {
 // Programs on one program folder build in the same work files. The picture may change while tools are at work: the
 // build has its own copy.
 c64out::BuildResult BuildDesk::BuildAlone(const c64out::CompoPicChoice& choice) {
-  QLockFile lock(ToQt(app::TextFromPath(with_.folders.System() / "build.lock")));
+  QLockFile lock(QtFromPath(with_.folders.System() / "build.lock"));
   lock.setStaleLockTime(0);
   if (!lock.tryLock(0) && lock.error() == QLockFile::LockFailedError) {
     with_.prompt.CommandPromptList("--> Another Kelvo is building in the same program folder.");

@@ -4,11 +4,10 @@
 #include <array>
 #include <utility>
 
-#include "editing/pen_keys.h"
+#include "editing/pens.h"
 #include "model/pixel_place.h"
 #include "optimise/background_colour.h"
 #include "optimise/eor_vectors.h"
-#include "ui/ports/display_frame.h"
 
 namespace kelvo::ui {
 namespace {
@@ -112,15 +111,15 @@ void PaintingDesk::ShowPointer() {
 }
 
 void PaintingDesk::ActionDone() {
-  windows_.toolbar.ShowTool(painting_.ToolIndex());
+  windows_.toolbar.ShowTool(painting_.ChosenTool());
   windows_.toolbar.ShowCopy(painting_.CopyBuffer(), document_.picture.BackgroundColour);
   ShowPreview(pointer_);
   ShowPointer();
   emit StateChanged();
 }
 
-void PaintingDesk::ChooseTool(int index) {
-  painting_.ChooseTool(index);
+void PaintingDesk::ChooseTool(editing::ToolId tool) {
+  painting_.ChooseTool(tool);
   ActionDone();
 }
 
@@ -150,7 +149,7 @@ bool PaintingDesk::HandleKeyUp(int key, Qt::KeyboardModifiers modifiers) {
   const auto tools = editing::ToolTable();
   const auto tool = std::find_if(tools.begin(), tools.end(), [letter](const auto& row) { return row.key == letter; });
   if (tool == tools.end()) return false;
-  ChooseTool(static_cast<int>(tool - tools.begin()) + 1);
+  ChooseTool(tool->id);
   return true;
 }
 
@@ -173,21 +172,22 @@ void PaintingDesk::SetRightPen(model::C64Colour colour) {
 }
 
 // A pass comes to a thousand cells within a display frame: the window is moved along only where one can see it.
-void PaintingDesk::ShowCell(int cell) {
+void PaintingDesk::ShowCellOfPass(int cell) {
   const bool is_last = cell == model::PictureImage::kCells;
-  if (pointer_pause_.isActive() && !is_last) return;
+  if (!pass_.IsOver() && !is_last) return;
   windows_.colors.ShowCell(model::ColoursOfCell(document_.picture, cell));
-  pointer_pause_.start();
+  pass_.Restart();
 }
 
 void PaintingDesk::OptimizeBackgroundColor() {
-  optimise::OptimizeBackgroundColor(document_.picture, windows_.full_view.Progress(), *this);
+  optimise::OptimizeBackgroundColor(document_.picture, windows_.full_view.Progress(),
+                                    [this](int cell) { ShowCellOfPass(cell); });
   windows_.char_data.Show(model::LookUpPixel(pointer_.x, pointer_.y));
   views_.PictureChanged();
 }
 
 void PaintingDesk::OptimizeForEORVector() {
-  optimise::OptimizeForEORVector(messages_, windows_.full_view.Progress(), *this);
+  optimise::OptimizeForEORVector(messages_, windows_.full_view.Progress(), [this](int cell) { ShowCellOfPass(cell); });
 }
 
 void PaintingDesk::PictureReplaced() {

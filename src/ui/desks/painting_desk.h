@@ -7,7 +7,7 @@
 
 #include "editing/painting.h"
 #include "files/document.h"
-#include "optimise/cell_sweep.h"
+#include "ui/ports/display_frame.h"
 #include "ui/widgets/paint_tool_bar.h"
 #include "ui/windows/frm_bmp_view.h"
 #include "ui/windows/frm_char_data.h"
@@ -26,14 +26,14 @@ struct PaintingWindows {
   PaintToolBar& toolbar;
 };
 
-class PaintingDesk : public QObject, private optimise::CellDisplay {
+class PaintingDesk : public QObject {
   Q_OBJECT
 
  public:
   PaintingDesk(files::Document& document, const editing::PaintingPorts& ports, const PaintingWindows& windows);
 
   const editing::Painting& Painting() const { return painting_; }
-  void ChooseTool(int index);  // 1..7
+  void ChooseTool(editing::ToolId tool);
   void Undo();
   void Tick();
 
@@ -73,7 +73,7 @@ class PaintingDesk : public QObject, private optimise::CellDisplay {
   void SetRightPen(model::C64Colour colour);
   bool MoveZoomArea(int key, Qt::KeyboardModifiers modifiers);
   void ActionDone();
-  void ShowCell(int cell) override;
+  void ShowCellOfPass(int cell);
 
   files::Document& document_;
   PaintingWindows windows_;
@@ -83,6 +83,7 @@ class PaintingDesk : public QObject, private optimise::CellDisplay {
   app::Messages& messages_;
   model::PictureViews& views_;
   QTimer pointer_pause_;  // runs for a display frame after the pointer was shown
+  DisplayFrame pass_;     // since a whole-picture pass showed a cell
 };
 
 }  // namespace kelvo::ui

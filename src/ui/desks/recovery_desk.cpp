@@ -5,7 +5,7 @@
 
 #include "app/other_folder.h"
 #include "app/path_text.h"
-#include "files/rescue_copy.h"
+#include "files/recovery_copy.h"
 #include "ui/ports/qt_text.h"
 
 namespace kelvo::ui {

@@ -1,16 +1,11 @@
 #include "ui/ports/event_pump.h"
 
-#include <QCoreApplication>
-
-#include "ui/ports/display_frame.h"
-
 namespace kelvo::ui {
 
 void EventPump::Process() {
-  if (since_paint_.elapsed() < kDisplayFrameMilliseconds) return;
+  if (!shown_.IsOver()) return;
   pointer_.Appear();
-  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-  since_paint_.restart();
+  shown_.Paint();
 }
 
 }  // namespace kelvo::ui

@@ -1,22 +1,17 @@
 #include "ui/ports/frame_progress.h"
 
-#include <QCoreApplication>
-
-#include "ui/ports/display_frame.h"
-
 namespace kelvo::ui {
 
 void FrameProgress::Begin(int last) {
   bar_.setRange(0, last);
-  since_paint_.start();
+  shown_.Restart();
 }
 
 void FrameProgress::Advance(int value) {
-  if (since_paint_.elapsed() < kDisplayFrameMilliseconds) return;
+  if (!shown_.IsOver()) return;
   bar_.setValue(value);
   bar_.show();
-  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-  since_paint_.restart();
+  shown_.Paint();
 }
 
 void FrameProgress::End() {

@@ -1,10 +1,10 @@
 // Progress that costs nothing until there is something to see.
 #pragma once
 
-#include <QElapsedTimer>
 #include <QProgressBar>
 
-#include "app/progress.h"
+#include "app/long_work.h"
+#include "ui/ports/display_frame.h"
 
 namespace kelvo::ui {
 
@@ -20,7 +20,7 @@ class FrameProgress final : public app::Progress {
 
  private:
   QProgressBar& bar_;
-  QElapsedTimer since_paint_;
+  DisplayFrame shown_;
 };
 
 }  // namespace kelvo::ui

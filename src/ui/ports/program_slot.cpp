@@ -11,7 +11,7 @@ namespace {
 
 std::unique_ptr<QLockFile> LockOf(const std::filesystem::path& folder, int number) {
   const std::string name = "running_" + std::to_string(number) + ".lock";
-  auto lock = std::make_unique<QLockFile>(ToQt(app::TextFromPath(folder / name)));
+  auto lock = std::make_unique<QLockFile>(QtFromPath(folder / name));
   lock->setStaleLockTime(0);  // a lock is void only when its program is gone, however old it is
   return lock;
 }

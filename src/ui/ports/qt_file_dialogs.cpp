@@ -8,16 +8,19 @@
 #include "ui/ports/qt_text.h"
 
 namespace kelvo::ui {
+namespace {
 
-QString ToQtFilter(std::string_view filter) {
-  QStringList parts = ToQt(filter).split('|');
+QString FilterOf(const files::PictureFormat& format) {
+  return ToQt(format.caption) + " (" + ToQt(format.patterns) + ')';
+}
+
+QString OpenFilter() {
   QStringList filters;
-  for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
-    const QString caption = parts[i].section(" (", 0, 0);
-    filters << caption + " (" + parts[i + 1].replace(';', ' ') + ')';
-  }
+  for (const files::PictureFormat& format : files::OfferedFormats()) filters << FilterOf(format);
   return filters.join(";;");
 }
+
+}  // namespace
 
 QString StillThere(const QString& path) {
   QFileInfo place(path.endsWith(':') ? path + '/' : path);  // a drive, and not the folder last used on it
@@ -25,23 +28,23 @@ QString StillThere(const QString& path) {
   return place.exists() ? place.absoluteFilePath() : QDir::homePath();
 }
 
-std::optional<files::ChosenFile> QtFileDialogs::SelectFile(const std::string& folder) {
-  QFileDialog dialog(parent_, "Select file", StillThere(ToQt(folder)), ToQtFilter(files::OpenFilter()));
+std::optional<files::ChosenFile> QtFileDialogs::SelectFile(const std::filesystem::path& folder) {
+  QFileDialog dialog(parent_, "Select file", StillThere(QtFromPath(folder)), OpenFilter());
   dialog.setFileMode(QFileDialog::ExistingFile);
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
   const auto filter = dialog.nameFilters().indexOf(dialog.selectedNameFilter());
-  return files::ChosenFile{FromQt(NativePath(dialog.selectedFiles().first())), static_cast<int>(filter) + 1};
+  return files::ChosenFile{PathFromQt(dialog.selectedFiles().first()), static_cast<int>(filter) + 1};
 }
 
-std::optional<std::string> QtFileDialogs::SaveAs(const std::string& path) {
-  QFileDialog dialog(parent_, "Save Kelvo-file", {}, ToQtFilter("Kelvo-files (*.kvp)|*.kvp"));
+std::optional<std::filesystem::path> QtFileDialogs::SaveAs(const std::filesystem::path& path) {
+  QFileDialog dialog(parent_, "Save Kelvo-file", {}, "Kelvo-files (*.kvp)");
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setDefaultSuffix("kvp");
-  const QFileInfo proposal(ToQt(path));
+  const QFileInfo proposal(QtFromPath(path));
   dialog.setDirectory(StillThere(proposal.absolutePath()));
   dialog.selectFile(proposal.completeBaseName() + ".kvp");
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
-  return FromQt(NativePath(dialog.selectedFiles().first()));
+  return PathFromQt(dialog.selectedFiles().first());
 }
 
 }  // namespace kelvo::ui

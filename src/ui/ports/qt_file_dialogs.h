@@ -9,9 +9,6 @@
 
 namespace kelvo::ui {
 
-// "Caption|*.a;*.b|Caption|*.c" as Qt's "Caption (*.a *.b);;Caption (*.c)".
-QString ToQtFilter(std::string_view filter);
-
 // Where a dialog begins for a stored `path`: there, or in the nearest folder above it that still exists; without a path
 // in the user's folder.
 QString StillThere(const QString& path);
@@ -20,8 +17,8 @@ class QtFileDialogs final : public files::FileDialogs {
  public:
   explicit QtFileDialogs(QWidget* parent) : parent_(parent) {}
 
-  std::optional<files::ChosenFile> SelectFile(const std::string& folder) override;
-  std::optional<std::string> SaveAs(const std::string& path) override;
+  std::optional<files::ChosenFile> SelectFile(const std::filesystem::path& folder) override;
+  std::optional<std::filesystem::path> SaveAs(const std::filesystem::path& path) override;
 
  private:
   QPointer<QWidget> parent_;

@@ -1,7 +1,7 @@
 // The hourglass.
 #pragma once
 
-#include "app/wait_pointer.h"
+#include "app/long_work.h"
 
 namespace kelvo::ui {
 

@@ -1,6 +1,5 @@
 #include "ui/widgets/paint_tool_bar.h"
 
-#include "editing/painting.h"
 #include "model/cell_view.h"
 #include "ui/ports/qt_text.h"
 #include "ui/widgets/icons.h"
@@ -19,16 +18,14 @@ PaintToolBar::PaintToolBar(QWidget* parent)
       picCopy_(new SurfaceView(copy_, kSmallestBox, this)) {
   setObjectName("Toolbar1");
   setIconSize({24, 24});
-  int index = 0;
   for (const editing::ToolRow& row : editing::ToolTable()) {
-    ++index;
     QAction* action = addAction(IconNamed(ToQt(row.name)), ToQt(row.caption));
     action->setObjectName("tool_" + ToQt(row.name));
     action->setCheckable(true);
     action->setToolTip(QString("%1 (%2)").arg(ToQt(row.caption)).arg(QChar(row.key)));
     action->setStatusTip(action->toolTip());
     tools_->addAction(action);
-    connect(action, &QAction::triggered, this, [this, index] { emit ToolChosen(index); });
+    connect(action, &QAction::triggered, this, [this, id = row.id] { emit ToolChosen(id); });
   }
   addSeparator();
   picCopy_->setObjectName("picCopy");
@@ -36,11 +33,11 @@ PaintToolBar::PaintToolBar(QWidget* parent)
   picCopy_->setAccessibleName("Copied cell");
   picCopy_->setToolTip("The cell that Mouse copy puts down: right button takes, left button puts");
   addWidget(picCopy_);
-  ShowTool(editing::kDrawToolIndex);
+  ShowTool(editing::ToolId::kDraw);
 }
 
-void PaintToolBar::ShowTool(int index) {
-  tools_->actions().at(index - 1)->setChecked(true);
+void PaintToolBar::ShowTool(editing::ToolId tool) {
+  tools_->actions().at(static_cast<int>(tool))->setChecked(true);
 }
 
 void PaintToolBar::ShowCopy(const model::DetachedCell& cell, model::C64Colour background) {

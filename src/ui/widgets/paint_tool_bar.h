@@ -4,6 +4,7 @@
 #include <QActionGroup>
 #include <QToolBar>
 
+#include "editing/tool_table.h"
 #include "model/pixel_colour.h"
 #include "model/surface.h"
 #include "ui/widgets/surface_view.h"
@@ -16,11 +17,11 @@ class PaintToolBar : public QToolBar {
  public:
   explicit PaintToolBar(QWidget* parent);
 
-  void ShowTool(int index);  // 1..7
+  void ShowTool(editing::ToolId tool);
   void ShowCopy(const model::DetachedCell& cell, model::C64Colour background);
 
  signals:
-  void ToolChosen(int index);  // 1..7
+  void ToolChosen(editing::ToolId tool);
 
  private:
   QActionGroup* tools_;

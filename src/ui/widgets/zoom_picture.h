@@ -1,7 +1,7 @@
 // The picture box of the zoom window, with the shape under way drawn over the picture.
 #pragma once
 
-#include "editing/line.h"
+#include "editing/shapes.h"
 #include "model/c64_colour.h"
 #include "model/zoom_area.h"
 #include "ui/widgets/surface_view.h"

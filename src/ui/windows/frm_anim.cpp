@@ -11,16 +11,17 @@ namespace kelvo::ui {
 namespace {
 
 struct ButtonRow {
+  anim::FrameMove move;
   const char* caption;
   const char* tip;
 };
 
 // "Previous" stands twice: the second one leads back to the frame that was shown before.
 constexpr std::array<ButtonRow, 4> kButtons{{
-    {"Previous", "The frame before this one"},
-    {"Next", "The frame after this one; behind the last it offers to make one"},
-    {"Previous", "Back to the frame that was shown before"},
-    {"First", "The first frame"},
+    {anim::FrameMove::kPrevious, "Previous", "The frame before this one"},
+    {anim::FrameMove::kNext, "Next", "The frame after this one; behind the last it offers to make one"},
+    {anim::FrameMove::kBack, "Previous", "Back to the frame that was shown before"},
+    {anim::FrameMove::kFirst, "First", "The first frame"},
 }};
 
 QWidget* Row(QWidget* parent, std::initializer_list<QWidget*> widgets) {
@@ -64,7 +65,7 @@ QWidget* frmAnim::MakeButtons() {
     button->setAccessibleDescription(kButtons[i].tip);
     button->setAutoDefault(false);
     row->addWidget(button);
-    connect(button, &QPushButton::clicked, this, [this, i] { emit Clicked(static_cast<int>(i)); });
+    connect(button, &QPushButton::clicked, this, [this, move = kButtons[i].move] { emit MoveAsked(move); });
   }
   return box;
 }

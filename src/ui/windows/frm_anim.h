@@ -9,6 +9,8 @@
 #include <QSpinBox>
 #include <QWidget>
 
+#include "anim/frame_navigation.h"
+
 namespace kelvo::ui {
 
 class frmAnim : public QWidget {
@@ -25,7 +27,7 @@ class frmAnim : public QWidget {
   int PlayRate() const { return rate_->value(); }
 
  signals:
-  void Clicked(int button);  // 0..3: Previous, Next, the Previous that leads back, First
+  void MoveAsked(anim::FrameMove move);
   void NumberTyped(const QString& number);
   void PlayAsked();
   void PlayRateChanged(int rate);

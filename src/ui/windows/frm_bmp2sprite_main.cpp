@@ -159,7 +159,7 @@ void frmBMP2SpriteMain::AskForSource() {
 
 void frmBMP2SpriteMain::OpenSource(const QString& path) {
   try {
-    ShowPicture(sprites::LoadSpriteSource(FromQt(path)));
+    ShowPicture(sprites::LoadSpriteSource(PathFromQt(path)));
   } catch (const std::runtime_error& error) {
     QtMessages(this).Inform(error.what());
   }

@@ -4,7 +4,8 @@
 #include <QWidget>
 #include <optional>
 
-#include "editing/line.h"
+#include "app/settings_store.h"
+#include "editing/shapes.h"
 #include "model/picture_image.h"
 #include "model/surface.h"
 #include "model/zoom_area.h"
@@ -13,6 +14,9 @@
 #include "ui/widgets/zoom_picture.h"
 
 namespace kelvo::ui {
+
+inline constexpr app::Setting kMagnification{"Settings", "Magnification", "4"};
+inline constexpr app::Setting kGridColor{"Settings", "GridColor", "9"};
 
 class frmZoom : public QWidget {
   Q_OBJECT

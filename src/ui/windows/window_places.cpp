@@ -14,6 +14,9 @@
 namespace kelvo::ui {
 namespace {
 
+constexpr app::Setting kFrmAnimLeftPos{"Settings", "frmAnimLeftPos", "0"};
+constexpr app::Setting kFrmAnimTopPos{"Settings", "frmAnimTopPos", "0"};
+
 // As much of a window as a hand needs to take hold of it.
 constexpr int kGrip = 40;
 
@@ -122,6 +125,18 @@ void RestorePlaces(const app::SettingsStore& settings, QMainWindow& frame, std::
     if (CanBeTaken(place, QRect(QPoint(), frame.size()))) child.window->move(place.topLeft());
     child.window->setVisible((*numbers)[2] == 1);
   }
+}
+
+QPoint ReadFrameWindowPlace(const app::SettingsStore& settings) {
+  const auto read = [&](const app::Setting& setting) {
+    return app::ReadNumber(settings, setting, std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
+  };
+  return {read(kFrmAnimLeftPos), read(kFrmAnimTopPos)};
+}
+
+void KeepFrameWindowPlace(app::SettingsStore& settings, QPoint place) {
+  settings.Write(kFrmAnimLeftPos, std::to_string(place.x()));
+  settings.Write(kFrmAnimTopPos, std::to_string(place.y()));
 }
 
 }  // namespace kelvo::ui

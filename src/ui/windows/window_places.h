@@ -27,6 +27,10 @@ void PlaceFloating(QWidget& window, QPoint place, const QWidget& frame);
 // Puts such a window into the lower right corner of `frame`, where it hides neither menus nor tools.
 void ArrangeFloating(QWidget& window, const QWidget& frame);
 
+// Where the content of the frame window begins on the display, as it was kept. What is stored may be out of reach.
+QPoint ReadFrameWindowPlace(const app::SettingsStore& settings);
+void KeepFrameWindowPlace(app::SettingsStore& settings, QPoint place);
+
 // Stores the places of the main window, its toolbar and the child windows.
 void KeepPlaces(app::SettingsStore& settings, const QMainWindow& frame, std::span<const ChildPlace> children);
 

@@ -1,4 +1,4 @@
-#include "editing/pen_keys.h"
+#include "editing/pens.h"
 
 #include <string_view>
 

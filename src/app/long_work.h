@@ -1,8 +1,9 @@
-// The port through which long work shows how far it is.
+// The ports of long work: how far it is, the windows that paint meanwhile, and the hourglass.
 #pragma once
 
 namespace kelvo::app {
 
+// Shows how far work is.
 class Progress {
  public:
   virtual ~Progress() = default;
@@ -29,6 +30,34 @@ class ProgressScope {
 
  private:
   Progress& progress_;
+};
+
+// Lets the windows paint.
+class ProcessEvents {
+ public:
+  virtual ~ProcessEvents() = default;
+  // Cheap enough to be called often. User input stays waiting.
+  virtual void Process() = 0;
+};
+
+// The pointer while the program is busy.
+class WaitPointer {
+ public:
+  virtual ~WaitPointer() = default;
+  virtual void Show() = 0;
+  virtual void Hide() = 0;
+};
+
+// Shows the hourglass for as long as it lives.
+class WaitScope {
+ public:
+  explicit WaitScope(WaitPointer& pointer) : pointer_(pointer) { pointer_.Show(); }
+  ~WaitScope() { pointer_.Hide(); }
+  WaitScope(const WaitScope&) = delete;
+  WaitScope& operator=(const WaitScope&) = delete;
+
+ private:
+  WaitPointer& pointer_;
 };
 
 }  // namespace kelvo::app
