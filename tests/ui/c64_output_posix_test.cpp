@@ -11,8 +11,6 @@
 #include "support/run_tool.h"
 #include "support/shown_picture.h"
 
-#ifndef _WIN32
-
 namespace kelvo::ui {
 namespace {
 
@@ -269,5 +267,3 @@ TEST_F(C64OutputTest, TheSettingsDecideWhatCanBeChosen) {
 
 }  // namespace
 }  // namespace kelvo::ui
-
-#endif
