@@ -71,7 +71,7 @@ struct Scene : support::Program {
     settings.Write(files::kFilePath, "/pictures");
     document.picture = support::RandomPicture(5);
     document.picture.BackgroundColour = *model::C64Colour::FromNumber(11);
-    document.file = files::SetFileParameters(app::TextFromPath(folder / "art/My Pic.koa"));
+    document.file = files::SetFileParameters(folder / "art/My Pic.koa");
   }
 
   bool Build(const CompoPicChoice& choice) {
@@ -114,7 +114,7 @@ TEST_F(BuildCompoPicTest, MakesAPrgBesideThePicture) {
   EXPECT_TRUE(document.HasUnsavedWork());
   EXPECT_EQ(settings.Read(files::kFilePath), "/pictures");
   EXPECT_TRUE(messages.shown.empty());
-  document.file = files::SetFileParameters(app::TextFromPath(folder / "art/no dot"));
+  document.file = files::SetFileParameters(folder / "art/no dot");
   EXPECT_TRUE(Build(kPrg));
   EXPECT_EQ(support::NamesIn(folder / "art"), (Lines{".prg", "My Pic.prg"}));
 }
@@ -125,8 +125,9 @@ TEST_F(BuildCompoPicTest, MakesADiskAndShowsIt) {
   EXPECT_EQ(prompt.lines, (Lines{"CREATING D64", "--> Compiling source", "--> Crushing source", "--> Adding depacker",
                                  "--> D64 complete.", "--> Launching VICE."}));
   ASSERT_EQ(tools.commands.size(), 5U);
-  EXPECT_EQ(tools.commands[3], "c1541 My Pic.d64 -write bmpshow.prg a.name.of.twenty.prg");
-  EXPECT_EQ(tools.commands[4], "x64sc -autostart My Pic.d64:a.name.of.twenty.prg");
+  const std::string image = app::FileNamePart(ShortPath(folder / "art/My Pic.d64"));
+  EXPECT_EQ(tools.commands[3], "c1541 " + image + " -write bmpshow.prg a.name.of.twenty.prg");
+  EXPECT_EQ(tools.commands[4], "x64sc -autostart " + image + ":a.name.of.twenty.prg");
   EXPECT_EQ(support::NamesIn(folder / "art"), (Lines{"My Pic.d64"}));
   EXPECT_EQ(support::NamesIn(folders.System()), CleanSystem());
 }
@@ -193,9 +194,7 @@ Break Fails(const char* tool, const ToolResult& result) {
 }
 
 Break Named(const char* picture) {
-  return [picture](Scene& scene) {
-    scene.document.file = files::SetFileParameters(app::TextFromPath(scene.folder / "art" / picture));
-  };
+  return [picture](Scene& scene) { scene.document.file = files::SetFileParameters(scene.folder / "art" / picture); };
 }
 
 TEST(BuildCompoPic, TellsWhateverFailsAndLeavesTheOlderResult) {
@@ -216,7 +215,7 @@ TEST(BuildCompoPic, TellsWhateverFailsAndLeavesTheOlderResult) {
            Case{kPrg, no_folder, "My Pic.prg"},
            Case{kD64, Without("empty.d64"), "empty.d64"},
            Case{kD64, Fails("c1541", {.failure = "killed"}), "c1541: killed"},
-           Case{kD64, Named("a:b.kvp"), "c1541: "},  // a name that disks cannot hold
+           Case{kD64, Named("a,b.kvp"), "c1541: "},  // a name that disks cannot hold
            Case{kD64, Named("-format.kvp"), "c1541: "},
            Case{kVice, Fails("x64sc", {.failure = "no ROMs"}), "x64sc: no ROMs"},
            Case{kPreview, Fails("codenet", {.failure = "nobody answers"}), "codenet: nobody answers"},

@@ -2,7 +2,6 @@
 // processes that behave and misbehave.
 #include <QCoreApplication>
 #include <QLockFile>
-#include <QProcess>
 #include <QScreen>
 #include <QSettings>
 #include <optional>
@@ -14,8 +13,6 @@
 #include "ui/desks/recovery_desk.h"
 #include "ui/ports/program_slot.h"
 #include "ui/ports/qt_settings.h"
-#include "ui/ports/qt_tool_runner.h"
-#include "ui/ports/sudden_end.h"
 
 namespace kelvo::ui {
 namespace {
@@ -196,32 +193,6 @@ TEST_F(RecoveryDeskTest, WithoutANumberNothingOfOthersIsTouched) {
   EXPECT_TRUE(messages.shown.empty());
   EXPECT_TRUE(files::RecoveryFiles(folders.Backup(), 1).Read());
 }
-
-TEST_F(ToolRunnerTest, AToolIsEndedBeforeTheProgramIs) {
-  QTimer::singleShot(0, [&] {
-    EXPECT_TRUE(IsThereSoon("started"));
-    runner.EndNow();
-    const pid_t process = std::stoi(support::ReadText(folder / "started"));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return ::kill(process, 0) != 0; }));
-  });
-  runner.RunAndWait(Tool("printf $$ > pid; mv pid started; exec sleep 60"));
-}
-
-TEST_F(ToolRunnerTest, WhatIsLeftRunningGoesOn) {
-  EXPECT_EQ(FailureOf("(while [ ! -e go ]; do sleep 0.05; done; touch done) & echo ready"), "");
-  EXPECT_FALSE(exists(folder / "done"));
-  support::WriteText(folder / "go", "");
-  EXPECT_TRUE(IsThereSoon("done"));
-
-  StopOnceStarted();  // a program that is looked at outlives the wait
-  const auto shown = runner.ShowAndWait(Tool("touch started; sleep 1; echo still here; touch survived"));
-  EXPECT_FALSE(shown.stopped);
-  EXPECT_EQ(shown.failure, "");
-  EXPECT_FALSE(exists(folder / "survived"));
-  EXPECT_TRUE(IsThereSoon("survived"));
-}
-
-#endif
 
 }  // namespace
 }  // namespace kelvo::ui

@@ -1,9 +1,16 @@
-// Signals that the program listens to, and those that it leaves alone.
+// Signals to the program, and tools that are shell scripts.
 #include <gtest/gtest.h>
 
+#include <QCoreApplication>
+#include <QProcess>
 #include <QTest>
+#include <QTimer>
 #include <csignal>
 
+#include "app/path_text.h"
+#include "support/files.h"
+#include "ui/ports/qt_text.h"
+#include "ui/ports/qt_tool_runner.h"
 #include "ui/ports/sudden_end.h"
 
 namespace kelvo::ui {
@@ -97,6 +104,31 @@ TEST_F(ToolRunnerTest, AToolEndsWithAProgramThatIsKilled) {
   program.kill();
   QTest::qWait(1500);
   EXPECT_FALSE(exists(folder / "survived"));
+}
+#endif
+
+TEST_F(ToolRunnerTest, AToolIsEndedBeforeTheProgramIs) {
+  QTimer::singleShot(0, [&] {
+    EXPECT_TRUE(IsThereSoon("started"));
+    runner.EndNow();
+    const pid_t process = std::stoi(support::ReadText(folder / "started"));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return ::kill(process, 0) != 0; }));
+  });
+  runner.RunAndWait(Tool("printf $$ > pid; mv pid started; exec sleep 60"));
+}
+
+TEST_F(ToolRunnerTest, WhatIsLeftRunningGoesOn) {
+  EXPECT_EQ(FailureOf("(while [ ! -e go ]; do sleep 0.05; done; touch done) & echo ready"), "");
+  EXPECT_FALSE(exists(folder / "done"));
+  support::WriteText(folder / "go", "");
+  EXPECT_TRUE(IsThereSoon("done"));
+
+  StopOnceStarted();  // a program that is looked at outlives the wait
+  const auto shown = runner.ShowAndWait(Tool("touch started; sleep 1; echo still here; touch survived"));
+  EXPECT_FALSE(shown.stopped);
+  EXPECT_EQ(shown.failure, "");
+  EXPECT_FALSE(exists(folder / "survived"));
+  EXPECT_TRUE(IsThereSoon("survived"));
 }
 
 }  // namespace
