@@ -41,10 +41,11 @@ bool IsDevice(const fs::path& file) {
   return full.starts_with(L"\\\\.\\");
 }
 
-// The file whose place is taken hands on its rights, and whether it is hidden.
-void KeepRights(const fs::path& temporary, const fs::path& old) {
+// The file whose place is taken hands on its rights, and whether it is hidden. One that is read-only keeps its place.
+std::error_code KeepRights(const fs::path& temporary, const fs::path& old) {
   const DWORD attributes = GetFileAttributesW(old.c_str());
-  if (attributes == INVALID_FILE_ATTRIBUTES) return;
+  if (attributes == INVALID_FILE_ATTRIBUTES) return {};
+  if ((attributes & FILE_ATTRIBUTE_READONLY) != 0) return CodeOf(ERROR_ACCESS_DENIED);
   DWORD size = 0;
   GetFileSecurityW(old.c_str(), DACL_SECURITY_INFORMATION, nullptr, 0, &size);
   std::string rights(size, '\0');
@@ -52,6 +53,7 @@ void KeepRights(const fs::path& temporary, const fs::path& old) {
     SetFileSecurityW(temporary.c_str(), DACL_SECURITY_INFORMATION, rights.data());
   }
   SetFileAttributesW(temporary.c_str(), attributes & (FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM));
+  return {};
 }
 
 // The system says no more than "denied" for a file that another program has open.
@@ -92,7 +94,7 @@ std::error_code PlaceFile(const fs::path& target, std::span<const std::uint8_t> 
   if (IsDevice(target)) return CodeOf(ERROR_INVALID_NAME);
   const fs::path temporary = TemporaryName(FolderOf(target));
   std::error_code error = WriteNew(temporary, bytes, placing.flush);
-  if (!error && !placing.is_private) KeepRights(temporary, target);
+  if (!error && !placing.is_private) error = KeepRights(temporary, target);
   if (!error) error = Rename(temporary, target, placing);
   if (error) DeleteFileW(temporary.c_str());
   return error;

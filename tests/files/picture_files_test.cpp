@@ -193,7 +193,7 @@ TEST_F(PictureFilesTest, NamesAsLongAsTheyMayBeAreKeptShorter) {
   std::string name;
   while (name.size() < 250) name += "\u00e4";
   name += "b.kvp";
-  const std::string path = Text(name);
+  const fs::path path = folder / app::PathFromText(name);
   ASSERT_TRUE(files.SaveTo(path));
   document.picture.Bitmap[9] = 1;
   ASSERT_TRUE(files.Save());

@@ -220,7 +220,7 @@ TEST_F(WorkplaceTest, DialogsBeginNearAFolderThatIsGone) {
       dialog.reject();
     });
     open();
-    EXPECT_EQ(begin, ToQt(app::TextFromPath(folder.Path()))) << what;
+    EXPECT_EQ(NativePath(begin), QtFromPath(folder.Path())) << what;
   };
   for (const char* entry : {"mnuLoad", "mnuSaveAs"}) begins_near(entry, [&] { Action(entry)->trigger(); });
   Action("mnuCodenetGUI")->trigger();
