@@ -55,6 +55,29 @@ void CheckUnderstood(const CodenetForm& form) {
   }
 }
 
+// What is left of a line when each `word` is taken away.
+std::string Without(std::string line, const std::string& word) {
+  for (std::size_t at = 0; (at = line.find(word, at)) != std::string::npos;) line.erase(at, word.size());
+  return line;
+}
+
+// The interpreter finds nothing to act upon outside quotes, no end before the end, and one variable alone.
+void CheckSpeakable(std::string line) {
+  Require(line.find_first_of(std::string_view("\r\n\0", 3)) == std::string::npos, "the line does not end early");
+  line = Without(line, "%" + std::string(c64out::kPercentVariable) + "%");
+  Require(line.find('%') == std::string::npos, "no other variable is put in");
+  if (line.starts_with("/C \"")) {
+    Require(line.size() > 5 && line.back() == '"', "the whole is quoted");
+    line = line.substr(4, line.size() - 5);
+  }
+  bool is_quoted = false;
+  for (const char c : line) {
+    if (c == '"') is_quoted = !is_quoted;
+    Require(is_quoted || std::string_view("&|<>^").find(c) == std::string_view::npos, "nothing is acted upon");
+  }
+  Require(!is_quoted, "each quote ends");
+}
+
 void CheckAnyLine(Input& input) {
   std::vector<std::string> words;
   while (!input.IsEmpty()) words.push_back(input.Line());
@@ -69,9 +92,7 @@ void CheckAnyLine(Input& input) {
   if (words.empty()) return;
   const c64out::ToolCommand command{words.front(), {words.begin() + 1, words.end()}};
   try {
-    const std::string line = command.InterpreterArguments();
-    Require(line.find_first_of("&|<>^%\"\r\n") == std::string::npos, "the interpreter finds nothing to act upon");
-    Require(line.find('\0') == std::string::npos, "the line does not end early");
+    CheckSpeakable(command.InterpreterArguments());
   } catch (const std::runtime_error&) {
   }
 }

@@ -8,3 +8,6 @@ benchmark_packages=(libbenchmark-dev xvfb xauth openbox x11-utils)
 package_packages=(dpkg-dev file lintian appstream)
 check_packages=(clang-format clang-tidy cppcheck)
 fuzz_packages=(clang libclang-rt-14-dev)
+windows_packages=(g++-mingw-w64-x86-64-posix gcc g++ cmake ninja-build make dpkg-dev qt6-base-dev qt6-base-dev-tools
+  libgl-dev libqt6svg6 googletest icoutils nsis)
+wine_packages=(wine wine64 fonts-wine xvfb xauth openbox)

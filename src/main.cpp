@@ -4,12 +4,15 @@
 #include <QScopeGuard>
 #include <QStandardPaths>
 #include <algorithm>
+#include <cstdlib>
+#include <optional>
 #include <string_view>
 
 #include "app/path_text.h"
 #include "app/version.h"
 #include "ui/application.h"
 #include "ui/main_frame.h"
+#include "ui/ports/console.h"
 #include "ui/ports/qt_messages.h"
 #include "ui/ports/qt_settings.h"
 #include "ui/ports/qt_text.h"
@@ -33,12 +36,19 @@ bool OnlyAsks(int argc, char** argv) {
   });
 }
 
-void Parse(QCommandLineParser& parser, const QCoreApplication& application) {
+// The code that the program ends with, where its arguments only ask, or make no sense; else nothing.
+std::optional<int> Answer(QCommandLineParser& parser) {
+  using kelvo::ui::Print;
   parser.setApplicationDescription("Editor for Commodore 64 multicolor pictures.");
-  parser.addHelpOption();
-  parser.addVersionOption();
+  const QCommandLineOption help = parser.addHelpOption(), version = parser.addVersionOption();
   parser.addPositionalArgument("picture", "The picture to open (.kvp, .vid, .koa, .kla).", "[picture]");
-  parser.process(application);
+  if (!parser.parse(QCoreApplication::arguments())) {
+    Print("kelvo: " + parser.errorText() + '\n', kelvo::ui::Stream::kErrors);
+    return EXIT_FAILURE;
+  }
+  if (parser.isSet(help)) Print(parser.helpText());
+  if (parser.isSet(version)) Print("Kelvo " + QCoreApplication::applicationVersion() + '\n');
+  return parser.isSet(help) || parser.isSet(version) ? std::optional(EXIT_SUCCESS) : std::nullopt;
 }
 
 kelvo::app::ProgramFolders FindFolders() {
@@ -46,7 +56,7 @@ kelvo::app::ProgramFolders FindFolders() {
   const QString user = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/Kelvo";
   kelvo::app::ProgramFolders folders(kelvo::app::ChooseProgramFolder(PathFromQt(executable), PathFromQt(user)));
   folders.Create();
-  folders.Seed(PathFromQt(executable) / ".." / "share" / "kelvo");
+  folders.Seed(PathFromQt(executable) / KELVO_SHARE_FROM_PROGRAM);
   return folders;
 }
 
@@ -73,12 +83,11 @@ int main(int argc, char** argv) {
   QCommandLineParser parser;
   if (OnlyAsks(argc, argv)) {
     const QCoreApplication application(argc, argv);
-    Parse(parser, application);
-    return 0;
+    return Answer(parser).value_or(EXIT_SUCCESS);
   }
   QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
   kelvo::ui::KelvoApplication application(argc, argv);
-  Parse(parser, application);
+  if (const std::optional<int> code = Answer(parser)) return *code;
 
   const kelvo::app::ProgramFolders folders = FindFolders();
   kelvo::ui::QtSettings settings;

@@ -54,7 +54,7 @@ std::optional<int> FrameNames::NumberOfPath(const fs::path& path) const {
   const std::string text = app::TextFromPath(path), name = app::FileNamePart(text);
   const std::string folder = text.substr(0, text.size() - name.size());
   std::error_code ignored;
-  const bool here = folder == FolderText() || fs::equivalent(FolderOrHere(folder), Folder(), ignored);
+  const bool here = FolderOrHere(folder) == Folder() || fs::equivalent(FolderOrHere(folder), Folder(), ignored);
   return here ? NumberOf(name) : std::nullopt;
 }
 

@@ -44,10 +44,10 @@ bool IsPlainName(std::string_view name) {
 
 fs::path EntryOf(const fs::path& folder, std::string_view name) {
   fs::path exact = folder / PathFromText(name);
-  if (IsTaken(exact)) return exact;
   const std::string wanted = ToLower(name);
   fs::path found;
   for (const fs::path& entry : EntriesOf(folder)) {
+    if (entry.filename() == exact.filename()) return exact;
     if (ToLower(TextFromPath(entry.filename())) == wanted) found = std::max(found, entry);
   }
   return found.empty() ? exact : found;

@@ -15,15 +15,6 @@ constexpr std::string_view kSeparators = "/";
 
 }  // namespace
 
-std::filesystem::path PathFromText(std::string_view text) {
-  return {std::u8string(text.begin(), text.end())};
-}
-
-std::string TextFromPath(const std::filesystem::path& path) {
-  const std::u8string text = path.u8string();
-  return {text.begin(), text.end()};
-}
-
 std::string FolderPart(std::string_view path) {
   const auto separator = path.find_last_of(kSeparators);
   return std::string(separator == std::string_view::npos ? std::string_view() : path.substr(0, separator));

@@ -7,7 +7,8 @@
 
 namespace kelvo::app {
 
-// Path texts are UTF-8 everywhere in the program, whatever the platform's own encoding.
+// Path texts are UTF-8 everywhere in the program, whatever the platform's own encoding; those made of
+// paths have the platform's separators.
 std::filesystem::path PathFromText(std::string_view text);
 std::string TextFromPath(const std::filesystem::path& path);
 

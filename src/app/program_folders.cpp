@@ -82,7 +82,9 @@ void ProgramFolders::Seed(const fs::path& shipped) const {
 
 fs::path ChooseProgramFolder(const fs::path& executable_folder, const fs::path& user_folder) {
   std::error_code ignored;
-  if (fs::exists(executable_folder / ".." / "share" / "applications" / "kelvo.desktop", ignored)) return user_folder;
+  for (const char* told_by : {"../share/applications/kelvo.desktop", "share/kelvo/installed"}) {
+    if (fs::exists(executable_folder / told_by, ignored)) return user_folder;
+  }
   const ProgramFolders portable(executable_folder);
   for (const fs::path& folder : {portable.Root(), portable.System(), portable.Backup()}) {
     const bool is_missing = folder != portable.Root() && !fs::exists(folder, ignored);

@@ -40,8 +40,8 @@ class ProgramFolders {
 };
 
 // The folder of the executable where that can be written with what lies in it (a portable copy, a build folder), else
-// the user's own. An installed program, whose desktop file lies in ../share/applications, writes nothing beside itself,
-// not even for root.
+// the user's own. An installed program, which a desktop file in ../share/applications tells or, on Windows, the file
+// share/kelvo/installed, writes nothing beside itself, not even for root.
 std::filesystem::path ChooseProgramFolder(const std::filesystem::path& executable_folder,
                                           const std::filesystem::path& user_folder);
 

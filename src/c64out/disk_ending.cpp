@@ -16,11 +16,7 @@ namespace {
 
 constexpr std::size_t kNameCharacters = 16;
 
-#ifdef _WIN32
-constexpr std::string_view kNotInNames = ":,=*?\" ";  // a blank would end the argument
-#else
 constexpr std::string_view kNotInNames = ":,=*?\"";
-#endif
 
 // Refuses what c1541 takes for a command, and what a C64's disk system acts upon or cannot write.
 void RequireDiskName(const std::string& name) {

@@ -8,8 +8,7 @@
 namespace kelvo::c64out {
 
 // On Windows the 8.3 short form of an existing path; elsewhere the path itself. The empty text for a path that does not
-// exist. Throws std::runtime_error on Windows where the disk keeps no short forms and the path holds a blank or another
-// character that would end an argument.
+// exist. Where a disk of Windows keeps no short forms, it is the long one, with whatever blanks it holds.
 std::string ShortPath(const std::filesystem::path& path);
 
 // `path` with `from` at its end replaced by `to`: the name of a tool's output beside its input.

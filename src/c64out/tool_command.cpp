@@ -11,21 +11,37 @@ namespace {
 
 constexpr std::array<const char*, 2> kInterpreters{"c:\\winnt\\system32\\CMD.exe", "c:\\windows\\system32\\CMD.exe"};
 
-// Everything that the interpreter acts upon by itself, and the sign that ends a line early.
-constexpr std::string_view kSpecial("&|<>^%\"\r\n\0", 10);
+// What ends a word or means something, and what cannot be said at all.
+constexpr std::string_view kActedUpon = " \t,;=&|<>^%()@!'`+[]{}", kUnspeakable("\"\r\n\0", 4);
 
-void RequirePlain(const std::string& text) {
-  if (text.find_first_of(kSpecial) == std::string::npos) return;
-  throw std::runtime_error("\"" + text + "\" holds a character that cannot be given to a tool");
+bool HoldsOneOf(const std::string& word, std::string_view characters) {
+  return word.find_first_of(characters) != std::string::npos;
+}
+
+void RequireSpeakable(const std::string& word) {
+  if (!HoldsOneOf(word, kUnspeakable)) return;
+  throw std::runtime_error("\"" + word + "\" holds a character that cannot be given to a tool");
+}
+
+// A backslash before the last quote would take it away.
+std::string Quoted(const std::string& word) {
+  if (word.empty()) return word;
+  std::string quoted = "\"";
+  for (const char c : word) c == '%' ? quoted.append("%").append(kPercentVariable).append("%") : quoted += c;
+  return quoted + (word.back() == '\\' ? "\\\"" : "\"");
 }
 
 }  // namespace
 
 std::string ToolCommand::InterpreterArguments() const {
-  std::string line = "/C " + tool;
-  for (const std::string& argument : arguments) line += " " + argument;
-  RequirePlain(line);
-  return line;
+  std::vector<std::string> words{tool};
+  words.insert(words.end(), arguments.begin(), arguments.end());
+  std::for_each(words.begin(), words.end(), RequireSpeakable);
+  const bool quotes =
+      std::any_of(words.begin(), words.end(), [](const std::string& word) { return HoldsOneOf(word, kActedUpon); });
+  std::string line;
+  for (const std::string& word : words) line += " " + (quotes ? Quoted(word) : word);
+  return quotes ? "/C \"" + line.substr(1) + "\"" : "/C" + line;
 }
 
 std::string ToolCommand::WindowsCommandLine(const std::string& interpreter) const {

@@ -15,14 +15,18 @@ struct ToolCommand {
 
   bool operator==(const ToolCommand&) const = default;
 
-  // What the command interpreter of Windows is called with: "/C ", the tool, and each argument after a blank. Nothing
-  // is quoted, on purpose: paths come in their 8.3 form. Throws std::runtime_error where the tool or an argument holds
-  // a character that would make the interpreter run something else.
+  // What the command interpreter of Windows is called with: "/C ", the tool, and each argument after a blank. Paths in
+  // their 8.3 form need no more. Where a word holds something that the interpreter acts upon, each one is quoted, and
+  // so is the whole; a percent sign, which no quote protects, is told as kPercentVariable. An empty word is nothing.
+  // Throws std::runtime_error where a word holds a quote, a line end or a zero, which nothing protects.
   std::string InterpreterArguments() const;
 
   // The whole command line on Windows, given the interpreter's path.
   std::string WindowsCommandLine(const std::string& interpreter) const;
 };
+
+// What has the value "%" in the environment of the command interpreter.
+inline constexpr const char* kPercentVariable = "KELVO_PERCENT";
 
 // The command interpreter of Windows: the first of two fixed places that holds one.
 std::optional<std::string> FindCommandInterpreter();

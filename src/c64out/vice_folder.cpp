@@ -11,7 +11,7 @@ namespace {
 namespace fs = std::filesystem;
 
 #ifdef _WIN32
-constexpr std::array kEmulators{"x64.exe"};
+constexpr std::array kEmulators{"x64.exe", "x64sc.exe"};
 constexpr const char* kDiskTool = "c1541.exe";
 constexpr char kBetweenFolders = ';';
 #else

@@ -8,8 +8,8 @@
 
 namespace kelvo::c64out {
 
-// The emulator in `folder`, a path text as the user typed it, with or without a separator at its end: on Windows
-// x64.exe, elsewhere x64 or x64sc. An empty text stands for the current directory.
+// The emulator in `folder`, a path text as the user typed it, with or without a separator at its end: x64 or
+// x64sc, on Windows x64.exe or x64sc.exe. An empty text stands for the current directory.
 std::optional<std::filesystem::path> FindEmulator(std::string_view folder);
 
 // VICE's disk tool in `folder`, whether it is there or not.

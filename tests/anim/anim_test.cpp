@@ -10,6 +10,7 @@
 #include "anim/frame_player.h"
 #include "command/process_command.h"
 #include "files/picture_format.h"
+#include "support/platform.h"
 #include "support/program.h"
 
 namespace kelvo::anim {
@@ -256,6 +257,7 @@ TEST_F(FramesTest, FilesThatAreNoPicturesAreSkipped) {
 }
 
 TEST_F(FramesTest, OneFileCountsWhereSeveralDifferInCase) {
+  if (support::kIsWindows) GTEST_SKIP() << "case tells no files apart";
   WriteFrames({1, 3});
   for (const std::string number : {"1", "2", "3", "4"}) {
     for (const std::string start : {"a/ANIM000", "a/anim000"}) WriteFrame(folder / (start + number + ".kvp"), 50);

@@ -8,6 +8,7 @@
 #include "c64out/codenet_form.h"
 #include "codenet/arguments.h"
 #include "support/codenet_server.h"
+#include "support/platform.h"
 #include "support/program.h"
 #include "support/run_tool.h"
 
@@ -145,7 +146,6 @@ TEST(CodenetSettings, KeepEveryFormTrimmedAndTakeNonsenseForNone) {
             std::tuple(none.file_type, none.set_destination, none.execute));
 }
 
-#ifndef _WIN32
 class CodenetTool : public testing::Test {
  protected:
   // The tool with the options that say where the C64 is, and with `words` in front of them.
@@ -220,7 +220,9 @@ TEST_F(CodenetTool, TellsAtOnceWhenNothingListens) {
   const std::string free_port = std::to_string(support::CodenetServer().Port());
   const support::ToolRun run = support::RunTool(KELVO_CODENET, {"-n", "127.0.0.1", "-p", free_port, "-e", "$c000"});
   EXPECT_EQ(run.exit_code, 1);
-  EXPECT_NE(run.errors.find("nothing listens"), std::string::npos) << run.errors;
+  const bool is_told = run.errors.find("nothing listens") != std::string::npos;
+  EXPECT_TRUE(is_told || support::kIsWindows)
+      << run.errors;  // wine brings no refusal: there it is the time that runs out
 }
 
 TEST_F(CodenetTool, ReachesTheReceiverForDevelopersOverABadNetwork) {
@@ -240,6 +242,7 @@ TEST_F(CodenetTool, ReachesTheReceiverForDevelopersOverABadNetwork) {
 }
 
 TEST_F(CodenetTool, CanBeStoppedWhileItWaits) {
+  if (support::kIsWindows) GTEST_SKIP() << "there are no signals";
   const support::CodenetServer mute({.vanishes_after = 1});
   support::RunningTool tool(KELVO_CODENET, {"-n", "127.0.0.1", "-p", std::to_string(mute.Port()), "-w",
                                             File("two packets.prg", app::Bytes(200))});
@@ -249,7 +252,6 @@ TEST_F(CodenetTool, CanBeStoppedWhileItWaits) {
   EXPECT_EQ(run.exit_code, 1);
   EXPECT_NE(run.errors.find("stopped"), std::string::npos) << run.errors;
 }
-#endif
 
 }  // namespace
 }  // namespace kelvo::c64out

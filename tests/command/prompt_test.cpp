@@ -7,6 +7,7 @@
 #include "command/input_line.h"
 #include "command/number_reading.h"
 #include "command/process_command.h"
+#include "support/platform.h"
 #include "support/program.h"
 
 namespace kelvo::command {
@@ -48,7 +49,7 @@ TEST_F(ProcessCommandTest, RepliesExactly) {
       {"* [err 904]", {"ANIM MAYBE", "ANIM  ON"}},
       {"* [err 905]", {"@8", "@", "DEVICE 8", "DEVICES"}},
       {"* [err 906]", {"MD gfx", "MD " + long_word}},
-      {"* [err 907]", {"RD " + long_word}},
+      {support::kIsWindows ? "" : "* [err 907]", {"RD " + long_word}},  // there it is a name that nothing has
   };
   for (const auto& [reply, lines] : lines_by_reply) {
     for (const std::string& line : lines) {

@@ -94,7 +94,8 @@ TEST(Decrunch, RefusesWhatIsCutOff) {
 
 TEST(CrushTool, PacksUnpacksAndTellsWhatIsWrong) {
   const support::TempFolder folder;
-  const std::string input = folder / "some input", packed = folder / "packed", output = folder / "output";
+  const std::string input = (folder / "some input").string(), packed = (folder / "packed").string(),
+                    output = (folder / "output").string();
   const Bytes bytes = Patchwork(4000, 7);
   support::WriteFile(input, bytes);
   const auto crush = [](const std::vector<std::string>& arguments) { return support::RunTool(KELVO_CRUSH, arguments); };
@@ -103,7 +104,7 @@ TEST(CrushTool, PacksUnpacksAndTellsWhatIsWrong) {
   ASSERT_EQ(crush({"-d", packed, output}).exit_code, 0);
   EXPECT_EQ(support::ReadFile(output), bytes);
   EXPECT_EQ(crush({"-d", input, output}).exit_code, 1);
-  const support::ToolRun missing = crush({"6", folder / "none", output});
+  const support::ToolRun missing = crush({"6", (folder / "none").string(), output});
   EXPECT_EQ(missing.exit_code, 1);
   EXPECT_NE(missing.errors.find("none"), std::string::npos);
   EXPECT_EQ(support::ReadFile(output), bytes);

@@ -9,6 +9,7 @@
 #include "files/backup_index.h"
 #include "files/backups.h"
 #include "files/recovery_copy.h"
+#include "support/platform.h"
 #include "support/program.h"
 
 namespace kelvo::files {
@@ -160,6 +161,7 @@ TEST_F(PictureFilesTest, WhatASaveReplacesIsKept) {
 }
 
 TEST_F(PictureFilesTest, AFrameThatOnlyCaseTellsFromAnotherIsNotReplacedUnasked) {
+  if (support::kIsWindows) GTEST_SKIP() << "case tells no files apart";
   support::WriteFile(folder / "walk0001.KVP", app::Bytes(10050));
   support::WriteFile(folder / "walk0001.kvp", app::Bytes(10050, 5));
   files.OpenPicture(Text("walk0001.KVP"));
@@ -186,7 +188,7 @@ TEST_F(PictureFilesTest, NamesAsLongAsTheyMayBeAreKeptShorter) {
   std::string name;
   while (name.size() < 250) name += "\u00e4";
   name += "b.kvp";
-  const std::string path = Text(name);
+  const fs::path path = folder / app::PathFromText(name);
   ASSERT_TRUE(files.SaveTo(path));
   document.picture.Bitmap[9] = 1;
   ASSERT_TRUE(files.Save());
@@ -280,7 +282,7 @@ TEST_F(PictureFilesTest, ClosingAsksAboutUnsavedWorkAndSavesItByDialog) {
   EXPECT_FALSE(files.MayClose());
   messages.unsaved = app::UnsavedAnswer::kSave;
   EXPECT_FALSE(files.MayClose());  // the save dialog was cancelled
-  EXPECT_EQ(dialogs.proposals, Lines{app::TextFromPath(folders.Gfx()) + "/unnamed.kvp"});
+  EXPECT_EQ(dialogs.proposals, Lines{app::TextFromPath(folders.Gfx() / "unnamed.kvp")});
   dialogs.save = Text("kept.kvp");
   EXPECT_TRUE(files.MayClose());
   EXPECT_TRUE(fs::exists(folder / "kept.kvp"));
@@ -291,10 +293,11 @@ TEST_F(PictureFilesTest, ClosingAsksAboutUnsavedWorkAndSavesItByDialog) {
 
 TEST(SavedName, ReplacesTheLastFourCharacters) {
   for (const char* path : {"pic.kvp", "pic.txt", "picture", "pic.KVP"}) EXPECT_EQ(SavedName(path), "pic.kvp");
-  EXPECT_EQ(SavedName("b\xC3\xA4\xC3\xB6\xC3\xBC\xC3\x9F"), "b.kvp");  // characters, not bytes
-  EXPECT_EQ(SavedName("b\x84\x94\x81.koa"), "b\x84\x94\x81.kvp");      // a name in another encoding stays
-  EXPECT_EQ(SavedName("b\x84\x94\x81\x84\x94"), "b\x84.kvp");
+  EXPECT_EQ(SavedName(app::PathFromText("b\u00e4\u00f6\u00fc\u00df")), "b.kvp");  // characters, not bytes
   EXPECT_THROW(SavedName("abc"), std::runtime_error);
+  if (support::kIsWindows) return;
+  EXPECT_EQ(SavedName("b\x84\x94\x81.koa"), "b\x84\x94\x81.kvp");  // a name in another encoding stays
+  EXPECT_EQ(SavedName("b\x84\x94\x81\x84\x94"), "b\x84.kvp");
 }
 
 TEST(RecentFiles, KeepTheFiveLastInOrder) {

@@ -78,7 +78,7 @@ TEST(SpriteText, AssemblesToTheSameBytesInBothNotations) {
   const auto sprites = Capture(support::RandomPicture(9), CaptureAt({70, 70}, CaptureSize::k2x2, Alignment::kFree));
   std::vector<app::Bytes> assembled;
   for (const Notation notation : {Notation::kBinary, Notation::kHexadecimal}) {
-    const std::string source = folder / "sprite.asm", bytes = folder / "sprite.bin";
+    const std::string source = (folder / "sprite.asm").string(), bytes = (folder / "sprite.bin").string();
     support::WriteText(source, SpriteText(sprites, {Colour(5), Colour(9), Colour(12)}, notation));
     EXPECT_EQ(support::RunTool("64tass", {"-b", "-o", bytes, source}).exit_code, 0);
     assembled.push_back(support::ReadFile(bytes));

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "app/bytes.h"
+#include "app/path_text.h"
 
 namespace kelvo::support {
 
@@ -33,7 +34,9 @@ inline app::Bytes ReadFile(const std::filesystem::path& path) {
 
 inline std::vector<std::string> NamesIn(const std::filesystem::path& folder) {
   std::vector<std::string> names;
-  for (const auto& entry : std::filesystem::directory_iterator(folder)) names.push_back(entry.path().filename());
+  for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+    names.push_back(app::TextFromPath(entry.path().filename()));
+  }
   std::sort(names.begin(), names.end());
   return names;
 }

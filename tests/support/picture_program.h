@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "app/path_text.h"
+#include "app/text.h"
 #include "c64out/build_compo_pic.h"
 #include "c64out/output_settings.h"
 #include "support/program.h"
@@ -19,7 +20,7 @@ class RealTools final : public c64out::ToolRunner {
  public:
   bool CanRun() const override { return true; }
   c64out::ToolResult RunAndWait(const c64out::ToolCommand& command) override {
-    if (app::FileNamePart(command.tool).starts_with("codenet")) {
+    if (app::ToLower(command.tool).find("codenet") != std::string::npos) {
       sent = ReadFile(app::PathFromText(command.arguments.at(1)));
       return {};
     }
@@ -37,12 +38,11 @@ inline app::Bytes BuildPictureProgram(const std::filesystem::path& folder, const
   const app::ProgramFolders folders(folder / "program");
   folders.Create();
   folders.Seed(KELVO_SHARE);
-  WriteText(folder / "x64", "an emulator, to look at");
+  for (const char* name : {"x64", "x64.exe"}) WriteText(folder / name, "an emulator, to look at");
   Program with;
   with.settings.Write(c64out::kVicePath, app::TextFromPath(folder));
   RealTools tools;
-  const files::Document document{.picture = picture,
-                                 .file = files::SetFileParameters(app::TextFromPath(folder / "picture.kvp"))};
+  const files::Document document{.picture = picture, .file = files::SetFileParameters(folder / "picture.kvp")};
   const c64out::CompoPicChoice choice{.MakePrg = true, .ViaCodenet = start == StartedBy::kNetwork};
   const c64out::BuildResult result = c64out::BuildCompoPic(
       document, choice, {folders, with.settings, with.clock, with.log, with.messages, with.prompt, tools});

@@ -108,7 +108,7 @@ class RecordingDisplay final : public files::FileDisplay {
 struct Program {
   Program() { folders.Create(); }
   // The path of something in the folder, as the program's texts have it.
-  std::string Text(std::string_view name) const { return app::TextFromPath(folder / name); }
+  std::string Text(std::string_view name) const { return app::TextFromPath(folder / app::PathFromText(name)); }
 
   TempFolder folder;
   app::ProgramFolders folders{folder / "program"};

@@ -235,7 +235,7 @@ TEST_F(CodenetWindowTest, ATransferCanBeStopped) {
   QTimer::singleShot(300, window, [this] {
     EXPECT_FALSE(Control("cmdSend")->isEnabled());
     EXPECT_FALSE(Action("mnuShowPreviewOnC64")->isEnabled());
-    EXPECT_EQ(Outcome(), "Sending... 128 of 1998 bytes");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return Outcome() == "Sending... 128 of 1998 bytes"; }));
     QTest::keyClick(window, Qt::Key_Escape);
   });
   Control("cmdSend")->click();

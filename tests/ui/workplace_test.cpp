@@ -203,7 +203,7 @@ TEST_F(WorkplaceTest, DialogsBeginNearAFolderThatIsGone) {
     dialog.reject();
   });
   Action("mnuLoad")->trigger();
-  EXPECT_EQ(begin, ToQt(app::TextFromPath(folder.Path())));
+  EXPECT_EQ(NativePath(begin), QtFromPath(folder.Path()));
   EXPECT_EQ(StillThere(""), QDir::homePath());
 }
 

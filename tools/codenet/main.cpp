@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "arguments/program_arguments.h"
 #include "codenet/transfer.h"
-#include "program_arguments.h"
 #include "terminal_progress.h"
 #include "udp_socket.h"
 
@@ -74,5 +74,5 @@ ExitCode Main(const std::vector<std::string>& words) {
 int main(int argc, char** argv) {
   std::signal(SIGINT, kelvo::codenet::WantStop);
   std::signal(SIGTERM, kelvo::codenet::WantStop);
-  return kelvo::codenet::Main(kelvo::codenet::ProgramArguments(argc, argv));
+  return kelvo::codenet::Main(kelvo::ProgramArguments(argc, argv));
 }

@@ -23,7 +23,7 @@ QString OpenFilter() {
 }  // namespace
 
 QString StillThere(const QString& path) {
-  QFileInfo place(path);
+  QFileInfo place(path.endsWith(':') ? path + '/' : path);  // a drive, and not the folder last used on it
   while (!path.isEmpty() && !place.exists() && !place.isRoot()) place.setFile(place.absolutePath());
   return place.exists() ? place.absoluteFilePath() : QDir::homePath();
 }

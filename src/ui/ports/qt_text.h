@@ -20,12 +20,16 @@ inline std::string FromQt(const QString& text) {
 }
 
 // Paths have the separators of the platform, where Qt's own texts have slashes everywhere.
+inline QString NativePath(const QString& path) {
+  return QDir::toNativeSeparators(path);
+}
+
 inline QString QtFromPath(const std::filesystem::path& path) {
   return ToQt(app::TextFromPath(path));
 }
 
 inline std::filesystem::path PathFromQt(const QString& text) {
-  return app::PathFromText(FromQt(QDir::toNativeSeparators(text)));
+  return app::PathFromText(FromQt(NativePath(text)));
 }
 
 }  // namespace kelvo::ui

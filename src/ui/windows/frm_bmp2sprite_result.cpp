@@ -61,7 +61,7 @@ void frmBMP2SpriteResult::SaveTo(const QString& path) {
   QSaveFile file(path);
   const QByteArray bytes = text_.toUtf8();
   if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit()) return;
-  QtMessages(this).Warn(FromQt(path + ": it cannot be written: " + file.errorString()));
+  QtMessages(this).Warn(FromQt(NativePath(path) + ": it cannot be written: " + file.errorString()));
 }
 
 }  // namespace kelvo::ui

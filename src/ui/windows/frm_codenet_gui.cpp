@@ -237,7 +237,7 @@ void frmCodenetGUI::Compose() {
 void frmCodenetGUI::Browse() {
   const QString file = QFileDialog::getOpenFileName(this, "File to send to C64", StillThere(text_[kFile]->text()),
                                                     "PRG-files (*.prg);;All files (*.*)");
-  if (!file.isEmpty()) text_[kFile]->setText(file);
+  if (!file.isEmpty()) text_[kFile]->setText(NativePath(file));
 }
 
 void frmCodenetGUI::Send() {

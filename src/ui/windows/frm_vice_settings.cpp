@@ -24,7 +24,7 @@ frmViceSettings::frmViceSettings(app::SettingsStore& settings, app::Messages& me
 
 void frmViceSettings::Browse() {
   const QString folder = QFileDialog::getExistingDirectory(this, "VICE path", StillThere(path_->text()));
-  if (!folder.isEmpty()) path_->setText(folder);
+  if (!folder.isEmpty()) path_->setText(NativePath(folder));
 }
 
 void frmViceSettings::cmdStd_Click() {

@@ -49,7 +49,7 @@ QStringList Filters() {
 }
 
 bool MayReplace(const QString& path, QWidget* parent) {
-  return !QFileInfo::exists(path) || QtMessages(parent).Ask(FromQt(path + " exists already. Replace it?"));
+  return !QFileInfo::exists(path) || QtMessages(parent).Ask(FromQt(NativePath(path) + " exists already. Replace it?"));
 }
 
 }  // namespace
@@ -65,7 +65,7 @@ void SaveScreenshot(const QImage& picture, const QString& path, int size) {
   const QImage scaled = picture.convertToFormat(QImage::Format_Indexed8).scaled(picture.size() * size);
   const int quality = format == "png" ? kSmallest : kBestQuality;
   if (!file.open(QIODevice::WriteOnly) || !scaled.save(&file, format.constData(), quality) || !file.commit()) {
-    throw std::runtime_error(FromQt(file.fileName() + ": it cannot be written: " + file.errorString()));
+    throw std::runtime_error(FromQt(NativePath(file.fileName()) + ": it cannot be written: " + file.errorString()));
   }
 }
 

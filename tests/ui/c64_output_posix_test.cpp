@@ -10,8 +10,6 @@
 #include "support/run_tool.h"
 #include "support/shown_picture.h"
 
-#ifndef _WIN32
-
 namespace kelvo::ui {
 namespace {
 
@@ -233,5 +231,3 @@ TEST_F(C64OutputTest, TheSettingsDecideWhatCanBeChosen) {
 
 }  // namespace
 }  // namespace kelvo::ui
-
-#endif

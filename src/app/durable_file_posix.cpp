@@ -1,13 +1,3 @@
-#include "app/durable_file.h"
-
-#include <random>
-#include <string>
-
-#include "app/folder_entries.h"
-
-#ifdef _WIN32
-#include <windows.h>
-#else
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -15,106 +5,17 @@
 
 #include <cerrno>
 #include <cstdio>
-#endif
+#include <string>
+
+#include "app/durable_file.h"
+#include "app/folder_entries.h"
+#include "app/temporary_name.h"
 
 namespace kelvo::app {
+
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr std::string_view kTemporaryStart = ".kelvo-", kTemporaryEnd = ".tmp";
-
-fs::path FolderOf(const fs::path& file) {
-  return file.has_parent_path() ? file.parent_path() : fs::path(".");
-}
-
-fs::path TemporaryName(const fs::path& folder) {
-  std::random_device random;
-  const std::string number = std::to_string((std::uint64_t{random()} << 32) | random());
-  return folder / (std::string(kTemporaryStart) + number + std::string(kTemporaryEnd));
-}
-
-// In the system's own characters: not every name can be told in others.
-bool IsTemporaryName(const fs::path& file) {
-  const fs::path::string_type name = file.filename().native();
-  return name.starts_with(fs::path(kTemporaryStart).native()) && name.ends_with(fs::path(kTemporaryEnd).native());
-}
-
-}  // namespace
-
-#ifdef _WIN32
-
-namespace {
-
-std::error_code LastError() {
-  return {static_cast<int>(GetLastError()), std::system_category()};
-}
-
-// A folder's own rights, which its files inherit, decide who may read them: private folders make private files.
-std::error_code WriteNew(const fs::path& file, std::span<const std::uint8_t> bytes, Flush flush) {
-  HANDLE handle = CreateFileW(file.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr);
-  if (handle == INVALID_HANDLE_VALUE) return LastError();
-  DWORD written = 0;
-  std::error_code error;
-  if (!WriteFile(handle, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr)) error = LastError();
-  if (!error && written != bytes.size()) error = {ERROR_WRITE_FAULT, std::system_category()};
-  if (!error && flush == Flush::kToDisk && !FlushFileBuffers(handle)) error = LastError();
-  CloseHandle(handle);
-  return error;
-}
-
-std::error_code Rename(const fs::path& from, const fs::path& to, const Placing& placing) {
-  const DWORD through = placing.flush == Flush::kToDisk ? MOVEFILE_WRITE_THROUGH : 0;
-  const DWORD over = placing.must_be_new ? 0 : MOVEFILE_REPLACE_EXISTING;
-  if (MoveFileExW(from.c_str(), to.c_str(), over | through)) return {};
-  const DWORD error = GetLastError();
-  if (error == ERROR_ALREADY_EXISTS) return std::make_error_code(std::errc::file_exists);
-  return {static_cast<int>(error), std::system_category()};
-}
-
-}  // namespace
-
-std::error_code PlaceFile(const fs::path& target, std::span<const std::uint8_t> bytes, const Placing& placing) {
-  const fs::path temporary = TemporaryName(FolderOf(target));
-  std::error_code error = WriteNew(temporary, bytes, placing.flush);
-  if (!error) error = Rename(temporary, target, placing);
-  if (error) DeleteFileW(temporary.c_str());
-  return error;
-}
-
-std::error_code RenameToNew(const fs::path& from, const fs::path& to) {
-  return Rename(from, to, {.flush = Flush::kLater, .must_be_new = true});
-}
-
-// A file that is being written cannot be deleted here.
-void SweepTemporaryFiles(const fs::path& folder) {
-  for (const fs::path& file : EntriesOf(folder)) {
-    if (IsTemporaryName(file)) DeleteFileW(file.c_str());
-  }
-}
-
-bool CanWriteIn(const fs::path& folder) {
-  HANDLE handle = CreateFileW(TemporaryName(folder).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
-                              FILE_ATTRIBUTE_TEMPORARY | FILE_FLAG_DELETE_ON_CLOSE, nullptr);
-  if (handle == INVALID_HANDLE_VALUE) return false;
-  CloseHandle(handle);
-  return true;
-}
-
-std::error_code AppendText(const fs::path& file, std::string_view text) {
-  HANDLE handle = CreateFileW(file.c_str(), FILE_APPEND_DATA, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_ALWAYS,
-                              FILE_ATTRIBUTE_NORMAL | FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
-  if (handle == INVALID_HANDLE_VALUE) return LastError();
-  DWORD written = 0;
-  const bool good = WriteFile(handle, text.data(), static_cast<DWORD>(text.size()), &written, nullptr);
-  const std::error_code error = good ? std::error_code() : LastError();
-  CloseHandle(handle);
-  return error;
-}
-
-#else
-
-namespace {
 
 constexpr mode_t kUsualRights = 0666, kPrivateRights = 0600, kGroupRights = 0070;
 
@@ -263,7 +164,5 @@ std::error_code AppendText(const fs::path& file, std::string_view text) {
   close(descriptor);
   return error;
 }
-
-#endif
 
 }  // namespace kelvo::app

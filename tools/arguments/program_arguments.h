@@ -4,9 +4,9 @@
 #include <string>
 #include <vector>
 
-namespace kelvo::codenet {
+namespace kelvo {
 
 // As UTF-8, without the program's own name, whatever the system's encoding.
 std::vector<std::string> ProgramArguments(int argc, char** argv);
 
-}  // namespace kelvo::codenet
+}  // namespace kelvo

@@ -1,4 +1,4 @@
-#include "program_arguments.h"
+#include "arguments/program_arguments.h"
 
 #ifdef _WIN32
 #include <windows.h>
@@ -10,7 +10,7 @@
 #include "app/path_text.h"
 #endif
 
-namespace kelvo::codenet {
+namespace kelvo {
 
 #ifdef _WIN32
 
@@ -32,4 +32,4 @@ std::vector<std::string> ProgramArguments(int argc, char** argv) {
 
 #endif
 
-}  // namespace kelvo::codenet
+}  // namespace kelvo

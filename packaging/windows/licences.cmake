@@ -1,0 +1,23 @@
+# The licences of all that is shipped beside Kelvo, and where its sources are: what the distribution says of the packages
+# that it was built from.
+function(kelvo_source_of variable package)
+  execute_process(COMMAND dpkg-query -W -f "\${source:Package} \${source:Version}" ${package} OUTPUT_VARIABLE source)
+  set(${variable} ${source} PARENT_SCOPE)
+endfunction()
+kelvo_source_of(KELVO_QT_SOURCE qt6-base-dev)
+kelvo_source_of(KELVO_GCC_SOURCE gcc-mingw-w64-x86-64-posix-runtime)
+kelvo_source_of(KELVO_MINGW_SOURCE mingw-w64-x86-64-dev)
+configure_file(licences.txt.in licences.txt @ONLY NEWLINE_STYLE CRLF)
+
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/licences.txt DESTINATION licences RENAME README.txt)
+install(FILES /usr/share/doc/qt6-base-dev/copyright DESTINATION licences RENAME Qt.txt)
+install(FILES /usr/share/doc/gcc-mingw-w64-x86-64-posix-runtime/copyright DESTINATION licences RENAME GCC.txt)
+install(FILES /usr/share/doc/mingw-w64-x86-64-dev/copyright DESTINATION licences RENAME mingw-w64.txt)
+foreach(licence GPL-2 GPL-3 LGPL-2 LGPL-2.1 LGPL-3)
+  install(FILES /usr/share/common-licenses/${licence} DESTINATION licences RENAME ${licence}.txt)
+endforeach()
+if(KELVO_64TASS)
+  cmake_path(GET KELVO_64TASS PARENT_PATH folder)
+  install(FILES ${folder}/copyright DESTINATION licences RENAME 64tass.txt)
+  install(DIRECTORY ${folder}/source/ DESTINATION licences/64tass-source)
+endif()

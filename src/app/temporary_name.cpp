@@ -1,0 +1,33 @@
+#include "app/temporary_name.h"
+
+#include <cstdint>
+#include <random>
+#include <string>
+#include <string_view>
+
+namespace kelvo::app {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::string_view kTemporaryStart = ".kelvo-", kTemporaryEnd = ".tmp";
+
+}  // namespace
+
+fs::path TemporaryName(const fs::path& folder) {
+  std::random_device random;
+  const std::string number = std::to_string((std::uint64_t{random()} << 32) | random());
+  return folder / (std::string(kTemporaryStart) + number + std::string(kTemporaryEnd));
+}
+
+// In the system's own characters: not every name can be told in others.
+bool IsTemporaryName(const fs::path& file) {
+  const fs::path::string_type name = file.filename().native();
+  return name.starts_with(fs::path(kTemporaryStart).native()) && name.ends_with(fs::path(kTemporaryEnd).native());
+}
+
+fs::path FolderOf(const fs::path& target) {
+  return target.has_parent_path() ? target.parent_path() : fs::path(".");
+}
+
+}  // namespace kelvo::app
