@@ -25,7 +25,7 @@ constexpr std::size_t kSize = 10000;
 constexpr std::uint16_t kAddress = 0x0801;
 
 // A C64 takes at least 16 cycles to fetch a byte from its network adapter and to store it: 2 ms for a packet.
-const support::Network kC64Pace{.answers_after = std::chrono::milliseconds(2)};
+const Network kC64Pace{.answers_after = std::chrono::milliseconds(2)};
 
 class SteadyWatch final : public TransferWatch {
  public:

@@ -48,7 +48,7 @@ class PromptAtWork : support::Program {
     Require(line->find_first_of("\r\n") == std::string::npos, "a command is one line");
     Require(line->front() != ' ' && line->back() != ' ', "a command has no spaces around");
     prompt.lines.clear();
-    command::ProcessCommand(*line, {folders, document, files, prompt, animation_});
+    command::ProcessCommand(*line, surroundings, animation_);
     Require(messages.shown.empty(), "a typed command opens no message box");
     const std::string path = app::TextFromPath(document.file.CurrentFilePath);
     Require(path.empty() ||

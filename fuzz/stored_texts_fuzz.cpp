@@ -20,17 +20,20 @@
 namespace kelvo::fuzz {
 namespace {
 
+// As the zoom window has them, which is Qt's.
+constexpr app::Setting kMagnification{"Settings", "Magnification", "4"}, kGridColor{"Settings", "GridColor", "9"};
+
 constexpr app::Setting kFields[] = {
-    app::kMagnification,
-    app::kGridColor,
+    kMagnification,
+    kGridColor,
     editing::k4thColReplaces,
     editing::kReplaceLeastUsedColWhenFilling,
     anim::kFolder,
     anim::kAnimPrefix,
     anim::kPlayRate,
     anim::kOnionSkin,
-    anim::kFrmAnimLeftPos,
-    anim::kFrmAnimTopPos,
+    {"Settings", "frmAnimLeftPos", "0"},
+    {"Settings", "frmAnimTopPos", "0"},
     {"CodenetGUI", "SendFile", ""},
     {"CodenetGUI", "FileType", ""},
     {"CodenetGUI", "SetDestAddress", ""},
@@ -62,8 +65,8 @@ bool IsBetween(int number, int lowest, int highest) {
 }
 
 void CheckNumbers(support::MapSettings settings) {
-  Require(IsBetween(app::ReadNumber(settings, app::kMagnification, 4, 8), 4, 8), "the zoom factor is in range");
-  Require(IsBetween(app::ReadNumber(settings, app::kGridColor, 0, 15), 0, 15), "the grid colour is in range");
+  Require(IsBetween(app::ReadNumber(settings, kMagnification, 4, 8), 4, 8), "the zoom factor is in range");
+  Require(IsBetween(app::ReadNumber(settings, kGridColor, 0, 15), 0, 15), "the grid colour is in range");
   const int rate = anim::ReadPlayRate(settings);
   Require(IsBetween(rate, anim::kSlowestRate, anim::kFastestRate), "the rate is in range");
   anim::KeepPlayRate(settings, rate);

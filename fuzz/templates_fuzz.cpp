@@ -31,9 +31,10 @@ void CheckViewer(const std::string& text, std::string_view placeholder, bool via
   const std::string mark = "\x01mark\x02";
   if (text.find('\x01') != std::string::npos) return;
   const auto filled = c64out::FilledTemplate(text, {placeholder, mark, via_codenet});
-  if (!filled)
+  if (!filled) {
     return Require(via_codenet || text.find(placeholder) == std::string::npos || text.find("<CC>") != std::string::npos,
                    "a placeholder that stays is found");
+  }
   CheckLines(text, *filled);
   Require(filled->find(mark) != std::string::npos, "a filled template holds its replacement");
   Require(filled->find(placeholder) == std::string::npos, "no placeholder is left");

@@ -7,9 +7,10 @@
 #include <stdexcept>
 #include <vector>
 
+#include "app/whole_file.h"
+#include "c64/machine.h"
 #include "crunch/crunch.h"
 #include "row.h"
-#include "support/c64_machine.h"
 #include "support/files.h"
 #include "support/picture_program.h"
 
@@ -52,7 +53,7 @@ Figures Measure(const fs::path& koala, const fs::path& folder) {
   if (crunch::Decrunch(packed) != image) throw std::runtime_error(koala.string() + ": it unpacks to something else");
   figures.packed = packed.size();
   const app::Bytes program = support::BuildPictureProgram(folder, PictureOf(image));
-  support::C64Machine machine;
+  c64::Machine machine;
   machine.Load(program);
   machine.Run();
   figures.program = program.size();

@@ -21,20 +21,12 @@ class AnimDisplay {
   virtual void UnloadFrameWindow() = 0;                // keeps its place; nothing when there is none
 };
 
-// What animation works with; all of it outlives it.
-struct AnimSurroundings {
-  app::SettingsStore& settings;
-  app::Messages& messages;
-  const files::Document& document;
-  files::PictureFiles& files;
-};
-
 // The menu's check mark and the flag, which stands in the status bar alone, are two states, on purpose: the check mark
 // says whether the frame window is open, and the flag follows it; but the command prompt can set the flag alone. Then
 // they disagree until the mode is switched again.
 class AnimMode {
  public:
-  AnimMode(const AnimSurroundings& with, AnimDisplay& display) : with_(with), display_(display) {}
+  AnimMode(const files::PictureSurroundings& with, AnimDisplay& display) : with_(with), display_(display) {}
 
   // What the menu entry does. All that stands against the mode is told, and leaves it off.
   void ToggleAnimMode();
@@ -51,7 +43,7 @@ class AnimMode {
   bool MayStart();
   bool Refuse(std::string_view why);
 
-  AnimSurroundings with_;
+  files::PictureSurroundings with_;
   AnimDisplay& display_;
   bool checked_ = false;
 };

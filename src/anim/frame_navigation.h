@@ -23,7 +23,7 @@ enum class FrameMove { kPrevious, kNext, kBack, kFirst };
 // for the status bar, empty when there is nothing to say; failures of the disk are told by PictureFiles besides.
 class FrameNavigation {
  public:
-  explicit FrameNavigation(const AnimSurroundings& with) : with_(with) {}
+  explicit FrameNavigation(const files::PictureSurroundings& with) : with_(with) {}
 
   [[nodiscard]] std::string Move(FrameMove move);
   [[nodiscard]] std::string First();
@@ -52,7 +52,7 @@ class FrameNavigation {
   std::string OfferToCreate(int number);
   bool SaveChanges();
 
-  AnimSurroundings with_;
+  files::PictureSurroundings with_;
   FrameRow row_;
   std::optional<int> shown_before_;
 };

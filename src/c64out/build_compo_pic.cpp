@@ -43,7 +43,7 @@ void SavePicture(const BuildJob& job) {
   files::Document copy = job.Picture();
   Remove(job.Files().picture);  // what an earlier build left is no work of anybody's
   const std::string dialogs_folder = with.settings.Read(files::kFilePath);
-  const std::string trouble = files::SaveBitmap(copy, job.Files().picture, {with.folders, with.settings, with.clock});
+  const std::string trouble = files::SaveBitmap(copy, job.Files().picture, with);
   with.settings.Write(files::kFilePath, dialogs_folder);
   if (!trouble.empty()) with.log.Write("modVICEandCodenet_BuildCompoPic: " + trouble);
 }

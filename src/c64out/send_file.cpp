@@ -25,7 +25,7 @@ ToolCommand SendCommand(const CodenetForm& form, const app::ProgramFolders& fold
   return {ShortPath(folders.System() / ToolName("codenet")), CodenetArgumentList(form, FileArgument(form))};
 }
 
-std::string SendFile(const CodenetForm& form, const SendSurroundings& with) {
+std::string SendFile(const CodenetForm& form, const BuildSurroundings& with) {
   constexpr std::string_view kFailed = "--> [err 908]";
   if (!with.runner.CanRun()) {
     with.messages.Warn("Can't find CMD.EXE");

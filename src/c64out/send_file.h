@@ -3,19 +3,10 @@
 
 #include <string>
 
-#include "app/messages.h"
-#include "app/program_folders.h"
+#include "c64out/build_job.h"
 #include "c64out/codenet_form.h"
-#include "c64out/tool_runner.h"
 
 namespace kelvo::c64out {
-
-struct SendSurroundings {
-  const app::ProgramFolders& folders;
-  app::Messages& messages;
-  app::PromptOutput& prompt;
-  ToolRunner& runner;
-};
 
 // The loader's call for a form: its file by its short path, which is empty for one that is not there and begins with no
 // "-".
@@ -24,6 +15,6 @@ ToolCommand SendCommand(const CodenetForm& form, const app::ProgramFolders& fold
 // Runs the loader and waits for it. Nothing that the form holds is refused here. Gives how it went, in words for the
 // user; a failure is told in the prompt too, as "--> " and what the loader said (or which file is missing), then
 // "--> [err 908]".
-std::string SendFile(const CodenetForm& form, const SendSurroundings& with);
+std::string SendFile(const CodenetForm& form, const BuildSurroundings& with);
 
 }  // namespace kelvo::c64out

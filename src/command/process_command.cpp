@@ -31,7 +31,8 @@ enum ErrorNumber {
 
 // One command on its way.
 struct Call {
-  const CommandSurroundings& with;
+  const files::PictureSurroundings& with;
+  const AnimationSwitch& animation;
   std::string line, word;
   std::string argument;             // in upper case
   std::string_view fixed_reply;     // from the word's row
@@ -43,10 +44,10 @@ struct Call {
   }
 };
 
-Call Split(std::string_view line, const CommandSurroundings& with) {
+Call Split(std::string_view line, const files::PictureSurroundings& with, const AnimationSwitch& animation) {
   const auto space = std::min(line.find(' '), line.size());
   const std::string_view argument = line.substr(std::min(space + 1, line.size()));
-  return {with, std::string(line), std::string(line.substr(0, space)), app::ToUpper(argument), {}};
+  return {with, animation, std::string(line), std::string(line.substr(0, space)), app::ToUpper(argument), {}};
 }
 
 void Accept(Call&) {}
@@ -122,7 +123,7 @@ void New(Call& call) {
 // Without an argument the mode itself is switched. ON and OFF set the flag and the status text alone, on purpose: they
 // ask nothing and open no window, and the menu's check mark may then disagree with the flag.
 void Anim(Call& call) {
-  const AnimationSwitch& animation = call.with.animation;
+  const AnimationSwitch& animation = call.animation;
   if (call.argument.empty()) {
     call.Reply(animation.toggle() ? "ANIM ON" : "ANIM OFF");
   } else if (call.argument == "ON" || call.argument == "OFF") {
@@ -174,8 +175,8 @@ const Word& RowOf(std::string_view word) {
 
 }  // namespace
 
-void ProcessCommand(std::string_view line, const CommandSurroundings& with) {
-  Call call = Split(line, with);
+void ProcessCommand(std::string_view line, const files::PictureSurroundings& with, const AnimationSwitch& animation) {
+  Call call = Split(line, with, animation);
   const Word& row = RowOf(call.word);
   call.fixed_reply = row.fixed_reply;
   try {

@@ -29,18 +29,9 @@ struct AnimationSwitch {
   std::function<void(bool on)> set_flag;
 };
 
-// What commands work with.
-struct CommandSurroundings {
-  const app::ProgramFolders& folders;
-  const files::Document& document;
-  files::PictureFiles& files;
-  app::PromptOutput& prompt;
-  const AnimationSwitch& animation;
-};
-
 // Carries out `line`, which comes without the prompt character. Nothing is kept between calls. Names in a command are
 // those of files and folders alone: one that could lead elsewhere is a failure like any other (902, 906, 907). Throws
 // what a port throws.
-void ProcessCommand(std::string_view line, const CommandSurroundings& with);
+void ProcessCommand(std::string_view line, const files::PictureSurroundings& with, const AnimationSwitch& animation);
 
 }  // namespace kelvo::command

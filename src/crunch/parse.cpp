@@ -7,7 +7,7 @@
 namespace kelvo::crunch {
 namespace {
 
-using Bytes = std::span<const std::uint8_t>;
+using BytesView = std::span<const std::uint8_t>;
 
 constexpr int kFlag = 1;  // the bit that begins a token
 
@@ -18,7 +18,7 @@ constexpr int kMostSavedByRepeat = 12;
 enum State : std::size_t { kBehindCopy, kBehindLiterals };
 
 // The copies that can begin at each byte: with rising offsets, and only those that are longer than all nearer ones.
-std::vector<std::vector<Token>> FindCopies(Bytes bytes, int window) {
+std::vector<std::vector<Token>> FindCopies(BytesView bytes, int window) {
   std::vector<std::vector<Token>> copies(bytes.size());
   for (std::size_t offset = 1; offset < bytes.size() && offset <= static_cast<std::size_t>(window); ++offset) {
     int run = 0;
@@ -50,7 +50,7 @@ std::size_t Cheapest(const Arrivals& arrivals) {
 // Finds the cheapest way through a section, place by place from its start.
 class Search {
  public:
-  Search(Bytes bytes, Literals literals, const Effort& effort)
+  Search(BytesView bytes, Literals literals, const Effort& effort)
       : bytes_(bytes), literals_(literals), effort_(effort), copies_(FindCopies(bytes, effort.window)) {}
 
   Parse Run(const OffsetCode& code);
@@ -63,7 +63,7 @@ class Search {
   void TryNewCopies(std::size_t place, State state);
   Parse BestWay();
 
-  Bytes bytes_;
+  BytesView bytes_;
   Literals literals_;
   Effort effort_;
   std::vector<std::vector<Token>> copies_;
@@ -196,7 +196,7 @@ int BestDigits(const std::vector<Token>& tokens, bool is_short) {
 
 }  // namespace
 
-Parse FindTokens(Bytes bytes, Literals literals, const Effort& effort) {
+Parse FindTokens(BytesView bytes, Literals literals, const Effort& effort) {
   Search search(bytes, literals, effort);
   Parse best = search.Run({5, 6});
   const auto improve = [&](const OffsetCode& code) {

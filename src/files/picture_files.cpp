@@ -46,10 +46,10 @@ bool PictureFiles::Open() {
 }
 
 bool PictureFiles::OpenPicture(const fs::path& path, OnFailure on_failure) {
-  const fs::path own_path = path;  // it may be the current file's own, which loading replaces
-  return OpenAs(own_path, TypeOf(own_path), on_failure);
+  return OpenAs(path, TypeOf(path), on_failure);
 }
 
+// `path` may be the current file's own, which is another one as soon as the picture is taken over.
 bool PictureFiles::OpenAs(const fs::path& path, FormatType type, OnFailure on_failure) {
   const app::WaitScope wait(with_.pointer);
   auto read = Read(path, type, on_failure);
@@ -58,7 +58,7 @@ bool PictureFiles::OpenAs(const fs::path& path, FormatType type, OnFailure on_fa
   with_.prompt.CommandPromptList("LOAD " + document_.file.CurrentFileName);
   app::Guarded(with_.log, "MDIFormMenu_OpenPicture",
                [&] { app::WriteOwnFile(with_.folders.Snapshot(), document_.on_disk); });
-  recent_.Add(path);
+  recent_.Add(document_.file.CurrentFilePath);
   return true;
 }
 
@@ -146,10 +146,7 @@ bool PictureFiles::Write(const fs::path& path) {
   const app::WaitScope wait(with_.pointer);
   std::string trouble;
   const bool saved = app::Guarded(
-      with_.log, "MDIFormMenu_SaveBitmap",
-      [&] {
-        trouble = SaveBitmap(document_, path, {with_.folders, with_.settings, with_.clock});
-      },
+      with_.log, "MDIFormMenu_SaveBitmap", [&] { trouble = SaveBitmap(document_, path, with_); },
       [&](const std::exception& error) {
         with_.messages.Warn("The picture was not saved.\n" + std::string(error.what()));
       });

@@ -86,4 +86,10 @@ class PictureFiles {
   RecentFiles recent_;
 };
 
+// What works with the picture and its files; all of it outlives whoever holds this.
+struct PictureSurroundings : app::Surroundings {
+  const Document& document;
+  PictureFiles& files;
+};
+
 }  // namespace kelvo::files

@@ -47,13 +47,13 @@ void Collect(std::string& troubles, Step&& step) {
 
 // Keeps the snapshot, and what else stands in `file`: a build's copy takes the snapshot's place, so even this program's
 // own last state may be another. Only what this program did not put there itself must be kept before it may go.
-void KeepWhatGoes(const Document& document, const fs::path& file, const app::Bytes& written, const SavePlaces& places,
-                  std::string& troubles) {
-  const Backups backups(places.folders, places.clock);
+void KeepWhatGoes(const Document& document, const fs::path& file, const app::Bytes& written,
+                  const app::Surroundings& with, std::string& troubles) {
+  const Backups backups(with.folders, with.clock);
   const CurrentFile& before = document.file;
   app::Bytes snapshot;
   Collect(troubles, [&] {
-    if (before.HasFile()) snapshot = BytesOf(places.folders.Snapshot());
+    if (before.HasFile()) snapshot = BytesOf(with.folders.Snapshot());
     if (snapshot.empty()) return;
     backups.KeepSnapshot(snapshot, {before.CurrentFilePath, NameForBackup(before.CurrentFileName)});
   });
@@ -71,20 +71,20 @@ fs::path SavedName(const fs::path& path) {
   return app::PathFromText(std::string(WithoutLast(text, kEnding.size())) + std::string(kEnding));
 }
 
-std::string SaveBitmap(Document& document, const fs::path& path, const SavePlaces& places) {
+std::string SaveBitmap(Document& document, const fs::path& path, const app::Surroundings& with) {
   const fs::path file = SavedName(path);
   model::PictureImage picture = document.picture;
   Sign(picture);
   const app::Bytes written = Encode(picture);
   std::string troubles;
-  KeepWhatGoes(document, file, written, places, troubles);
+  KeepWhatGoes(document, file, written, with, troubles);
   app::WriteWholeFile(file, written);
 
   const CurrentFile before = std::exchange(document.file, SetFileParameters(file));
   document.picture = document.kept = picture;
   document.on_disk = written;
-  places.settings.Write(kFilePath, app::TextFromPath((before.HasFile() ? before.CurrentFilePath : file).parent_path()));
-  Collect(troubles, [&] { app::WriteOwnFile(places.folders.Snapshot(), written); });
+  with.settings.Write(kFilePath, app::TextFromPath((before.HasFile() ? before.CurrentFilePath : file).parent_path()));
+  Collect(troubles, [&] { app::WriteOwnFile(with.folders.Snapshot(), written); });
   app::SweepTemporaryFiles(file.has_parent_path() ? file.parent_path() : ".");
   return troubles;
 }

@@ -4,9 +4,8 @@
 #include <filesystem>
 #include <string>
 
-#include "app/clock.h"
-#include "app/program_folders.h"
 #include "app/settings_store.h"
+#include "app/surroundings.h"
 #include "files/document.h"
 
 namespace kelvo::files {
@@ -18,12 +17,6 @@ inline constexpr app::Setting kFilePath{"Settings", "FilePath", ""};
 // too. Throws std::runtime_error for a path of fewer than four characters.
 std::filesystem::path SavedName(const std::filesystem::path& path);
 
-struct SavePlaces {
-  const app::ProgramFolders& folders;
-  app::SettingsStore& settings;
-  const app::Clock& clock;
-};
-
 // Writes the picture to SavedName(`path`) and makes that the current file. The
 // signature and the background stay in the picture's spare screen bytes.
 //
@@ -33,6 +26,6 @@ struct SavePlaces {
 // app::FileError when the picture could not be written, or what another program left there could not be kept: then the
 // picture and the file are as they were. Gives what went wrong with the backup or the snapshot of a picture that was
 // written, else an empty text.
-std::string SaveBitmap(Document& document, const std::filesystem::path& path, const SavePlaces& places);
+std::string SaveBitmap(Document& document, const std::filesystem::path& path, const app::Surroundings& with);
 
 }  // namespace kelvo::files

@@ -69,6 +69,7 @@ MainFrame::MainFrame(const app::ProgramFolders& folders, app::SettingsStore& set
     : slot_(MadeFolders(folders).System()),
       folders_(folders.Root(), slot_.Number().value_or(kMostPrograms + 1)),
       settings_(settings),
+      clock_(clock),
       log_(folders_.ErrorLogFile(), clock),
       area_(new QMdiArea(this)),
       full_view_(new frmBMPView(document_.picture, this)),
@@ -84,22 +85,13 @@ MainFrame::MainFrame(const app::ProgramFolders& folders, app::SettingsStore& set
       Timer1_(new QTimer(this)),
       ports_(std::make_unique<FramePorts>(this)),
       views_(std::make_unique<PictureWindows>(*full_view_, *zoom_)),
-      files_(document_, {{folders_, settings, clock, log_, ports_->messages, prompt_},
-                         ports_->pointer,
-                         ports_->dialogs,
-                         *this,
-                         *views_}),
+      files_(document_, {Surroundings(), ports_->pointer, ports_->dialogs, *this, *views_}),
       desk_(std::make_unique<PaintingDesk>(
           document_, editing::PaintingPorts{*views_, settings, ports_->messages, ports_->events, ports_->pointer, log_},
           PaintingWindows{*full_view_, *zoom_, *colors_, *pens_, *char_data_, *Toolbar1_})),
-      animation_(std::make_unique<AnimationDesk>(anim::AnimSurroundings{settings, ports_->messages, document_, files_},
-                                                 *this, *full_view_, *zoom_)),
-      builds_(std::make_unique<BuildDesk>(
-          BuildDeskSurroundings{
-              {folders_, settings, clock, log_, ports_->messages, prompt_}, document_, files_, ports_->tools},
-          this)),
-      recovery_(std::make_unique<RecoveryDesk>(
-          RecoveryDesk::Surroundings{folders_, clock, log_, ports_->messages, document_, files_, slot_})) {
+      animation_(std::make_unique<AnimationDesk>(PictureSurroundings(), *this, *full_view_, *zoom_)),
+      builds_(std::make_unique<BuildDesk>(PictureSurroundings(), ports_->tools, this)),
+      recovery_(std::make_unique<RecoveryDesk>(PictureSurroundings(), slot_)) {
   setObjectName("MDIFormMenu");
   area_->setObjectName("mdiArea");
   setCentralWidget(area_);
@@ -124,6 +116,14 @@ MainFrame::MainFrame(const app::ProgramFolders& folders, app::SettingsStore& set
 }
 
 MainFrame::~MainFrame() = default;
+
+app::Surroundings MainFrame::Surroundings() {
+  return {folders_, settings_, clock_, log_, ports_->messages, prompt_};
+}
+
+files::PictureSurroundings MainFrame::PictureSurroundings() {
+  return {Surroundings(), document_, files_};
+}
 
 bool MainFrame::OfferRecovery() {
   return recovery_->Offer();
@@ -243,7 +243,7 @@ void MainFrame::ProcessCommand(const QString& line) {
                                              return animation_->Mode().IsAnimModeChecked();
                                            },
                                            [this](bool on) { animation_->Mode().SetAnimFlag(on); }};
-  command::ProcessCommand(FromQt(line), {folders_, document_, files_, prompt_, animation});
+  command::ProcessCommand(FromQt(line), PictureSurroundings(), animation);
   RefreshMenus();
 }
 
@@ -321,7 +321,7 @@ void MainFrame::ShowSpriteConverter() {
 
 void MainFrame::ShowCodenetGui() {
   if (codenet_gui_ == nullptr) {
-    codenet_gui_ = new frmCodenetGUI({folders_, settings_, log_, ports_->messages, prompt_, ports_->tools}, this);
+    codenet_gui_ = new frmCodenetGUI(Surroundings(), ports_->tools, this);
   }
   codenet_gui_->show();
   codenet_gui_->raise();

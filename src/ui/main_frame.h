@@ -97,6 +97,8 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   void dropEvent(QDropEvent* event) override;
 
  private:
+  app::Surroundings Surroundings();
+  files::PictureSurroundings PictureSurroundings();
   void ShowFile(const files::CurrentFile& file) override;
   void PictureReplaced() override;
   void AddChild(ChildWindowId id, QWidget* form, QPoint place, bool is_shown = true);
@@ -118,6 +120,7 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   ProgramSlot slot_;
   app::ProgramFolders folders_;  // with this program's number
   app::SettingsStore& settings_;
+  const app::Clock& clock_;
   app::ErrorLog log_;
   files::Document document_;
 

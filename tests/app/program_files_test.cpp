@@ -2,6 +2,8 @@
 // whatever happens while they are written.
 #include <gtest/gtest.h>
 
+#include <array>
+
 #include "app/durable_file.h"
 #include "app/path_text.h"
 #include "app/program_folders.h"
@@ -69,12 +71,6 @@ TEST(ProgramFolders, LieBesideTheProgramOnlyWhereThatCanBeWritten) {
     EXPECT_EQ(ChooseProgramFolder(portable.Path(), "user"), "user") << kept;
     EXPECT_EQ(ProgramFolders(portable.Path()).FindReadOnly(), portable / kept);
   }
-}
-
-TEST(PathText, PartsEndAtTheLastSeparator) {
-  EXPECT_EQ(FolderPart("/a/b.c/d"), "/a/b.c");
-  EXPECT_EQ(FolderPart("d"), "");
-  EXPECT_EQ(LowerExtension("/a/b.c/d"), "");
 }
 
 TEST(Settings, NonsenseReadsAsTheDefault) {

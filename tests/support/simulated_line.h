@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "codenet/datagram_socket.h"
-#include "support/codenet_machine.h"
+#include "receiving_c64.h"
 
 namespace kelvo::support {
 
@@ -60,7 +60,7 @@ class SimulatedLine final : public codenet::DatagramSocket, public codenet::Tran
 
   std::function<Fate(int number, const app::Bytes& packet)> fate_of = [](int, const app::Bytes&) { return Fate(); };
   Microseconds stop_at = Microseconds::max();
-  CodenetMachine machine;
+  codenet::ReceivingC64 machine;
   std::vector<app::Bytes> sent;
   std::vector<Microseconds> sent_at;
 

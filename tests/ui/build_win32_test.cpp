@@ -3,7 +3,6 @@
 
 #include "c64out/output_settings.h"
 #include "main_frame_fixture.h"
-#include "support/c64_machine.h"
 #include "support/shown_picture.h"
 #include "ui/ports/qt_tool_runner.h"
 
@@ -26,9 +25,9 @@ class WindowsBuild : public MainFrameTest {
     ASSERT_TRUE(frame->Files().OpenPicture(place / "pic.koa"));
     Action("mnuCreatePRGCompopic")->trigger();
     ASSERT_EQ(PromptLines().last(), "--> PRG complete.") << FromQt(PromptLines().join('\n'));
-    support::C64Machine machine;
+    c64::Machine machine;
     machine.Load(support::ReadFile(place / "pic.prg"));
-    ASSERT_EQ(machine.Run(), support::C64Machine::Ending::kLoops);
+    ASSERT_EQ(machine.Run(), c64::Machine::Ending::kLoops);
     support::ExpectShows(machine, frame->Document().picture);
   }
 };

@@ -10,7 +10,7 @@
 
 namespace kelvo::ui {
 
-AnimationDesk::AnimationDesk(const anim::AnimSurroundings& with, QMainWindow& frame, frmBMPView& full_view,
+AnimationDesk::AnimationDesk(const files::PictureSurroundings& with, QMainWindow& frame, frmBMPView& full_view,
                              frmZoom& zoom)
     : with_(with), frame_(frame), full_view_(full_view), zoom_(zoom), mode_(with, *this), navigation_(with) {
   turn_.setSingleShot(true);

@@ -22,7 +22,7 @@ class AnimationDesk : public QObject, private anim::AnimDisplay {
   Q_OBJECT
 
  public:
-  AnimationDesk(const anim::AnimSurroundings& with, QMainWindow& frame, frmBMPView& full_view, frmZoom& zoom);
+  AnimationDesk(const files::PictureSurroundings& with, QMainWindow& frame, frmBMPView& full_view, frmZoom& zoom);
 
   anim::AnimMode& Mode() { return mode_; }
   const anim::AnimMode& Mode() const { return mode_; }
@@ -54,7 +54,7 @@ class AnimationDesk : public QObject, private anim::AnimDisplay {
   void StopPlay();
   void PlayTurn();
 
-  anim::AnimSurroundings with_;
+  files::PictureSurroundings with_;
   QMainWindow& frame_;
   frmBMPView& full_view_;
   frmZoom& zoom_;

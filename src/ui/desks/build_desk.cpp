@@ -13,8 +13,8 @@
 
 namespace kelvo::ui {
 
-BuildDesk::BuildDesk(const BuildDeskSurroundings& with, QWidget* window)
-    : with_(with), window_(window), runner_(with.runner) {
+BuildDesk::BuildDesk(const files::PictureSurroundings& with, QtToolRunner& runner, QWidget* window)
+    : with_(with), window_(window), runner_(runner) {
   connect(&runner_, &QtToolRunner::StateChanged, this, &BuildDesk::StateChanged);
 }
 

@@ -10,18 +10,11 @@
 
 namespace kelvo::ui {
 
-// What builds take from the main window.
-struct BuildDeskSurroundings : app::Surroundings {
-  const files::Document& document;
-  files::PictureFiles& files;
-  QtToolRunner& runner;
-};
-
 class BuildDesk : public QObject {
   Q_OBJECT
 
  public:
-  BuildDesk(const BuildDeskSurroundings& with, QWidget* window);
+  BuildDesk(const files::PictureSurroundings& with, QtToolRunner& runner, QWidget* window);
 
   // Passed over while a build or a transfer is at work. A picture that has no file is saved under a name first. While
   // the emulator is waited for another build may begin: it is left running then.
@@ -53,7 +46,7 @@ class BuildDesk : public QObject {
   c64out::BuildResult BuildAlone(const c64out::CompoPicChoice& choice);
   c64out::BuildSurroundings ForBuilds() const;
 
-  BuildDeskSurroundings with_;
+  files::PictureSurroundings with_;
   QWidget* window_;
   QtToolRunner& runner_;
   bool is_running_ = false, is_vice_ready_ = false;

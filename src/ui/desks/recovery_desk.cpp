@@ -10,9 +10,9 @@
 
 namespace kelvo::ui {
 
-RecoveryDesk::RecoveryDesk(const Surroundings& with)
-    : with_(with), other_folder_(app::OtherFolderFor(with.folders.Root())), copy_(with.document) {
-  if (const auto number = with.slot.Number()) copy_.AddPlace(files::RecoveryFiles(with.folders.Backup(), *number));
+RecoveryDesk::RecoveryDesk(const files::PictureSurroundings& with, const ProgramSlot& slot)
+    : with_(with), slot_(slot), other_folder_(app::OtherFolderFor(with.folders.Root())), copy_(with.document) {
+  if (const auto number = slot.Number()) copy_.AddPlace(files::RecoveryFiles(with.folders.Backup(), *number));
 }
 
 template <typename Work>
@@ -60,7 +60,7 @@ void RecoveryDesk::KeepNow() {
 
 bool RecoveryDesk::Offer() {
   bool is_taken_up = false;
-  OfferCopiesIn(with_.folders.Backup(), with_.slot, is_taken_up);
+  OfferCopiesIn(with_.folders.Backup(), slot_, is_taken_up);
   std::error_code ignored;
   if (std::filesystem::exists(other_folder_, ignored) && (other_slot_ || OpenOtherPlace())) {
     OfferCopiesIn(other_folder_, *other_slot_, is_taken_up);

@@ -4,10 +4,6 @@
 #include <QObject>
 #include <optional>
 
-#include "app/clock.h"
-#include "app/error_log.h"
-#include "app/messages.h"
-#include "app/program_folders.h"
 #include "files/picture_files.h"
 #include "files/recovery_copy.h"
 #include "ui/ports/program_slot.h"
@@ -19,16 +15,8 @@ class RecoveryDesk : public QObject {
   Q_OBJECT
 
  public:
-  struct Surroundings {
-    const app::ProgramFolders& folders;
-    const app::Clock& clock;
-    const app::ErrorLog& log;
-    app::Messages& messages;
-    const files::Document& document;
-    files::PictureFiles& files;
-    const ProgramSlot& slot;  // in the program folder
-  };
-  explicit RecoveryDesk(const Surroundings& with);
+  // `slot` is this program's in the program folder.
+  RecoveryDesk(const files::PictureSurroundings& with, const ProgramSlot& slot);
 
   // Brings the copy up to date; cheap enough for every tick of a timer.
   void Tick();
@@ -56,7 +44,8 @@ class RecoveryDesk : public QObject {
   // Sets `is_taken_up` as soon as the work is in the document, whatever fails behind that.
   void OfferCopy(const files::RecoveryFiles& left, bool& is_taken_up);
 
-  Surroundings with_;
+  files::PictureSurroundings with_;
+  const ProgramSlot& slot_;
   std::filesystem::path other_folder_;
   std::optional<ProgramSlot> other_slot_;            // once the second place is in use, and
   std::optional<files::RecoveryFiles> other_files_;  // what this program writes there

@@ -7,7 +7,7 @@
 namespace kelvo::ui {
 namespace {
 
-constexpr int kCopySide = 32, kSmallestBox = 4;
+constexpr int kCopySide = 32, kCopyBox = 4;
 
 }  // namespace
 
@@ -15,7 +15,7 @@ PaintToolBar::PaintToolBar(QWidget* parent)
     : QToolBar("Tools", parent),
       tools_(new QActionGroup(this)),
       copy_(kCopySide, kCopySide),
-      picCopy_(new SurfaceView(copy_, kSmallestBox, this)) {
+      picCopy_(new SurfaceView(copy_, kCopyBox, this)) {
   setObjectName("Toolbar1");
   setIconSize({24, 24});
   for (const editing::ToolRow& row : editing::ToolTable()) {

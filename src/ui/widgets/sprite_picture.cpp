@@ -7,11 +7,12 @@ namespace kelvo::ui {
 namespace {
 
 constexpr int kBoxWidth = 4, kBoxHeight = 2;  // of a picture pixel at 2×
-constexpr int kSmallestBox = 2;
+constexpr int kSmallestSpritePixel = 2;
 
 }  // namespace
 
-SpritePicture::SpritePicture(model::Surface& surface, QWidget* parent) : SurfaceView(surface, kSmallestBox, parent) {}
+SpritePicture::SpritePicture(model::Surface& surface, QWidget* parent)
+    : SurfaceView(surface, kSmallestSpritePixel, parent) {}
 
 void SpritePicture::ShowArea(const sprites::CaptureArea& area) {
   if (area_ == area) return;

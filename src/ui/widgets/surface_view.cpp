@@ -25,13 +25,12 @@ SurfaceView::SurfaceView(model::Surface& surface, int unit, QWidget* parent)
   TakeScale();
 }
 
-double SurfaceView::Scale() const {
-  const double device = devicePixelRatioF();
-  return std::max(std::floor(device * unit_), 1.0) / unit_ / device;
+double SurfaceView::ScaleOn(double device, int unit) {
+  return std::max(std::floor(device * unit), 1.0) / unit / device;
 }
 
 void SurfaceView::TakeScale() {
-  scale_ = Scale();
+  scale_ = ScaleOn(devicePixelRatioF(), unit_);
   setFixedSize(SurfaceView::sizeHint());
 }
 

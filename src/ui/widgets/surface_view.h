@@ -18,6 +18,9 @@ class SurfaceView : public QWidget {
  public:
   SurfaceView(model::Surface& surface, int unit, QWidget* parent);
 
+  // The widget pixels that a surface pixel takes on a display with `device` pixels for each of a widget (1 or more).
+  static double ScaleOn(double device, int unit);
+
   // The surface was drawn on in `area`, or everywhere.
   void Refresh(const model::Rect& area);
   void Refresh();
@@ -52,7 +55,6 @@ class SurfaceView : public QWidget {
   void wheelEvent(QWheelEvent* event) override;
 
  private:
-  double Scale() const;  // widget pixels that a surface pixel takes
   void TakeScale();
   void TakeMouseBack();
 

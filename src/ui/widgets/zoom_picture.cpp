@@ -9,12 +9,12 @@
 namespace kelvo::ui {
 namespace {
 
-constexpr int kSmallestBox = 4;  // display pixels: the height of a box at 4:1
+constexpr int kSmallestZoomBox = 4;  // display pixels: the height of a box at 4:1
 
 }  // namespace
 
 ZoomPicture::ZoomPicture(model::Surface& surface, const model::ZoomArea& area, QWidget* parent)
-    : SurfaceView(surface, kSmallestBox, parent), area_(area) {}
+    : SurfaceView(surface, kSmallestZoomBox, parent), area_(area) {}
 
 void ZoomPicture::ShowPreview(editing::Points points, model::C64Colour colour) {
   if (points.empty() && preview_.empty()) return;

@@ -27,7 +27,7 @@ namespace {
 constexpr std::array kColourNames{"Black",   "White", "Red",  "Cyan",   "Purple", "Green",   "Blue",   "Yellow",
                                   "L Brown", "Brown", "Pink", "D Grey", "M Grey", "L Green", "L Blue", "L Grey"};
 constexpr int kNone = -1;  // the key of "[none]"
-constexpr int kSmallestBox = 2;
+constexpr int kSpriteBox = 2;
 
 QIcon SwatchOf(int colour) {
   QPixmap swatch(14, 14);
@@ -44,7 +44,7 @@ frmBMP2SpriteMain::frmBMP2SpriteMain(const model::PictureImage& editor, const QS
       source_(640, 400),
       preview_(192, 168),
       picSource_(new SpritePicture(source_, this)),
-      picSprite_(new SurfaceView(preview_, kSmallestBox, this)),
+      picSprite_(new SurfaceView(preview_, kSpriteBox, this)),
       opbBinary_(new QRadioButton("&Binary", this)),
       opbHexadecimal_(new QRadioButton("&Hexadecimal", this)),
       status_(new QLabel(this)),

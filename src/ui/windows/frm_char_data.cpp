@@ -14,7 +14,7 @@ namespace kelvo::ui {
 namespace {
 
 constexpr std::array kSlots{model::BitPair::k00, model::BitPair::k01, model::BitPair::k10, model::BitPair::k11};
-constexpr int kSmallestBox = 4;
+constexpr int kCharBox = 4;
 
 QLabel* FixedPitchLabel(QWidget* parent, const QString& widest) {
   auto* label = new QLabel(widest, parent);
@@ -29,7 +29,7 @@ frmCharData::frmCharData(const model::PictureImage& picture, QWidget* parent)
     : QWidget(parent),
       picture_(picture),
       surface_(model::kCellViewWidth, model::kCellViewHeight),
-      picStd_(new SurfaceView(surface_, kSmallestBox, this)),
+      picStd_(new SurfaceView(surface_, kCharBox, this)),
       lblBytes_(FixedPitchLabel(this, "00000000 $00")),
       lblCell_(new QLabel(this)) {
   setObjectName("frmCharData");

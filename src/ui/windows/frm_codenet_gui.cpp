@@ -36,8 +36,8 @@ void TrimTo(QLineEdit& field, const QString& trimmed) {
 
 }  // namespace
 
-frmCodenetGUI::frmCodenetGUI(const Surroundings& with, QWidget* parent)
-    : QDialog(parent), with_(with), opbStd_(new QButtonGroup(this)), opbExec_(new QButtonGroup(this)) {
+frmCodenetGUI::frmCodenetGUI(const app::Surroundings& with, QtToolRunner& runner, QWidget* parent)
+    : QDialog(parent), with_(with), runner_(runner), opbStd_(new QButtonGroup(this)), opbExec_(new QButtonGroup(this)) {
   setObjectName("frmCodenetGUI");
   setWindowTitle("Codenet GUI");
   text_[kDestination] = AddField(kDestination, "Destination address");
@@ -74,7 +74,7 @@ frmCodenetGUI::frmCodenetGUI(const Surroundings& with, QWidget* parent)
     connect(group, &QButtonGroup::idToggled, this, &frmCodenetGUI::Compose);
   }
   connect(chkStd_, &QCheckBox::toggled, this, &frmCodenetGUI::Compose);
-  connect(&with_.runner, &QtToolRunner::Told, this, [this](const QString& line) {
+  connect(&runner_, &QtToolRunner::Told, this, [this](const QString& line) {
     if (is_sending_) outcome_->setText("Sending... " + line);
   });
   Load(c64out::LoadCodenetForm(with_.settings));
@@ -241,12 +241,12 @@ void frmCodenetGUI::Browse() {
 }
 
 void frmCodenetGUI::Send() {
-  if (with_.runner.IsShowing()) {  // the emulator is left running; once it is no longer waited for, it goes on here
-    with_.runner.Stop();
+  if (runner_.IsShowing()) {  // the emulator is left running; once it is no longer waited for, it goes on here
+    runner_.Stop();
     QTimer::singleShot(0, this, &frmCodenetGUI::Send);
     return;
   }
-  if (with_.runner.IsBusy()) return outcome_->setText("A build is at work.");
+  if (runner_.IsBusy()) return outcome_->setText("A build is at work.");
   is_sending_ = true;
   outcome_->setText("Sending...");
   cmdSend_->setEnabled(false);
@@ -254,7 +254,7 @@ void frmCodenetGUI::Send() {
   app::Guarded(
       with_.log, "frmCodenetGUI_cmdSend",
       [this] {
-        outcome_->setText(ToQt(c64out::SendFile(Form(), {with_.folders, with_.messages, with_.prompt, with_.runner})));
+        outcome_->setText(ToQt(c64out::SendFile(Form(), {with_, runner_})));
       },
       [this](const std::exception& error) { outcome_->setText(error.what()); });
   cmdSend_->setEnabled(true);
@@ -263,7 +263,7 @@ void frmCodenetGUI::Send() {
 }
 
 void frmCodenetGUI::Stop() {
-  if (is_sending_) with_.runner.Stop();
+  if (is_sending_) runner_.Stop();
 }
 
 // Escape stops a transfer first, and closes only then.

@@ -20,15 +20,7 @@ class frmCodenetGUI : public QDialog {
   Q_OBJECT
 
  public:
-  struct Surroundings {
-    const app::ProgramFolders& folders;
-    app::SettingsStore& settings;
-    const app::ErrorLog& log;
-    app::Messages& messages;
-    app::PromptOutput& prompt;
-    QtToolRunner& runner;
-  };
-  frmCodenetGUI(const Surroundings& with, QWidget* parent);
+  frmCodenetGUI(const app::Surroundings& with, QtToolRunner& runner, QWidget* parent);
 
   // Ends a transfer under way.
   void Stop();
@@ -56,7 +48,8 @@ class frmCodenetGUI : public QDialog {
   void Save();
   void Exit() { close(); }
 
-  Surroundings with_;
+  app::Surroundings with_;
+  QtToolRunner& runner_;
   std::array<QLineEdit*, 7> text_{};
   QButtonGroup* opbStd_;
   QButtonGroup* opbExec_;

@@ -1,11 +1,11 @@
-#include "support/c64_machine.h"
+#include "c64/machine.h"
 
 #include <algorithm>
 #include <string>
 
 #include "app/number_text.h"
 
-namespace kelvo::support {
+namespace kelvo::c64 {
 namespace {
 
 constexpr std::uint16_t kBasicLine = 0x0801, kBackInBasic = 0xE147, kIrqHandler = 0xEA31, kNmiHandler = 0xFE47;
@@ -22,7 +22,7 @@ bool IsFree(int address) {
 
 }  // namespace
 
-C64Machine::C64Machine() {
+Machine::Machine() {
   for (std::size_t i = 0; i < ram_.size(); ++i) ram_[i] = static_cast<std::uint8_t>(i * 37 + (i >> 8) * 11);
   for (std::size_t i = 0x800; i < 0xC00; ++i) io_[i] = static_cast<std::uint8_t>(i * 5);
   ram_[0x00] = 0x2F;
@@ -39,12 +39,12 @@ C64Machine::C64Machine() {
   for (const auto& [index, value] : registers) io_[index] = value;
 }
 
-void C64Machine::Poke(std::uint16_t address, std::uint8_t value) {
+void Machine::Poke(std::uint16_t address, std::uint8_t value) {
   ram_[address] = value;
   written_[address] = true;
 }
 
-void C64Machine::Load(std::span<const std::uint8_t> prg) {
+void Machine::Load(std::span<const std::uint8_t> prg) {
   if (prg.size() < 3) throw MachineFault("the PRG is empty");
   std::size_t address = static_cast<std::size_t>(prg[0] | prg[1] << 8);
   for (const std::uint8_t byte : prg.subspan(2)) {
@@ -53,7 +53,7 @@ void C64Machine::Load(std::span<const std::uint8_t> prg) {
   }
 }
 
-std::uint16_t C64Machine::SysAddress() const {
+std::uint16_t Machine::SysAddress() const {
   std::uint16_t at = kBasicLine + 4;  // behind the next line's address and the line's number
   if (ram_[at++] != kSys) throw MachineFault("the BASIC line does not begin with SYS");
   while (ram_[at] == ' ') ++at;
@@ -66,13 +66,13 @@ std::uint16_t C64Machine::SysAddress() const {
   return static_cast<std::uint16_t>(address);
 }
 
-C64Machine::Ending C64Machine::Run(std::uint64_t most_cycles) {
+Machine::Ending Machine::RunFrom(std::uint16_t address, std::uint64_t most_cycles) {
   cpu_.stack = unclean_ ? 0x20 : 0xF8;
   cpu_.Set(Cpu6502::kDecimal, unclean_);
   cpu_.Push((kBackInBasic - 1) >> 8);
   cpu_.Push((kBackInBasic - 1) & 0xFF);
   stack_at_start_ = cpu_.stack;
-  cpu_.pc = SysAddress();
+  cpu_.pc = address;
   next_restore_ = restore_every_;
   next_jiffy_ = kJiffy;
   while (cpu_.cycles < most_cycles) {
@@ -89,7 +89,7 @@ C64Machine::Ending C64Machine::Run(std::uint64_t most_cycles) {
   Fault("no end in sight", cpu_.pc);
 }
 
-void C64Machine::Interrupts() {
+void Machine::Interrupts() {
   if (restore_every_ != 0 && cpu_.cycles >= next_restore_) {
     next_restore_ += restore_every_;
     cpu_.Interrupt(0xFFFA);
@@ -105,7 +105,7 @@ void C64Machine::Interrupts() {
 }
 
 // A trap without a routine is the KERNAL's own answer to an interrupt, which changes nothing that a program sees.
-void C64Machine::CallTrap() {
+void Machine::CallTrap() {
   if (Chip(cpu_.pc) != Area::kRom || cpu_.pc == kBackInBasic) return;
   const auto trap = traps_.find(cpu_.pc);
   if (trap == traps_.end()) Fault("jump into a ROM", cpu_.pc);
@@ -120,7 +120,7 @@ void C64Machine::CallTrap() {
   cpu_.ReturnFromInterrupt();
 }
 
-C64Machine::Area C64Machine::Chip(std::uint16_t address) const {
+Machine::Area Machine::Chip(std::uint16_t address) const {
   const int port = (ram_[1] | ~ram_[0]) & 7;
   const bool basic = (port & 3) == 3, kernal = (port & 2) != 0, any = (port & 3) != 0;
   if (address >= 0xE000) return kernal ? Area::kRom : Area::kRam;
@@ -128,7 +128,7 @@ C64Machine::Area C64Machine::Chip(std::uint16_t address) const {
   return address >= 0xA000 && address < 0xC000 && basic ? Area::kRom : Area::kRam;
 }
 
-std::uint8_t C64Machine::Read(std::uint16_t address) {
+std::uint8_t Machine::Read(std::uint16_t address) {
   const Area area = Chip(address);
   if (area != Area::kRom) return area == Area::kRam ? ram_[address] : ReadIo(address);
   // The KERNAL's interrupt entries go on through their vectors in RAM.
@@ -137,20 +137,20 @@ std::uint8_t C64Machine::Read(std::uint16_t address) {
   Fault("reading a ROM as data", address);
 }
 
-std::uint8_t C64Machine::Fetch(std::uint16_t address) {
+std::uint8_t Machine::Fetch(std::uint16_t address) {
   if (Chip(address) != Area::kRam) Fault("running outside RAM", address);
   if (!written_[address]) Fault("running what nobody wrote", address);
   return ram_[address];
 }
 
-void C64Machine::Write(std::uint16_t address, std::uint8_t value) {
+void Machine::Write(std::uint16_t address, std::uint8_t value) {
   if (ShowsBitmap() && IsShown(address)) Fault("changing what is shown", address);
   if (Chip(address) == Area::kIo) return WriteIo(address, value);
   if (address < 0x100 && !IsFree(address)) Fault("writing a zero page byte that BASIC and KERNAL keep", address);
   Poke(address, value);
 }
 
-std::uint8_t C64Machine::ReadIo(std::uint16_t address) {
+std::uint8_t Machine::ReadIo(std::uint16_t address) {
   if (address < 0xD800) Fault("reading the VIC or the SID, which can only be written here", address);
   const std::uint8_t value = io_[address - 0xD000U];
   if (address >= 0xDC00) return value;
@@ -158,7 +158,7 @@ std::uint8_t C64Machine::ReadIo(std::uint16_t address) {
   return static_cast<std::uint8_t>((value & 0x0F) | (open_bus_ & 0xF0));
 }
 
-void C64Machine::WriteIo(std::uint16_t address, std::uint8_t value) {
+void Machine::WriteIo(std::uint16_t address, std::uint8_t value) {
   const std::size_t index = address - 0xD000U;
   if (index != 0xC0D && index != 0xD0D) {
     io_[index] = value;
@@ -168,7 +168,7 @@ void C64Machine::WriteIo(std::uint16_t address, std::uint8_t value) {
   io_[index] = static_cast<std::uint8_t>((value & 0x80) != 0 ? io_[index] | sources : io_[index] & ~sources);
 }
 
-bool C64Machine::IsShown(std::uint16_t address) const {
+bool Machine::IsShown(std::uint16_t address) const {
   if (Chip(address) == Area::kIo) {
     return (address >= 0xD800 && address < 0xDBE8) || address == 0xD016 || address == 0xD018 || address == 0xD021 ||
            address == 0xDD00 || address == 0xDD02;
@@ -178,14 +178,14 @@ bool C64Machine::IsShown(std::uint16_t address) const {
   return (offset >= bitmap && offset < bitmap + 8000) || (offset >= screen && offset < screen + 1000);
 }
 
-int C64Machine::VicBank() const {
+int Machine::VicBank() const {
   const int lines = (io_[0xD00] | ~io_[0xD02]) & 3;  // lines that are no outputs are pulled up
   return (3 - lines) * 0x4000;
 }
 
-void C64Machine::Fault(const std::string& what, std::uint16_t address) const {
+void Machine::Fault(const std::string& what, std::uint16_t address) const {
   throw MachineFault(what + ": $" + app::ToHex(address, 4) + ", program counter $" + app::ToHex(cpu_.pc, 4) +
                      " after " + std::to_string(cpu_.cycles) + " cycles");
 }
 
-}  // namespace kelvo::support
+}  // namespace kelvo::c64

@@ -1,4 +1,4 @@
-// The processor of a C64 for tests: every documented opcode but BRK, with the cycles that the real one takes.
+// The processor of a C64: every documented opcode but BRK, with the cycles that the real one takes.
 //
 // Decimal mode is left out: the flag is kept, but ADC and SBC always count in binary. Interrupts come from outside.
 #pragma once
@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <stdexcept>
 
-namespace kelvo::support {
+namespace kelvo::c64 {
 
 // What the processor's 65536 addresses reach.
 class Bus {
@@ -53,4 +53,4 @@ class Cpu6502 {
   std::uint64_t cycles = 0;
 };
 
-}  // namespace kelvo::support
+}  // namespace kelvo::c64

@@ -1,13 +1,13 @@
-// Fills against a slow, literal one, and the cases that users meet.
-#include "editing/flood_fill.h"
-
+// What goes over the whole picture: fills against a slow, literal one, and the passes.
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <set>
 
 #include "editing/cell_slots.h"
+#include "editing/flood_fill.h"
 #include "editing/set_data.h"
+#include "optimise/background_colour.h"
 #include "support/mazes.h"
 #include "support/pictures.h"
 #include "support/program.h"
@@ -144,6 +144,31 @@ TEST_F(FloodFillTest, EqualsTheLiteralRulesInContentAndOrder) {
   CompareWithLiteral(support::Maze(), 1, 1, 5, false);
   CompareWithLiteral(support::Tree(), 80, 100, 5, false);    // fills the queue
   CompareWithLiteral(support::Tree(84), 80, 100, 5, false);  // a window of 999 or 1001 entries takes other ways
+}
+
+TEST(OptimizeBackground, KeepsTheLookAndLeavesNoOtherPairForTheBackground) {
+  for (unsigned seed = 0; seed < 20; ++seed) {
+    PictureImage picture = support::RandomPicture(seed);
+    const PictureImage before = picture;
+    app::NoProgress none;
+    std::vector<int> cells;
+    const optimise::ShowCell show = [&](int cell) { cells.push_back(cell); };
+    optimise::OptimizeBackgroundColor(picture, none, show);
+    for (int y = 1; y <= 200; ++y) {
+      for (int x = 1; x <= 160; ++x) {
+        const model::PixelData pixel = model::GetPixelData(picture, x, y);
+        ASSERT_EQ(pixel.colour, model::GetPixelData(before, x, y).colour);
+        ASSERT_EQ(pixel.pair == model::BitPair::k00, pixel.colour == picture.BackgroundColour);
+      }
+    }
+    PictureImage expected = before;
+    expected.Bitmap = picture.Bitmap;
+    EXPECT_EQ(picture, expected);
+    optimise::OptimizeBackgroundColor(picture, none, show);
+    EXPECT_EQ(picture, expected);
+    EXPECT_EQ(cells.size(), 2000U);
+    EXPECT_EQ(cells.back(), 1000);
+  }
 }
 
 }  // namespace

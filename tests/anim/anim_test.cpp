@@ -1,12 +1,14 @@
-// The frames of an animation: their names, going from one to another, and the preview.
+// Animation mode switched on and off; the frames: their names, going from one to another, and the preview.
 #include <gtest/gtest.h>
 
 #include <array>
 #include <random>
 #include <tuple>
 
+#include "anim/anim_mode.h"
 #include "anim/frame_navigation.h"
 #include "anim/frame_player.h"
+#include "command/process_command.h"
 #include "files/picture_format.h"
 #include "support/platform.h"
 #include "support/program.h"
@@ -16,6 +18,107 @@ namespace {
 
 namespace fs = std::filesystem;
 using std::chrono::milliseconds;
+using support::Lines;
+
+class RecordingAnimDisplay final : public AnimDisplay {
+ public:
+  void ShowCheckMark(bool on) override { check_mark = on; }
+  void ShowStatus(std::string_view text) override { status = text; }
+  void ShowFrameWindow() override { window = true; }
+  void UnloadFrameWindow() override { window = false; }
+  bool check_mark = false, window = false;
+  std::string status = "ANIM=OFF";
+};
+
+class AnimModeTest : public testing::Test, protected support::Program {
+ protected:
+  void SetProperties(const std::string& animation_folder, const std::string& prefix) {
+    settings.Write(kFolder, animation_folder);
+    settings.Write(kAnimPrefix, prefix);
+  }
+  // What a toggle to "on" asks and tells.
+  Lines Toggle() {
+    messages.shown.clear();
+    mode.ToggleAnimMode();
+    EXPECT_EQ(mode.IsAnimModeChecked(), shows.check_mark);
+    EXPECT_EQ(shows.window, shows.check_mark);
+    EXPECT_EQ(shows.status, shows.check_mark ? "ANIM=ON" : "ANIM=OFF");
+    return messages.shown;
+  }
+
+  RecordingAnimDisplay shows;
+  AnimMode mode{surroundings, shows};
+  const std::string question =
+      "Initial animation frame could not be found\r\nDo you want to create anim0001.kvp based on your loaded kvp?";
+};
+
+TEST_F(AnimModeTest, AsksInOrderUntilTheFirstFrameIsThere) {
+  EXPECT_EQ(Toggle(), Lines{"Animation folder must be specified"});
+  SetProperties(Text(""), "");
+  EXPECT_EQ(Toggle(), Lines{"Animation prefix must be specified"});
+  SetProperties(Text(""), "anim");
+  EXPECT_EQ(Toggle(), Lines{question});
+  EXPECT_FALSE(shows.check_mark || fs::exists(folder / "anim0001.kvp"));
+
+  messages.yes = true;
+  EXPECT_EQ(Toggle(), Lines{question});
+  EXPECT_TRUE(shows.check_mark);
+  EXPECT_EQ(document.file.CurrentFilePath, Text("anim0001.kvp"));
+  EXPECT_EQ(fs::file_size(folder / "anim0001.kvp"), 10050U);
+  EXPECT_EQ(Toggle(), Lines{});
+  EXPECT_FALSE(shows.check_mark);
+
+  fs::rename(folder / "anim0001.kvp", folder / "ANIM0001.KVP");
+  EXPECT_EQ(Toggle(), Lines{});
+  EXPECT_TRUE(shows.check_mark);
+}
+
+TEST_F(AnimModeTest, LooksAtTheFolderOnlyAfterTheFirstFrame) {
+  messages.yes = true;
+  SetProperties(Text("gone/"), "anim");
+  const Lines told = Toggle();
+  ASSERT_EQ(told.size(), 3U);  // between the two: that the picture was not saved
+  EXPECT_EQ(told.front(), question);
+  EXPECT_EQ(told.back(), "Animation folder can not be found");
+
+  SetProperties(Text("gone"), "anim");
+  EXPECT_EQ(Toggle(), (Lines{question, "Animation folder can not be found"}));
+  EXPECT_TRUE(fs::exists(folder / "goneanim0001.kvp"));
+
+  fs::create_directory(folder / "x0001.kvp");  // in the place of the first frame, which cannot be saved then
+  SetProperties(Text(""), "x");
+  EXPECT_EQ(Toggle().size(), 2U);
+  EXPECT_FALSE(shows.check_mark);
+}
+
+TEST_F(AnimModeTest, TheCommandSetsTheFlagAloneOrSwitchesTheModeWithIt) {
+  const command::AnimationSwitch animation{[this] {
+                                             mode.ToggleAnimMode();
+                                             return mode.IsAnimModeChecked();
+                                           },
+                                           [this](bool on) { mode.SetAnimFlag(on); }};
+  const auto reply = [&](const char* line) {
+    command::ProcessCommand(line, surroundings, animation);
+    return prompt.lines.back();
+  };
+  EXPECT_EQ(reply("ANIM "), "ANIM OFF");  // there is no folder yet
+  SetProperties(Text(""), "anim");
+  messages.yes = true;
+  EXPECT_EQ(reply("ANIM ON"), "ANIM ON");
+  EXPECT_EQ(shows.status, "ANIM=ON");
+  EXPECT_FALSE(shows.check_mark || shows.window);
+  EXPECT_EQ(reply("ANIM"), "ANIM ON");
+  EXPECT_TRUE(shows.check_mark && shows.window);
+
+  mode.FrameWindowUnloaded();
+  EXPECT_EQ(shows.status, "ANIM=OFF");
+  EXPECT_FALSE(shows.check_mark);
+  EXPECT_EQ(reply("ANIM"), "ANIM ON");
+  EXPECT_EQ(reply("ANIM off"), "ANIM off");
+  EXPECT_EQ(shows.status, "ANIM=OFF");
+  EXPECT_TRUE(shows.check_mark);
+  EXPECT_EQ(reply("ANIM"), "ANIM OFF");
+}
 
 // A frame's file; its seed stands in every byte of its bitmap.
 void WriteFrame(const fs::path& file, int seed) {
@@ -43,7 +146,7 @@ class FramesTest : public testing::Test, protected support::Program {
   int Seed() const { return document.picture.Bitmap[1]; }
   static int SeedIn(const fs::path& file) { return support::ReadFile(file).at(2050); }
 
-  FrameNavigation frames{{settings, messages, document, files}};
+  FrameNavigation frames{surroundings};
 };
 
 TEST(FrameNames, RunFolderPrefixAndNumberTogether) {
@@ -90,8 +193,8 @@ TEST_F(FramesTest, TheFourButtonsAndTheNumberField) {
   (void)frames.GoTo("5");
   document.picture.Bitmap[1] = 77;
   EXPECT_EQ(frames.Next(), "");  // behind the last frame; the answer is no
-  EXPECT_EQ(messages.shown, support::Lines{"There is no frame after this one\r\nDo you want to create Anim0006.kvp "
-                                           "based on the picture in memory?"});
+  EXPECT_EQ(messages.shown, Lines{"There is no frame after this one\r\nDo you want to create Anim0006.kvp "
+                                  "based on the picture in memory?"});
   EXPECT_TRUE(document.HasUnsavedWork());
   messages.yes = true;
   EXPECT_EQ(frames.Next(), "");

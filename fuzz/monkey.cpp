@@ -11,10 +11,10 @@
 #include <random>
 
 #include "files/picture_format.h"
-#include "main_frame_fixture.h"
 #include "model/full_view.h"
 #include "support/pictures.h"
 #include "support/platform.h"
+#include "ui/main_frame_fixture.h"
 #include "ui/windows/frm_bmp_view.h"
 
 namespace kelvo::ui {

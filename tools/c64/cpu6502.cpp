@@ -1,9 +1,9 @@
-#include "support/cpu6502.h"
+#include "c64/cpu6502.h"
 
 #include <algorithm>
 #include <string>
 
-namespace kelvo::support {
+namespace kelvo::c64 {
 namespace {
 
 using Cpu = Cpu6502;
@@ -268,4 +268,4 @@ std::uint16_t Cpu6502::ReadWord(std::uint16_t low, std::uint16_t high) {
   return static_cast<std::uint16_t>(low_byte | bus.Read(high) << 8);
 }
 
-}  // namespace kelvo::support
+}  // namespace kelvo::c64

@@ -1,9 +1,15 @@
-// A C64 that runs a program and tells what it shows.
+// A C64 without ROMs that runs a program, and notices what a sound program does not do.
+//
+//   Machine machine;
+//   machine.Load(prg);
+//   machine.Run();                          // from the SYS of its BASIC line to its end; throws MachineFault
+//   const Screen screen = ScreenOf(machine);  // what it shows then, see c64/screen.h
 //
 // It has the processor with $01 banking, RAM, colour RAM, the VIC's registers, which can only be written, the VIC's
-// bank, and the 60 Hz interrupt. There are no ROMs: a KERNAL routine is a trap that a test sets, and what must not
+// bank, and the 60 Hz interrupt. There are no ROMs: a KERNAL routine is a trap that the caller sets, and what must not
 // happen is a MachineFault: executing what nobody wrote, reading ROM as data, calling a routine without a trap, writing
 // a zero page byte that BASIC and KERNAL keep, changing what a shown bitmap consists of, running on without an end.
+// There is no raster beam, no SID, no second CIA but for the VIC's bank, and the interrupt comes from its timer alone.
 #pragma once
 
 #include <array>
@@ -12,17 +18,19 @@
 #include <map>
 #include <span>
 
-#include "support/cpu6502.h"
+#include "c64/cpu6502.h"
 
-namespace kelvo::support {
+namespace kelvo::c64 {
 
-class C64Machine final : public Bus {
+class Machine final : public Bus {
  public:
   // How a program ends: it jumps to itself for ever, or returns to BASIC.
   enum class Ending { kLoops, kReturns };
 
+  static constexpr std::uint64_t kMostCycles = 20'000'000;  // about 20 seconds
+
   // A machine after power-on whose RAM holds leftovers of an earlier program.
-  C64Machine();
+  Machine();
 
   // Puts a PRG (its first two bytes are the load address) into RAM.
   void Load(std::span<const std::uint8_t> prg);
@@ -34,7 +42,9 @@ class C64Machine final : public Bus {
   void LeaveUnclean() { unclean_ = true; }
 
   // Starts the program from the SYS of its BASIC line, as RUN does. Throws MachineFault.
-  Ending Run(std::uint64_t most_cycles = 20'000'000);
+  Ending Run(std::uint64_t most_cycles = kMostCycles) { return RunFrom(SysAddress(), most_cycles); }
+  // Starts it at `address`, as SYS does. Throws MachineFault.
+  Ending RunFrom(std::uint16_t address, std::uint64_t most_cycles = kMostCycles);
 
   // Where the VIC's bank of 16 KB begins, and what was written into I/O ($D000-$DFFF, colour RAM from $D800 on).
   int VicBank() const;
@@ -74,4 +84,4 @@ class C64Machine final : public Bus {
   bool unclean_ = false;
 };
 
-}  // namespace kelvo::support
+}  // namespace kelvo::c64
