@@ -10,4 +10,4 @@ check_packages=(clang-format clang-tidy cppcheck)
 fuzz_packages=(clang libclang-rt-14-dev)
 windows_packages=(g++-mingw-w64-x86-64-posix gcc g++ cmake ninja-build make dpkg-dev qt6-base-dev qt6-base-dev-tools
   libgl-dev libqt6svg6 googletest icoutils nsis)
-wine_packages=(wine wine64 fonts-wine xvfb xauth openbox)
+wine_packages=(wine wine64 xvfb xauth openbox)

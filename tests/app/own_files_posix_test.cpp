@@ -1,12 +1,11 @@
-// Files with the rights, links, locks and limits of POSIX.
+// Files with the rights, links, locks and pipes of POSIX.
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/file.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <csignal>
+#include <array>
 
 #include "app/durable_file.h"
 #include "app/path_text.h"
@@ -21,14 +20,10 @@ namespace {
 
 namespace fs = std::filesystem;
 
-TEST(PathText, TakesABackslashForAPartOfAName) {
-  EXPECT_EQ(FileNamePart("a\\b"), "a\\b");  // a backslash is part of a name here
-}
-
 TEST(WholeFile, DoesNotWaitForTheWriterOfAPipe) {
   const support::TempFolder folder;
   ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0600), 0);
-  EXPECT_THROW(ReadWholeFile(folder / "pipe", 10), FileError);  // and does not wait for a writer
+  EXPECT_THROW(ReadWholeFile(folder / "pipe", 10), FileError);
 }
 
 TEST(WholeFile, WritesThroughALinkAndKeepsRights) {
@@ -97,22 +92,6 @@ TEST(OwnFiles, WhatKilledWritersLeftIsSweptAndNothingElse) {
   SweepTemporaryFiles(folder.Path());
   close(writing);
   EXPECT_EQ(support::NamesIn(folder.Path()), (support::Lines{".kelvo-2.tmp", ".kelvo-settings", "kelvo-3.tmp"}));
-}
-
-TEST(WholeFile, AWriteThatFailsMidwayLeavesTheOldFile) {
-  const support::TempFolder folder;
-  WriteWholeFile(folder / "picture", Bytes(100, 7));
-  const auto previous = std::signal(SIGXFSZ, SIG_IGN);
-  rlimit before{};
-  getrlimit(RLIMIT_FSIZE, &before);
-  rlimit small = before;
-  small.rlim_cur = 5000;  // the disk is full after 5000 bytes
-  setrlimit(RLIMIT_FSIZE, &small);
-  EXPECT_THROW(WriteWholeFile(folder / "picture", Bytes(10050, 8)), FileError);
-  setrlimit(RLIMIT_FSIZE, &before);
-  std::signal(SIGXFSZ, previous);
-  EXPECT_EQ(support::ReadFile(folder / "picture"), Bytes(100, 7));
-  EXPECT_EQ(support::NamesIn(folder.Path()).size(), 1U);
 }
 
 }  // namespace

@@ -71,7 +71,7 @@ struct Scene : support::Program {
     settings.Write(files::kFilePath, "/pictures");
     document.picture = support::RandomPicture(5);
     document.picture.BackgroundColour = *model::C64Colour::FromNumber(11);
-    document.file = files::SetFileParameters(folder / "art/My Pic.koa");
+    document.file = files::SetFileParameters(folder / "art/pic.koa");
   }
 
   bool Build(const CompoPicChoice& choice) {
@@ -108,12 +108,12 @@ TEST(BuildCompoPic, DoesItsStepsInOrderAndLeavesWhatWasAskedFor) {
   };
   const std::string on_disk = "a.name.of.twenty.prg";
   for (const Case& row : {
-           Case{kPrg, "CREATING PRG", {"--> PRG complete."}, {}, {"My Pic.prg"}},
+           Case{kPrg, "CREATING PRG", {"--> PRG complete."}, {}, {"pic.prg"}},
            Case{kVice,
                 "CREATING D64",
                 {"--> D64 complete.", "--> Launching VICE."},
-                {"c1541 My Pic.d64 -write bmpshow.prg " + on_disk, "x64sc -autostart My Pic.d64:" + on_disk},
-                {"My Pic.d64"}},
+                {"c1541 pic.d64 -write bmpshow.prg " + on_disk, "x64sc -autostart pic.d64:" + on_disk},
+                {"pic.d64"}},
            Case{kPreview,
                 "CODENET",
                 {"--> Sending to 127.0.0.1", "--> Transfer complete"},
@@ -146,7 +146,7 @@ TEST(BuildCompoPic, DoesItsStepsInOrderAndLeavesWhatWasAskedFor) {
 }
 
 TEST_F(BuildCompoPicTest, TakesANameWithoutAnEnding) {
-  document.file = files::SetFileParameters(app::TextFromPath(folder / "art/no dot"));
+  document.file = files::SetFileParameters(folder / "art/no dot");
   EXPECT_TRUE(Build(kPrg));
   EXPECT_EQ(support::ReadText(folder / "art/.prg"), System("decrush.tmp") + " made");
 }
@@ -158,9 +158,9 @@ TEST(BuildCompoPic, KeepsAPrgThatIsNoProgramInBackup) {
   for (const app::Bytes& older : {program, more_than_memory, {1, 7, 1, 2}, {2, 8, 1, 2}, {1}}) {
     for (const CompoPicChoice& choice : {kPrg, kPreview}) {
       Scene scene;
-      support::WriteFile(scene.folder / "art/My Pic.prg", older);
+      support::WriteFile(scene.folder / "art/pic.prg", older);
       EXPECT_TRUE(scene.Build(choice));
-      const std::string copy = "My Pic_" + app::BackupStamp(scene.clock.Now()) + "_replaced.prg";
+      const std::string copy = "pic_" + app::BackupStamp(scene.clock.Now()) + "_replaced.prg";
       const auto backup = scene.folders.Backup();
       EXPECT_EQ(support::NamesIn(backup), older == program ? Lines{} : Lines{copy});
       EXPECT_EQ(support::ReadFile(backup / copy), older == program ? app::Bytes{} : older);
@@ -219,7 +219,7 @@ TEST(BuildCompoPic, TellsWhateverFailsAndLeavesTheOlderResult) {
            Case{kPrg, Fails("crush", {.stopped = true, .failure = ""}), "--> Build stopped."},
            Case{kPrg, Fails("crush", {}), "crush: left no bmpshow.pak"},
            Case{kPrg, Without("decrush.tas"), "decrush.tas"},
-           Case{kPrg, no_folder, "My Pic.prg"},
+           Case{kPrg, no_folder, "pic.prg"},
            Case{kD64, Without("empty.d64"), "empty.d64"},
            Case{kD64, Fails("c1541", {.failure = "killed"}), "c1541: killed"},
            Case{kD64, Named("a,b.kvp"), "c1541: "},  // a name that disks cannot hold
@@ -230,7 +230,7 @@ TEST(BuildCompoPic, TellsWhateverFailsAndLeavesTheOlderResult) {
     SCOPED_TRACE(row.said);
     Scene scene;
     const std::filesystem::path art = scene.folder / "art", system = scene.folders.System();
-    for (const char* older : {"My Pic.prg", "My Pic.d64"}) support::WriteText(art / older, "older");
+    for (const char* older : {"pic.prg", "pic.d64"}) support::WriteText(art / older, "older");
     row.break_it(scene);
     EXPECT_FALSE(scene.Build(row.choice));
     Lines& lines = scene.prompt.lines;
@@ -244,9 +244,9 @@ TEST(BuildCompoPic, TellsWhateverFailsAndLeavesTheOlderResult) {
       EXPECT_FALSE(exists(system / work)) << work;
     }
     if (!exists(art)) continue;
-    EXPECT_EQ(support::NamesIn(art), (Lines{"My Pic.d64", "My Pic.prg"}));
-    EXPECT_EQ(support::ReadText(art / "My Pic.prg"), "older");
-    EXPECT_EQ(support::ReadText(art / "My Pic.d64"), row.choice.LaunchVice ? "written image" : "older");
+    EXPECT_EQ(support::NamesIn(art), (Lines{"pic.d64", "pic.prg"}));
+    EXPECT_EQ(support::ReadText(art / "pic.prg"), "older");
+    EXPECT_EQ(support::ReadText(art / "pic.d64"), row.choice.LaunchVice ? "written image" : "older");
   }
 }
 

@@ -30,7 +30,9 @@ void TerminalProgress::Begin(int last) {
 }
 
 void TerminalProgress::Advance(int value) {
-  if (is_shown_) std::fprintf(stderr, "%d of %d bytes\r", value, last_);
+  if (!is_shown_) return;
+  std::fprintf(stderr, "%d of %d bytes\r", value, last_);
+  std::fflush(stderr);  // not every system does so by itself
 }
 
 // On a terminal the last line stays; for Kelvo it is replaced by what is wrong.
