@@ -1,9 +1,11 @@
 // Programs run as a user runs them, with their exit code and what they complain of.
 #pragma once
 
-#include <cstdint>
+#include <memory>
 #include <string>
 #include <vector>
+
+class QProcess;
 
 namespace kelvo::support {
 
@@ -26,7 +28,7 @@ class RunningTool {
   ToolRun Wait();
 
  private:
-  std::intptr_t process_ = -1, errors_ = -1;  // the system's handles; -1: none
+  std::unique_ptr<QProcess> process_;
 };
 
 ToolRun RunTool(const std::string& program, const std::vector<std::string>& arguments);
