@@ -44,10 +44,6 @@ std::string ToolCommand::InterpreterArguments() const {
   return quotes ? "/C \"" + line.substr(1) + "\"" : "/C" + line;
 }
 
-std::string ToolCommand::WindowsCommandLine(const std::string& interpreter) const {
-  return interpreter + " " + InterpreterArguments();
-}
-
 std::optional<std::string> FindCommandInterpreter() {
   const auto* found = std::find_if(kInterpreters.begin(), kInterpreters.end(), [](const char* path) {
     std::error_code ignored;

@@ -20,9 +20,6 @@ struct ToolCommand {
   // so is the whole; a percent sign, which no quote protects, is told as kPercentVariable. An empty word is nothing.
   // Throws std::runtime_error where a word holds a quote, a line end or a zero, which nothing protects.
   std::string InterpreterArguments() const;
-
-  // The whole command line on Windows, given the interpreter's path.
-  std::string WindowsCommandLine(const std::string& interpreter) const;
 };
 
 // What has the value "%" in the environment of the command interpreter.

@@ -26,9 +26,7 @@ class WindowsBuild : public MainFrameTest {
     Action("mnuCreatePRGCompopic")->trigger();
     ASSERT_EQ(PromptLines().last(), "--> PRG complete.") << FromQt(PromptLines().join('\n'));
     c64::Machine machine;
-    machine.Load(support::ReadFile(place / "pic.prg"));
-    ASSERT_EQ(machine.Run(), c64::Machine::Ending::kLoops);
-    support::ExpectShows(machine, frame->Document().picture);
+    support::ExpectShows(support::ReadFile(place / "pic.prg"), frame->Document().picture, machine);
   }
 };
 
@@ -43,11 +41,11 @@ TEST_F(WindowsBuild, WorksInAFolderOfAnyName) {
 TEST(WindowsTools, EndWithAllThatTheyStarted) {
   const support::TempFolder folder;
   const fs::path stamp = folder / "stamp.txt", tool = folder / "tool.bat";
-  support::WriteText(tool, "ping -n 4 127.0.0.1 >NUL\r\necho late >" + app::TextFromPath(stamp) + "\r\n");
+  support::WriteText(tool, "ping -n 3 127.0.0.1 >NUL\r\necho late >" + app::TextFromPath(stamp) + "\r\n");
   QtToolRunner runner;
   QTimer::singleShot(500, &runner, &QtToolRunner::Stop);
   EXPECT_TRUE(runner.RunAndWait({app::TextFromPath(tool), {}}).stopped);
-  QTest::qWait(5000);
+  QTest::qWait(3000);
   EXPECT_FALSE(exists(stamp));
 }
 
