@@ -5,6 +5,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "app/clock.h"
@@ -39,7 +40,12 @@ class MapSettings final : public app::SettingsStore {
 class FixedClock final : public app::Clock {
  public:
   std::tm Now() const override { return time; }
-  std::tm time{5, 7, 9, 3, 1, 126, 0, 0, 0, 0, nullptr};  // 2026-02-03 09:07:05
+  std::tm time = [] {
+    std::tm made{};  // 2026-02-03 09:07:05; systems have further members of their own
+    std::tie(made.tm_sec, made.tm_min, made.tm_hour) = std::tuple(5, 7, 9);
+    std::tie(made.tm_mday, made.tm_mon, made.tm_year) = std::tuple(3, 1, 126);
+    return made;
+  }();
 };
 
 class RecordingMessages : public app::Messages {
