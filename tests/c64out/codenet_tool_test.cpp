@@ -226,7 +226,7 @@ TEST_F(CodenetTool, TellsAtOnceWhenNothingListens) {
 }
 
 TEST_F(CodenetTool, ReachesTheReceiverForDevelopersOverABadNetwork) {
-  const std::string port = std::to_string(support::CodenetServer().Port()), memory = folder_ / "memory";
+  const std::string port = std::to_string(support::CodenetServer().Port()), memory = (folder_ / "memory").string();
   support::RunningTool receiver(KELVO_CODENET_RECEIVER, {"-p", port, "-l", "5", "-1", memory});
   const std::string file = File("pic.prg", support::CountingBytes(3002));  // loads to $0A03
   for (int tries = 0; tries < 100; ++tries) {                              // until it listens

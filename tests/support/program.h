@@ -39,7 +39,12 @@ class MapSettings final : public app::SettingsStore {
 class FixedClock final : public app::Clock {
  public:
   std::tm Now() const override { return time; }
-  std::tm time{5, 7, 9, 3, 1, 126, 0, 0, 0, 0, nullptr};  // 2026-02-03 09:07:05
+  std::tm time = [] {
+    std::tm start{};  // 2026-02-03 09:07:05
+    start.tm_year = 126, start.tm_mon = 1, start.tm_mday = 3;
+    start.tm_hour = 9, start.tm_min = 7, start.tm_sec = 5;
+    return start;
+  }();
 };
 
 class RecordingMessages : public app::Messages {

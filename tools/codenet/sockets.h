@@ -44,7 +44,7 @@ inline void CloseSocket(SocketHandle socket) {
 }
 inline void NeverBlock(SocketHandle socket) {
   u_long on = 1;
-  ioctlsocket(socket, FIONBIO, &on);
+  ioctlsocket(socket, static_cast<long>(FIONBIO), &on);
 }
 inline std::error_code SocketError() {
   return {WSAGetLastError(), std::system_category()};
