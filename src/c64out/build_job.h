@@ -9,6 +9,8 @@
 
 #include "app/surroundings.h"
 #include "c64out/compo_pic_choice.h"
+#include "c64out/fill_template.h"
+#include "c64out/output_settings.h"
 #include "c64out/tool_runner.h"
 #include "files/document.h"
 
@@ -50,6 +52,11 @@ class BuildJob {
 
   // A setting, trimmed of surrounding blanks.
   std::string Setting(const app::Setting& setting) const;
+
+  bool IsOn(const app::Setting& setting) const { return app::ReadNumber(with_.settings, setting, 0, 1) == 1; }
+
+  // The lines of templates that this build asks for.
+  TemplateMarks Marks() const { return {choice_.ViaCodenet, IsOn(kKeyEndsPicture)}; }
 
   // The picture's name without its extension: everything from the last "." on goes. A name without a "." gives an empty
   // text, on purpose.

@@ -1,6 +1,7 @@
 #include "c64out/fill_template.h"
 
 #include <stdexcept>
+#include <utility>
 
 #include "app/path_text.h"
 #include "c64out/text_lines.h"
@@ -8,9 +9,20 @@
 namespace kelvo::c64out {
 namespace {
 
-constexpr std::string_view kNetworkOnly = "<CC>";
+constexpr std::pair<std::string_view, bool TemplateMarks::*> kMarks[] = {{"<CC>", &TemplateMarks::via_codenet},
+                                                                         {"<KEY>", &TemplateMarks::key_ends}};
 constexpr std::string_view kEndsLiteral = "\"'\r\n";
 constexpr std::string_view kBeginsMark = "[<";  // a placeholder, or the marker of a line
+
+// A line without its marks; empty when one of them is not asked for.
+std::optional<std::string> WithoutMarks(std::string line, const TemplateMarks& marks) {
+  for (const auto& [mark, wanted] : kMarks) {
+    if (line.find(mark) == std::string::npos) continue;
+    if (!(marks.*wanted)) return std::nullopt;
+    line = Replaced(line, mark, "");
+  }
+  return line;
+}
 
 }  // namespace
 
@@ -18,13 +30,22 @@ std::optional<std::string> FilledTemplate(std::string_view text, const TemplateF
   Lines filled;
   bool is_found = false;
   for (const std::string& line : LinesOf(text)) {
-    if (line.find(kNetworkOnly) != std::string::npos && !filling.via_codenet) continue;
-    const std::string unmarked = Replaced(line, kNetworkOnly, "");
-    is_found = is_found || unmarked.find(filling.placeholder) != std::string::npos;
-    filled.push_back(Replaced(unmarked, filling.placeholder, filling.replacement));
+    const auto unmarked = WithoutMarks(line, filling.marks);
+    if (!unmarked) continue;
+    is_found = is_found || unmarked->find(filling.placeholder) != std::string::npos;
+    filled.push_back(Replaced(*unmarked, filling.placeholder, filling.replacement));
   }
   if (!is_found) return std::nullopt;
   return JoinedLines(filled);
+}
+
+int TemplateLineOf(std::string_view text, int filled, const TemplateMarks& marks) {
+  int number = 0;
+  for (const std::string& line : LinesOf(text)) {
+    ++number;
+    if (WithoutMarks(line, marks) && --filled == 0) return number;
+  }
+  return 0;
 }
 
 bool FitsLiteral(std::string_view text) {

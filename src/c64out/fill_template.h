@@ -1,4 +1,4 @@
-// Assembler templates: texts with a placeholder, and lines for network builds alone.
+// Assembler templates: texts with a placeholder, and lines that are there only when they are asked for.
 #pragma once
 
 #include <filesystem>
@@ -8,16 +8,25 @@
 
 namespace kelvo::c64out {
 
+// The lines that are asked for.
+struct TemplateMarks {
+  bool via_codenet = false;  // "<CC>": the program is started over a network
+  bool key_ends = false;     // "<KEY>": a key ends the picture
+};
+
 struct TemplateFilling {
   std::string_view placeholder;  // case-sensitive, not empty
   std::string_view replacement;
-  bool via_codenet;
+  TemplateMarks marks;
 };
 
-// A template's text line by line, each ended by CR LF. A line with "<CC>" is dropped unless `via_codenet`; then it
-// loses the marker. Every occurrence of the placeholder becomes the replacement, which stays as it is whatever it
-// holds. Empty when no line that is left holds the placeholder.
+// A template's text line by line, each ended by CR LF. A line with a mark that is not asked for is dropped; others lose
+// their marks. Every occurrence of the placeholder becomes the replacement, which stays as it is whatever it holds.
+// Empty when no line that is left holds the placeholder.
 std::optional<std::string> FilledTemplate(std::string_view text, const TemplateFilling& filling);
+
+// The number (from 1) of the line of a template that became line `filled` (from 1) of the result; 0 for none.
+int TemplateLineOf(std::string_view text, int filled, const TemplateMarks& marks);
 
 // False for a text that would leave a text literal, or its line, in an assembler source: one with a quote or a line
 // end.

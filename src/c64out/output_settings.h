@@ -9,6 +9,9 @@ namespace kelvo::c64out {
 
 inline constexpr app::Setting kVicePath{"VICESettings", "VICEPath", ""};
 inline constexpr app::Setting kVicePrgName{"VICESettings", "PRGName", ""};
+// 0 or 1 each.
+inline constexpr app::Setting kCheckPrograms{"VICESettings", "CheckPrograms", "1"};
+inline constexpr app::Setting kKeyEndsPicture{"VICESettings", "KeyEndsPicture", "0"};
 
 // Where a C64 is looked for until the user says otherwise. It is only a text: nothing is sent until the user sends.
 inline constexpr std::string_view kDefaultC64Address = "192.168.1.64";

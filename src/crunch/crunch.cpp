@@ -14,10 +14,14 @@ namespace {
 using Bytes = std::vector<std::uint8_t>;
 using BytesView = std::span<const std::uint8_t>;
 
-constexpr int kPlain = 0, kPicture = 1, kPictureProgram = 2, kInColumns = 128;
+constexpr int kPlain = 0, kPicture = 1, kPictureProgram = 2, kColoursInBytes = 64, kInColumns = 128;
 
 constexpr std::size_t kBitmap = 8000, kCells = 1000, kColours = kBitmap + kCells;
-constexpr std::size_t kPictureBytes = kColours + kCells + 1, kLoadAddress = 2, kMostViewerCode = 1024;
+constexpr std::size_t kPictureBytes = kColours + kCells + 1, kLoadAddress = 2, kMostViewerCode = 6000;
+
+// What the ways that a C64 needs code for have to save: nibbles, and a bitmap that is to be turned, which takes the
+// time of loading as much again.
+constexpr int kBitsForNibbles = 8 * 26, kBitsForTurning = 8 * 110;
 
 // The bytes in front of the picture in a file of `layout`.
 std::size_t StartOf(int layout) {
@@ -28,10 +32,7 @@ int LayoutOf(BytesView bytes) {
   const bool picture = bytes.size() == kPictureBytes;
   const std::size_t least = kLoadAddress + kPictureBytes;
   if (!picture && (bytes.size() < least || bytes.size() > least + kMostViewerCode)) return kPlain;
-  const int layout = picture ? kPicture : kPictureProgram;
-  const BytesView colours = bytes.subspan(StartOf(layout) + kColours, kCells);
-  const bool nibbles = std::all_of(colours.begin(), colours.end(), [](std::uint8_t byte) { return byte < 16; });
-  return nibbles ? layout : kPlain;
+  return picture ? kPicture : kPictureProgram;
 }
 
 // The place in columns of byte `at` of a bitmap.
@@ -79,14 +80,35 @@ void Write(BytesView bytes, Literals literals, const Effort& effort, BitWriter& 
   WriteSection(bytes, parse.tokens, literals, parse.code, writer);
 }
 
-// Writes the layout and the bitmap, in rows or in columns, as a quick look tells.
-void WriteBitmap(int layout, BytesView bitmap, const Effort& effort, BitWriter& writer) {
-  const Bytes columns = ToColumns(bitmap);
-  const Effort quick{std::min(effort.passes, 3), 1, effort.window};
-  const bool turned =
-      FindTokens(columns, Literals::kBytes, quick).bits < FindTokens(bitmap, Literals::kBytes, quick).bits;
-  writer.PutByte(layout + (turned ? kInColumns : 0));
-  Write(turned ? BytesView(columns) : bitmap, Literals::kBytes, effort, writer);
+Effort Quick(const Effort& effort) {
+  return {std::min(effort.passes, 3), 1, effort.window};
+}
+
+// Whether a quick look finds `one` shorter by more than `margin` bits.
+bool IsShorter(const Parse& one, const Parse& other, int margin) {
+  return one.bits + margin < other.bits;
+}
+
+bool PacksBetterInColumns(BytesView bitmap, const Effort& effort) {
+  return IsShorter(FindTokens(ToColumns(bitmap), Literals::kBytes, Quick(effort)),
+                   FindTokens(bitmap, Literals::kBytes, Quick(effort)), kBitsForTurning);
+}
+
+bool PacksBetterInNibbles(BytesView colours, const Effort& effort) {
+  return std::all_of(colours.begin(), colours.end(), [](std::uint8_t byte) { return byte < 16; }) &&
+         IsShorter(FindTokens(colours, Literals::kNibbles, Quick(effort)),
+                   FindTokens(colours, Literals::kBytes, Quick(effort)), kBitsForNibbles);
+}
+
+void WritePicture(int layout, BytesView picture, const Effort& effort, BitWriter& writer) {
+  const BytesView bitmap = picture.first(kBitmap), colours = picture.subspan(kColours, kCells);
+  const bool in_columns = PacksBetterInColumns(bitmap, effort);
+  const Literals literals = PacksBetterInNibbles(colours, effort) ? Literals::kNibbles : Literals::kBytes;
+  writer.PutByte(layout + (in_columns ? kInColumns : 0) + (literals == Literals::kBytes ? kColoursInBytes : 0));
+  const Bytes columns = in_columns ? ToColumns(bitmap) : Bytes();
+  Write(in_columns ? columns : bitmap, Literals::kBytes, effort, writer);
+  Write(picture.subspan(kBitmap, kCells), Literals::kBytes, effort, writer);
+  Write(colours, literals, effort, writer);
 }
 
 }  // namespace
@@ -107,23 +129,24 @@ std::vector<std::uint8_t> Crunch(BytesView bytes, int level) {
   const BytesView picture = bytes.subspan(StartOf(layout));
   Bytes rest(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(StartOf(layout)));
   Append(rest, picture.subspan(kColours + kCells));
-  WriteBitmap(layout, picture.first(kBitmap), effort, writer);
-  Write(picture.subspan(kBitmap, kCells), Literals::kBytes, effort, writer);
-  Write(picture.subspan(kColours, kCells), Literals::kNibbles, effort, writer);
+  WritePicture(layout, picture, effort, writer);
   Write(rest, Literals::kBytes, effort, writer);
   return writer.Bytes();
 }
 
 std::vector<std::uint8_t> Decrunch(BytesView packed) {
   BitReader reader(packed);
-  const int first = reader.GetByte(), layout = first % kInColumns;
-  if (layout > kPictureProgram || first == kInColumns) throw std::runtime_error("this is no packed data");
+  const int first = reader.GetByte(), layout = first % kColoursInBytes;
+  if (layout > kPictureProgram || (layout == kPlain && first != kPlain)) {
+    throw std::runtime_error("this is no packed data");
+  }
   Bytes picture;
   if (layout != kPlain) {
     const Bytes bitmap = ReadSection(Literals::kBytes, kBitmap, reader);
-    Append(picture, first == layout ? bitmap : FromColumns(bitmap));
+    Append(picture, (first & kInColumns) == 0 ? bitmap : FromColumns(bitmap));
     Append(picture, ReadSection(Literals::kBytes, kCells, reader));
-    Append(picture, ReadSection(Literals::kNibbles, kCells, reader));
+    Append(picture,
+           ReadSection((first & kColoursInBytes) == 0 ? Literals::kNibbles : Literals::kBytes, kCells, reader));
   }
   const Bytes rest = ReadSection(Literals::kBytes, kMostBytesToCrunch - picture.size(), reader);
   if (!reader.AtEnd()) throw std::runtime_error("the packed data is damaged: bytes stand behind its end");

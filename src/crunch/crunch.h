@@ -12,11 +12,12 @@
 //                1: a picture of 10001 bytes in four sections: bitmap 8000, screen 1000, colours 1000, background
 //                2: a program of two bytes load address, a picture and code: bitmap, screen, colours, and a section of
 //                   the load address and what stands behind the colours
+//                plus 64 for colours in bytes, which are nibbles else
 //                plus 128 for a bitmap in columns: byte 8 * (40 * row + column) + line stands at
 //                200 * column + 8 * row + line
 //
-// section.h tells what a section is, crunch_stream.h how bits and bytes lie in the stream; bits go on from
-// section to section. The colours of a picture are nibbles: where one is not, the bytes are packed as layout 0.
+// section.h tells what a section is, stream.h how bits and bytes lie in the stream; bits go on from section to section.
+// What is no picture by its size is layout 0; a program's code may be 6000 bytes long.
 #pragma once
 
 #include <cstdint>

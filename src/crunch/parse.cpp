@@ -23,7 +23,7 @@ std::vector<std::vector<Token>> FindCopies(BytesView bytes, int window) {
   for (std::size_t offset = 1; offset < bytes.size() && offset <= static_cast<std::size_t>(window); ++offset) {
     int run = 0;
     for (std::size_t at = bytes.size(); at-- > offset;) {
-      run = bytes[at] == bytes[at - offset] ? std::min(run + 1, kMostLength) : 0;
+      run = bytes[at] == bytes[at - offset] ? std::min(run + 1, kMostLong) : 0;
       if (run >= kLeastNewCopy && (copies[at].empty() || copies[at].back().length < run)) {
         copies[at].push_back({run, static_cast<int>(offset)});
       }
@@ -128,12 +128,13 @@ void Search::TryNewCopies(std::size_t place, State state) {
   const std::size_t i = Cheapest(known);
   int length = kLeastNewCopy;
   for (const Token& copy : copies_[place]) {
-    for (; length <= copy.length; ++length) {
-      if (!code_.Takes(length, copy.offset)) continue;
-      const int bits = known[i].bits + kFlag + GammaBits(length - 1) + code_.Bits(length, copy.offset);
-      Offer(place + static_cast<std::size_t>(length), kBehindCopy,
-            {bits, copy.offset, {length, copy.offset}, state, i});
-    }
+    const auto offer = [&](int bytes) {
+      if (!code_.Takes(bytes, copy.offset)) return;
+      const int bits = known[i].bits + kFlag + NewCopyLengthBits(bytes) + code_.Bits(bytes, copy.offset);
+      Offer(place + static_cast<std::size_t>(bytes), kBehindCopy, {bits, copy.offset, {bytes, copy.offset}, state, i});
+    };
+    for (; length <= std::min(copy.length, kMostLength); ++length) offer(length);
+    if (copy.length >= kLongUnit) offer(copy.length / kLongUnit * kLongUnit);
   }
 }
 
@@ -177,7 +178,7 @@ Parse Search::Run(const OffsetCode& code) {
 // The number of low digits that suits the offsets of the copies in `tokens` best, short or long ones.
 int BestDigits(const std::vector<Token>& tokens, bool is_short) {
   int best = 0, least = std::numeric_limits<int>::max();
-  for (int digits = 0; digits <= 15; ++digits) {
+  for (int digits = 0; digits <= kMostDigits; ++digits) {
     const OffsetCode code{digits, digits};
     int bits = 0;
     bool takes_all = true;
@@ -210,8 +211,8 @@ Parse FindTokens(BytesView bytes, Literals literals, const Effort& effort) {
   }
   constexpr OffsetCode kSteps[] = {{0, -1}, {0, 1}, {-1, 0}, {1, 0}};
   for (std::size_t misses = 0, step = 0; passes-- > 0 && misses < std::size(kSteps); step = (step + 1) % 4) {
-    const OffsetCode next{std::clamp(best.code.short_digits + kSteps[step].short_digits, 0, 15),
-                          std::clamp(best.code.long_digits + kSteps[step].long_digits, 0, 15)};
+    const OffsetCode next{std::clamp(best.code.short_digits + kSteps[step].short_digits, 0, kMostDigits),
+                          std::clamp(best.code.long_digits + kSteps[step].long_digits, 0, kMostDigits)};
     misses = improve(next) ? 0 : misses + 1;
   }
   return best;

@@ -41,7 +41,9 @@ void SectionWriter::PutLiterals(int length) {
 
 void SectionWriter::PutNewCopy(Token token) {
   const int digits = code_.DigitsFor(token.length), value = token.offset - 1;
-  writer_.PutGamma(token.length - 1);
+  const bool is_long = token.length > kMostLength;
+  writer_.PutGamma(is_long ? kGammaEnd : token.length - 1);
+  if (is_long) writer_.PutGamma(token.length / kLongUnit + 1);
   writer_.PutGamma((value >> digits) + 1);
   writer_.PutBits(value, digits);
 }
@@ -63,8 +65,8 @@ class SectionReader {
  public:
   SectionReader(Literals literals, std::size_t most, BitReader& reader)
       : literals_(literals), most_(most), reader_(reader) {
-    code_.short_digits = reader_.GetBits(4);
-    code_.long_digits = reader_.GetBits(4);
+    code_.short_digits = Digits();
+    code_.long_digits = Digits();
   }
 
   // Reads one token; false at the end mark.
@@ -72,6 +74,7 @@ class SectionReader {
   std::vector<std::uint8_t> Take() { return std::move(bytes_); }
 
  private:
+  int Digits();
   Token GetToken();
   void Append(Token token);
 
@@ -83,13 +86,20 @@ class SectionReader {
   Behind behind_;
 };
 
+int SectionReader::Digits() {
+  const int digits = reader_.GetByte();
+  if (digits > kMostDigits) throw std::runtime_error("the packed data is damaged");
+  return digits;
+}
+
 Token SectionReader::GetToken() {
   const bool is_new = reader_.GetBits(1) == 1;
-  const int length = reader_.GetGamma();
-  if (!is_new) return {length, behind_.copy ? 0 : behind_.offset};
-  if (length == kGammaEnd) return {};
-  const int digits = code_.DigitsFor(length + 1), high = reader_.GetGamma() - 1;
-  return {length + 1, (high << digits | reader_.GetBits(digits)) + 1};
+  const int told = reader_.GetGamma();
+  if (!is_new) return {told, behind_.copy ? 0 : behind_.offset};
+  const int length = told == kGammaEnd ? (reader_.GetGamma() - 1) * kLongUnit : told + 1;
+  if (length == 0) return {};
+  const int digits = code_.DigitsFor(length), high = reader_.GetGamma() - 1;
+  return {length, (high << digits | reader_.GetBits(digits)) + 1};
 }
 
 void SectionReader::Append(Token token) {
@@ -108,7 +118,7 @@ bool SectionReader::Step() {
   const Token token = GetToken();
   if (token.length == 0) return false;
   const bool copy = token.offset > 0;
-  if (token.length > kMostLength || static_cast<std::size_t>(token.length) > most_ - bytes_.size() ||
+  if (token.length > kMostLong || static_cast<std::size_t>(token.length) > most_ - bytes_.size() ||
       static_cast<std::size_t>(token.offset) > bytes_.size() || (!copy && !behind_copy)) {
     throw std::runtime_error("the packed data is damaged");
   }
@@ -121,12 +131,13 @@ bool SectionReader::Step() {
 
 void WriteSection(std::span<const std::uint8_t> bytes, std::span<const Token> tokens, Literals literals,
                   const OffsetCode& code, BitWriter& writer) {
-  writer.PutBits(code.short_digits, 4);
-  writer.PutBits(code.long_digits, 4);
+  writer.PutByte(code.short_digits);
+  writer.PutByte(code.long_digits);
   SectionWriter section(bytes, literals, code, writer);
   for (const Token& token : tokens) section.Put(token);
   writer.PutBits(1, 1);
   writer.PutGamma(kGammaEnd);
+  writer.PutGamma(1);
 }
 
 std::vector<std::uint8_t> ReadSection(Literals literals, std::size_t most, BitReader& reader) {

@@ -1,13 +1,8 @@
 #include "crunch/stream.h"
 
-#include <bit>
 #include <stdexcept>
 
 namespace kelvo::crunch {
-
-int GammaBits(int number) {
-  return 2 * static_cast<int>(std::bit_width(static_cast<unsigned>(number))) - 1;
-}
 
 void BitWriter::PutBits(int value, int count) {
   while (count-- > 0) {

@@ -4,6 +4,7 @@
 // between such bytes in the order of their use, so that a reader only ever goes forward.
 #pragma once
 
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -13,9 +14,11 @@ namespace kelvo::crunch {
 
 // Positive numbers are told by Elias' gamma code, interlaced: for each binary digit behind the first a 1 and the digit,
 // then a 0. From kGammaEnd on there are none: eight digits stop a reader there, without the 0.
-inline constexpr int kGammaEnd = 256;
+inline constexpr int kGammaEnd = 256, kGammaEndBits = 16;
 // The bits that `number` (1..kGammaEnd - 1) takes.
-int GammaBits(int number);
+constexpr int GammaBits(int number) {
+  return 2 * static_cast<int>(std::bit_width(static_cast<unsigned>(number))) - 1;
+}
 
 class BitWriter {
  public:

@@ -15,6 +15,8 @@ frmViceSettings::frmViceSettings(app::SettingsStore& settings, app::Messages& me
   path_ = AddText(c64out::kVicePath, "&VICE path", "The folder that holds the emulator and c1541");
   AddText(c64out::kVicePrgName, "&PRG name");
   AddHint("A PRG name that is set overrides the picture's file name.");
+  AddCheckBox(c64out::kCheckPrograms, "&Check programs before they are kept");
+  AddCheckBox(c64out::kKeyEndsPicture, "A &key ends the picture");
   if (path_->text().isEmpty()) path_->setText(ToQt(c64out::EmulatorOnPath(FromQt(qEnvironmentVariable("PATH")))));
   auto* browse = new QPushButton("&Browse...");
   browse->setObjectName("browseVicePath");
@@ -30,6 +32,8 @@ void frmViceSettings::Browse() {
 void frmViceSettings::cmdStd_Click() {
   using c64out::ViceFolderState;
   Store(c64out::kVicePrgName);
+  Store(c64out::kCheckPrograms);
+  Store(c64out::kKeyEndsPicture);
   switch (c64out::CheckViceFolder(FromQt(path_->text().trimmed()))) {
     case ViceFolderState::kExecutable:
       return messages_.Warn("The caption spells PATH, not executable.");

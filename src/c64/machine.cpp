@@ -20,6 +20,12 @@ bool IsFree(int address) {
                      [=](auto range) { return address >= range.first && address <= range.second; });
 }
 
+// Registers of the VIC that read as they were written.
+bool KeepsItsValue(int address) {
+  return (address >= 0xD000 && address <= 0xD010) || (address >= 0xD015 && address <= 0xD018) ||
+         (address >= 0xD020 && address <= 0xD02E);
+}
+
 }  // namespace
 
 Machine::Machine() {
@@ -33,9 +39,9 @@ Machine::Machine() {
     Poke(static_cast<std::uint16_t>(vector + 1), static_cast<std::uint8_t>(handler >> 8));
     traps_[handler] = nullptr;
   }
-  const std::pair<std::size_t, std::uint8_t> registers[] = {{0x11, 0x1B},  {0x16, 0xC8},  {0x18, 0x15},
-                                                            {0x15, 0xFF},  {0x20, 14},    {0x21, 6},
-                                                            {0xC0D, 0x81}, {0xD00, 0x97}, {0xD02, 0x3F}};
+  const std::pair<std::size_t, std::uint8_t> registers[] = {{0x11, 0x1B},  {0x16, 0xC8}, {0x18, 0x15},  {0x15, 0xFF},
+                                                            {0x20, 14},    {0x21, 6},    {0xC01, 0xFF}, {0xC0D, 0x81},
+                                                            {0xD00, 0x97}, {0xD02, 0x3F}};
   for (const auto& [index, value] : registers) io_[index] = value;
 }
 
@@ -45,28 +51,28 @@ void Machine::Poke(std::uint16_t address, std::uint8_t value) {
 }
 
 void Machine::Load(std::span<const std::uint8_t> prg) {
-  if (prg.size() < 3) throw MachineFault("the PRG is empty");
+  if (prg.size() < 3) throw MachineCrash("the PRG is empty");
   std::size_t address = static_cast<std::size_t>(prg[0] | prg[1] << 8);
   for (const std::uint8_t byte : prg.subspan(2)) {
-    if (address >= 0xD000) throw MachineFault("the PRG reaches into I/O");
+    if (address >= 0xD000) throw MachineCrash("the PRG reaches into I/O");
     Poke(static_cast<std::uint16_t>(address++), byte);
   }
 }
 
 std::uint16_t Machine::SysAddress() const {
   std::uint16_t at = kBasicLine + 4;  // behind the next line's address and the line's number
-  if (ram_[at++] != kSys) throw MachineFault("the BASIC line does not begin with SYS");
+  if (ram_[at++] != kSys) throw MachineCrash("the BASIC line does not begin with SYS");
   while (ram_[at] == ' ') ++at;
   int address = 0;
   for (; ram_[at] >= '0' && ram_[at] <= '9'; ++at) address = address * 10 + ram_[at] - '0';
   const int next = ram_[kBasicLine] | ram_[kBasicLine + 1] << 8;
   if (ram_[at] != 0 || next != at + 1 || ram_[at + 1] != 0 || ram_[at + 2] != 0) {
-    throw MachineFault("the BASIC program does not end behind its line");
+    throw MachineCrash("the BASIC program does not end behind its line");
   }
   return static_cast<std::uint16_t>(address);
 }
 
-Machine::Ending Machine::RunFrom(std::uint16_t address, std::uint64_t most_cycles) {
+void Machine::StartFrom(std::uint16_t address) {
   cpu_.stack = unclean_ ? 0x20 : 0xF8;
   cpu_.Set(Cpu6502::kDecimal, unclean_);
   cpu_.Push((kBackInBasic - 1) >> 8);
@@ -75,7 +81,10 @@ Machine::Ending Machine::RunFrom(std::uint16_t address, std::uint64_t most_cycle
   cpu_.pc = address;
   next_restore_ = restore_every_;
   next_jiffy_ = kJiffy;
-  while (cpu_.cycles < most_cycles) {
+}
+
+std::optional<Machine::Ending> Machine::RunOn(std::uint64_t cycles) {
+  while (cpu_.cycles < cycles) {
     if (cpu_.pc == kBackInBasic && Chip(kBackInBasic) == Area::kRom) return Ending::kReturns;
     const std::uint16_t before = cpu_.pc;
     Interrupts();
@@ -86,6 +95,12 @@ Machine::Ending Machine::RunFrom(std::uint16_t address, std::uint64_t most_cycle
     CallTrap();
     if (cpu_.pc == before && ram_[before] == 0x4C) return Ending::kLoops;
   }
+  return std::nullopt;
+}
+
+Machine::Ending Machine::RunFrom(std::uint16_t address, std::uint64_t most_cycles) {
+  StartFrom(address);
+  if (const auto ending = RunOn(most_cycles)) return *ending;
   Fault("no end in sight", cpu_.pc);
 }
 
@@ -138,8 +153,8 @@ std::uint8_t Machine::Read(std::uint16_t address) {
 }
 
 std::uint8_t Machine::Fetch(std::uint16_t address) {
-  if (Chip(address) != Area::kRam) Fault("running outside RAM", address);
-  if (!written_[address]) Fault("running what nobody wrote", address);
+  if (Chip(address) != Area::kRam) Crash("running outside RAM", address);
+  if (!written_[address]) Crash("running what nobody wrote", address);
   return ram_[address];
 }
 
@@ -151,9 +166,9 @@ void Machine::Write(std::uint16_t address, std::uint8_t value) {
 }
 
 std::uint8_t Machine::ReadIo(std::uint16_t address) {
-  if (address < 0xD800) Fault("reading the VIC or the SID, which can only be written here", address);
+  if (address < 0xD800 && !KeepsItsValue(address)) Fault("reading what the raster beam or the SID makes", address);
   const std::uint8_t value = io_[address - 0xD000U];
-  if (address >= 0xDC00) return value;
+  if (address < 0xD800 || address >= 0xDC00) return value;
   open_bus_ = static_cast<std::uint8_t>(open_bus_ * 5 + 0x70);
   return static_cast<std::uint8_t>((value & 0x0F) | (open_bus_ & 0xF0));
 }
@@ -184,8 +199,16 @@ int Machine::VicBank() const {
 }
 
 void Machine::Fault(const std::string& what, std::uint16_t address) const {
-  throw MachineFault(what + ": $" + app::ToHex(address, 4) + ", program counter $" + app::ToHex(cpu_.pc, 4) +
-                     " after " + std::to_string(cpu_.cycles) + " cycles");
+  throw MachineFault(Told(what, address));
+}
+
+void Machine::Crash(const std::string& what, std::uint16_t address) const {
+  throw MachineCrash(Told(what, address));
+}
+
+std::string Machine::Told(const std::string& what, std::uint16_t address) const {
+  return what + ": $" + app::ToHex(address, 4) + ", program counter $" + app::ToHex(cpu_.pc, 4) + " after " +
+         std::to_string(cpu_.cycles) + " cycles";
 }
 
 }  // namespace kelvo::c64

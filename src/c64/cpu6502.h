@@ -24,13 +24,19 @@ class MachineFault : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
+// It did what ends every program: code that nobody wrote, an opcode that is not documented, no program at all.
+class MachineCrash : public MachineFault {
+ public:
+  using MachineFault::MachineFault;
+};
+
 class Cpu6502 {
  public:
   enum Flag : std::uint8_t { kCarry = 1, kZero = 2, kInterruptsOff = 4, kDecimal = 8, kOverflow = 64, kNegative = 128 };
 
   explicit Cpu6502(Bus& reached) : bus(reached) {}
 
-  // Runs one instruction. Throws MachineFault on an opcode that no sound program has.
+  // Runs one instruction. Throws MachineCrash on an opcode that is not documented.
   void Step();
   // Pushes pc and status and goes on at the address that `vector` ($FFFA, $FFFE) holds.
   void Interrupt(std::uint16_t vector);

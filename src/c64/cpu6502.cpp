@@ -225,7 +225,7 @@ void Cpu6502::Step() {
   const auto* const single =
       std::find_if(std::begin(kSingles), std::end(kSingles), [=](const Single& one) { return one.opcode == opcode; });
   if (single == std::end(kSingles)) {
-    throw MachineFault("opcode " + std::to_string(opcode) + " at " + std::to_string(at) + " is not documented");
+    throw MachineCrash("opcode " + std::to_string(opcode) + " at " + std::to_string(at) + " is not documented");
   }
   cycles += single->cycles;
   single->perform(*this);

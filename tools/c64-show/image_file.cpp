@@ -1,4 +1,4 @@
-#include "c64/image_file.h"
+#include "image_file.h"
 
 #include <stdexcept>
 

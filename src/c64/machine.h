@@ -5,7 +5,7 @@
 //   machine.Run();                          // from the SYS of its BASIC line to its end; throws MachineFault
 //   const Screen screen = ScreenOf(machine);  // what it shows then, see c64/screen.h
 //
-// It has the processor with $01 banking, RAM, colour RAM, the VIC's registers, which can only be written, the VIC's
+// It has the processor with $01 banking, RAM, colour RAM, the VIC's registers but for the raster, the VIC's
 // bank, and the 60 Hz interrupt. There are no ROMs: a KERNAL routine is a trap that the caller sets, and what must not
 // happen is a MachineFault: executing what nobody wrote, reading ROM as data, calling a routine without a trap, writing
 // a zero page byte that BASIC and KERNAL keep, changing what a shown bitmap consists of, running on without an end.
@@ -16,6 +16,7 @@
 #include <cstdint>
 #include <functional>
 #include <map>
+#include <optional>
 #include <span>
 
 #include "c64/cpu6502.h"
@@ -46,6 +47,11 @@ class Machine final : public Bus {
   // Starts it at `address`, as SYS does. Throws MachineFault.
   Ending RunFrom(std::uint16_t address, std::uint64_t most_cycles = kMostCycles);
 
+  // The same in steps: begins, and goes on until `cycles` have passed since power-on. Empty when it has not ended.
+  void Start() { StartFrom(SysAddress()); }
+  void StartFrom(std::uint16_t address);
+  std::optional<Ending> RunOn(std::uint64_t cycles);
+
   // Where the VIC's bank of 16 KB begins, and what was written into I/O ($D000-$DFFF, colour RAM from $D800 on).
   int VicBank() const;
   std::uint8_t Io(int address) const { return io_[static_cast<std::size_t>(address - 0xD000)]; }
@@ -72,6 +78,8 @@ class Machine final : public Bus {
   void Interrupts();
   void CallTrap();
   [[noreturn]] void Fault(const std::string& what, std::uint16_t address) const;
+  [[noreturn]] void Crash(const std::string& what, std::uint16_t address) const;
+  std::string Told(const std::string& what, std::uint16_t address) const;
 
   Cpu6502 cpu_{*this};
   std::array<std::uint8_t, 0x10000> ram_{};
