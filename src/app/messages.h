@@ -1,4 +1,4 @@
-// The port to the user: message boxes, and the lines of the command prompt's output list.
+// The ports to the user: message boxes, the status bar, and the lines of the command prompt's output list.
 #pragma once
 
 #include <string_view>
@@ -16,6 +16,14 @@ class Messages {
   virtual void Tell(std::string_view text) = 0;                 // no icon, OK
   virtual bool Ask(std::string_view text) = 0;                  // Yes and No; anything but Yes is no
   virtual UnsavedAnswer AskUnsaved(std::string_view text) = 0;  // Save, Discard and Cancel
+};
+
+// The status bar's elastic panel: words that wait for no answer. The next one takes their place.
+class StatusLine {
+ public:
+  virtual ~StatusLine() = default;
+  virtual void Tell(std::string_view text) = 0;  // what came of something
+  virtual void Warn(std::string_view text) = 0;  // what should be noticed
 };
 
 class PromptOutput {

@@ -152,6 +152,8 @@ bool PictureFiles::Write(const fs::path& path) {
       });
   if (!saved) return false;
   with_.display.ShowFile(document_.file);
+  with_.status.Tell("Saved " + app::TextFromPath(document_.file.CurrentFilePath) + ", " +
+                    std::to_string(document_.on_disk.size()) + " bytes");
   if (!trouble.empty()) {
     with_.log.Write("MDIFormMenu_SaveBitmap: " + trouble);
     with_.messages.Warn("The picture is saved, but its backup could not be made.\n" + trouble);
@@ -199,7 +201,11 @@ bool PictureFiles::MayThrowAwayPicture() {
   if (!document_.HasUnsavedWork()) return true;
   bool may = true;
   app::Guarded(
-      with_.log, "MDIFormMenu_KeepRescueCopy", [&] { KeepRescueCopy(document_, with_.folders, with_.clock); },
+      with_.log, "MDIFormMenu_KeepRescueCopy",
+      [&] {
+        const fs::path kept = KeepRescueCopy(document_, with_.folders, with_.clock);
+        with_.status.Warn("Unsaved work was kept in BACKUP as " + app::TextFromPath(kept.filename()));
+      },
       [&](const std::exception& error) {
         may = with_.messages.Ask("The unsaved picture could not be kept in the BACKUP folder.\n" +
                                  std::string(error.what()) + "\nThrow it away?");

@@ -5,7 +5,6 @@
 #include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QMdiArea>
 #include <QMenuBar>
 #include <QMimeData>
@@ -39,7 +38,7 @@
 namespace kelvo::ui {
 namespace {
 
-constexpr int kTimerMilliseconds = 100, kWordMilliseconds = 5000, kWarningMilliseconds = 30000;
+constexpr int kTimerMilliseconds = 100;
 constexpr QSize kFirstSize(1016, 720);
 // Those that Escape leaves.
 constexpr std::array kSideWindows{ChildWindowId::kColors, ChildWindowId::kPens, ChildWindowId::kCharData,
@@ -80,12 +79,11 @@ MainFrame::MainFrame(const app::ProgramFolders& folders, app::SettingsStore& set
       pens_(new frmPens(this)),
       Toolbar1_(new PaintToolBar(this)),
       menu_(*this),
-      panels_(statusBar()),
-      building_(new QLabel("Building... (Escape stops)", this)),
+      panels_(new StatusPanels(statusBar())),
       Timer1_(new QTimer(this)),
       ports_(std::make_unique<FramePorts>(this)),
       views_(std::make_unique<PictureWindows>(*full_view_, *zoom_)),
-      files_(document_, {Surroundings(), ports_->pointer, ports_->dialogs, *this, *views_}),
+      files_(document_, {Surroundings(), ports_->pointer, ports_->dialogs, *this, *views_, *panels_}),
       desk_(std::make_unique<PaintingDesk>(
           document_, editing::PaintingPorts{*views_, settings, ports_->messages, ports_->events, ports_->pointer, log_},
           PaintingWindows{*full_view_, *zoom_, *colors_, *pens_, *char_data_, *Toolbar1_})),
@@ -107,11 +105,9 @@ MainFrame::MainFrame(const app::ProgramFolders& folders, app::SettingsStore& set
   Timer1_->setObjectName("Timer1");
   connect(Timer1_, &QTimer::timeout, this, &MainFrame::Timer1_Timer);
   connect(recovery_.get(), &RecoveryDesk::Word, this,
-          [this](const QString& word) { statusBar()->showMessage(word, kWarningMilliseconds); });
+          [this](const QString& word) { panels_->Warn(FromQt(word)); });
   connect(&ports_->file_watch, &FileWatch::Touched, this, [this] {
-    if (files_.IsChangedElsewhere()) {
-      statusBar()->showMessage("The file was changed elsewhere: Reload?", kWarningMilliseconds);
-    }
+    if (files_.IsChangedElsewhere()) panels_->Warn("The file was changed elsewhere: Reload?");
   });
 }
 
@@ -142,7 +138,7 @@ void MainFrame::MakeChildren() {
   AddChild(ChildWindowId::kZoom, zoom_, {0, 0});
   connect(full_view_, &frmBMPView::ZoomAreaChosen, zoom_, &frmZoom::CentreOn);
   connect(zoom_, &frmZoom::AreaChanged, this, [this] { full_view_->ShowZoomArea(zoom_->Area()); });
-  connect(zoom_, &frmZoom::MagnificationChanged, this, &MainFrame::RefreshMenus);
+  connect(zoom_, &frmZoom::MagnificationChanged, this, &MainFrame::ShowZoom);
   connect(command_, &frmCommand::CommandSubmitted, this, &MainFrame::ProcessCommand);
   connect(command_, &frmCommand::FocusGivenBack, this, &MainFrame::GiveFocusToPicture);
 }
@@ -195,7 +191,7 @@ void MainFrame::MakeRecentMenu() {
 void MainFrame::ConnectDesk() {
   connect(desk_.get(), &PaintingDesk::StateChanged, this, &MainFrame::ShowPaintingState);
   connect(desk_.get(), &PaintingDesk::PointerAt, this,
-          [this](const QString& text) { panels_.Show(StatusPanel::kPointer, text); });
+          [this](const QString& text) { panels_->Show(StatusPanel::kPointer, text); });
   connect(desk_.get(), &PaintingDesk::BackgroundChosen, this,
           [this](model::C64Colour colour) { SetBackgroundColour(colour.Number()); });
 }
@@ -203,9 +199,9 @@ void MainFrame::ConnectDesk() {
 void MainFrame::ConnectAnimation() {
   connect(animation_.get(), &AnimationDesk::CheckMarkChanged, this, &MainFrame::RefreshMenus);
   connect(animation_.get(), &AnimationDesk::StatusChanged, this,
-          [this](const QString& text) { panels_.Show(StatusPanel::kAnimation, text); });
+          [this](const QString& text) { panels_->Show(StatusPanel::kAnimation, text); });
   connect(animation_.get(), &AnimationDesk::Word, this,
-          [this](const QString& word) { statusBar()->showMessage(word, kWordMilliseconds); });
+          [this](const QString& word) { panels_->Tell(FromQt(word)); });
   connect(animation_.get(), &AnimationDesk::KeyReleased, this, [this](QKeyEvent* event) {
     if (event->key() != Qt::Key_Escape || builds_->IsBuilding()) return keyReleaseEvent(event);
     activateWindow();
@@ -214,22 +210,19 @@ void MainFrame::ConnectAnimation() {
 }
 
 void MainFrame::ConnectBuilds() {
-  building_->setObjectName("pnlBuilding");
-  building_->hide();
-  statusBar()->addPermanentWidget(building_);
   connect(builds_.get(), &BuildDesk::StateChanged, this, &MainFrame::ShowBuilding);
   connect(builds_.get(), &BuildDesk::Ended, this, &MainFrame::BuildEnded);
 }
 
 void MainFrame::ShowBuilding() {
-  building_->setVisible(builds_->IsBuilding());
+  panels_->SetBuilding(builds_->IsBuilding());
   RefreshMenus();
 }
 
 // The prompt is the build log: it comes forward when there is something to read in it. The keyboard stays where it is.
 void MainFrame::BuildEnded(c64out::BuildOutcome outcome) {
   constexpr std::array kWords{"Build complete", "Build stopped", "Build failed", "Build failed"};
-  statusBar()->showMessage(kWords.at(static_cast<std::size_t>(outcome)), kWordMilliseconds);
+  panels_->Tell(kWords.at(static_cast<std::size_t>(outcome)));
   if (outcome != c64out::BuildOutcome::kFailed || IsWindowShown(ChildWindowId::kPrompt)) return;
   QMdiSubWindow* active = area_->activeSubWindow();
   ToggleWindow(ChildWindowId::kPrompt);
@@ -248,9 +241,9 @@ void MainFrame::ProcessCommand(const QString& line) {
 }
 
 void MainFrame::ShowPaintingState() {
-  panels_.Show(StatusPanel::kTool, ToQt(desk_->Painting().Prompt()));
+  panels_->Show(StatusPanel::kTool, ToQt(desk_->Painting().Prompt()));
   const bool fills_blocks = desk_->Painting().ChosenTool() == editing::ToolId::kBlockFill;
-  panels_.Show(StatusPanel::kBlockFill, fills_blocks ? "BF=ON" : "BF=OFF");
+  panels_->Show(StatusPanel::kBlockFill, fills_blocks ? "BF=ON" : "BF=OFF");
   menu_.Refresh();
 }
 
@@ -342,7 +335,7 @@ void MainFrame::SaveScreenshot() {
 
 void MainFrame::ShowFile(const files::CurrentFile& file) {
   setWindowTitle(ToQt(files::WindowTitle(file)));
-  panels_.Show(StatusPanel::kFile, ToQt(files::StatusName(file)));
+  panels_->Show(StatusPanel::kFile, ToQt(files::StatusName(file)));
   animation_->FileChanged();
   ports_->file_watch.Follow(QtFromPath(file.CurrentFilePath));
   RefreshMenus();
@@ -362,7 +355,13 @@ void MainFrame::RefreshMenus() {
   menu_.Refresh();
 }
 
+void MainFrame::ShowZoom() {
+  panels_->Show(StatusPanel::kZoom, QString("Zoom %1:1").arg(zoom_->Area().Magnification()));
+  RefreshMenus();
+}
+
 void MainFrame::Timer1_Timer() {
+  panels_->ShowUnsaved(document_.HasUnsavedWork());
   desk_->Tick();
   zoom_->TickBorder();
   recovery_->Tick();

@@ -101,6 +101,7 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   files::PictureSurroundings PictureSurroundings();
   void ShowFile(const files::CurrentFile& file) override;
   void PictureReplaced() override;
+  app::StatusLine& Status() { return *panels_; }
   void AddChild(ChildWindowId id, QWidget* form, QPoint place, bool is_shown = true);
   void MakeChildren();
   void ConnectAnimation();
@@ -115,6 +116,7 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   void ConnectDesk();
   void ShowPaintingState();
   void RefreshMenus();
+  void ShowZoom();
   void Timer1_Timer();
 
   ProgramSlot slot_;
@@ -140,8 +142,7 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   ChoiceMenu* background_menu_ = nullptr;
   ChoiceMenu* grid_menu_ = nullptr;
   ChoiceMenu* border_menu_ = nullptr;
-  StatusPanels panels_;
-  QLabel* building_;  // to be seen while a build is at work
+  StatusPanels* panels_;
   QTimer* Timer1_;
 
   std::unique_ptr<FramePorts> ports_;

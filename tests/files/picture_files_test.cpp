@@ -177,7 +177,7 @@ TEST_F(PictureFilesTest, ProgramsOnOneFolderBackUpTheirOwnPictures) {
   const app::ProgramFolders second_folders(folders.Root(), 2);
   Document second;
   PictureFiles second_files(
-      second, {{second_folders, settings, clock, log, messages, prompt}, pointer, dialogs, display, views});
+      second, {{second_folders, settings, clock, log, messages, prompt}, pointer, dialogs, display, views, status});
   support::WriteFile(folder / "b.kvp", app::Bytes(10050, 9));
   second_files.OpenPicture(Text("b.kvp"));
   EXPECT_TRUE(files.Save());

@@ -66,6 +66,13 @@ class RecordingMessages : public app::Messages {
   app::UnsavedAnswer unsaved = app::UnsavedAnswer::kCancel;
 };
 
+class RecordingStatus final : public app::StatusLine {
+ public:
+  void Tell(std::string_view text) override { words.emplace_back(text); }
+  void Warn(std::string_view text) override { words.emplace_back(text); }
+  Lines words;
+};
+
 class RecordingPrompt final : public app::PromptOutput {
  public:
   void CommandPromptList(std::string_view line) override { lines.emplace_back(line); }
@@ -127,9 +134,10 @@ struct Program {
   PlannedDialogs dialogs;
   RecordingDisplay display;
   RecordingViews views;
+  RecordingStatus status;
   files::Document document;
   files::PictureFiles files{document,
-                            {{folders, settings, clock, log, messages, prompt}, pointer, dialogs, display, views}};
+                            {{folders, settings, clock, log, messages, prompt}, pointer, dialogs, display, views, status}};
   // What the parts of the program that work with the picture are given.
   files::PictureSurroundings surroundings{{folders, settings, clock, log, messages, prompt}, document, files};
 };

@@ -1,6 +1,5 @@
 // An animation made, walked through and played on the real main window.
 #include <QCloseEvent>
-#include <QStatusBar>
 
 #include "anim/anim_settings.h"
 #include "main_frame_fixture.h"
@@ -99,7 +98,7 @@ TEST_F(AnimationTest, TheFrameWindowFollowsKeysFilesAndPlaces) {
   EXPECT_EQ(Number(), "");
   remove_all(frames);
   Press("cmdPlay");
-  EXPECT_EQ(frame->statusBar()->currentMessage(), "THERE ARE NO FRAMES");
+  EXPECT_EQ(Panel("pnlWord"), "THERE ARE NO FRAMES");
   Find("frmAnim")->setGeometry(70, 90, 0, 0);
   frame->close();
   EXPECT_EQ(settings.values["Settings/frmAnimLeftPos"], "70");
