@@ -22,10 +22,10 @@
 #include "ui/desks/painting_desk.h"
 #include "ui/desks/picture_windows.h"
 #include "ui/desks/recovery_desk.h"
+#include "ui/desks/window_desk.h"
 #include "ui/menu_table.h"
 #include "ui/ports/frame_ports.h"
 #include "ui/ports/qt_text.h"
-#include "ui/widgets/child_window.h"
 #include "ui/widgets/choice_menu.h"
 #include "ui/widgets/settings_dialog.h"
 #include "ui/windows/frm_about.h"
@@ -39,11 +39,6 @@ namespace kelvo::ui {
 namespace {
 
 constexpr int kTimerMilliseconds = 100;
-constexpr QSize kFirstSize(1016, 720);
-// Those that Escape leaves.
-constexpr std::array kSideWindows{ChildWindowId::kColors, ChildWindowId::kPens, ChildWindowId::kCharData,
-                                  ChildWindowId::kPrompt};
-
 model::C64Colour ColourNumber(int number) {
   return model::C64Colour::FromNumber(number).value_or(model::C64Colour());
 }
@@ -70,7 +65,6 @@ MainFrame::MainFrame(const app::ProgramFolders& folders, app::SettingsStore& set
       settings_(settings),
       clock_(clock),
       log_(folders_.ErrorLogFile(), clock),
-      area_(new QMdiArea(this)),
       full_view_(new frmBMPView(document_.picture, this)),
       colors_(new frmColors(this)),
       char_data_(new frmCharData(document_.picture, this)),
@@ -81,19 +75,17 @@ MainFrame::MainFrame(const app::ProgramFolders& folders, app::SettingsStore& set
       menu_(*this),
       panels_(new StatusPanels(statusBar())),
       Timer1_(new QTimer(this)),
+      windows_(std::make_unique<WindowDesk>(*this, *new QMdiArea(this), *zoom_, *full_view_, settings)),
       ports_(std::make_unique<FramePorts>(this)),
       views_(std::make_unique<PictureWindows>(*full_view_, *zoom_)),
       files_(document_, {Surroundings(), ports_->pointer, ports_->dialogs, *this, *views_, *panels_}),
       desk_(std::make_unique<PaintingDesk>(
           document_, editing::PaintingPorts{*views_, settings, ports_->messages, ports_->events, ports_->pointer, log_},
           PaintingWindows{*full_view_, *zoom_, *colors_, *pens_, *char_data_, *Toolbar1_})),
-      animation_(std::make_unique<AnimationDesk>(PictureSurroundings(), *this, *full_view_, *zoom_)),
+      animation_(std::make_unique<AnimationDesk>(PictureSurroundings(), *this, *windows_, *full_view_, *zoom_)),
       builds_(std::make_unique<BuildDesk>(PictureSurroundings(), ports_->tools, this)),
       recovery_(std::make_unique<RecoveryDesk>(PictureSurroundings(), slot_)) {
   setObjectName("MDIFormMenu");
-  area_->setObjectName("mdiArea");
-  setCentralWidget(area_);
-  resize(kFirstSize);
   setAcceptDrops(true);
   addToolBar(Toolbar1_);
   MakeChildren();
@@ -130,37 +122,22 @@ void MainFrame::PictureReplaced() {
 }
 
 void MainFrame::MakeChildren() {
-  AddChild(ChildWindowId::kFullView, full_view_, {668, 0});
-  AddChild(ChildWindowId::kColors, colors_, {668, 235});
-  AddChild(ChildWindowId::kPens, pens_, {668, 340});
-  AddChild(ChildWindowId::kCharData, char_data_, {668, 415});
-  AddChild(ChildWindowId::kPrompt, command_, {668, 415}, false);
-  AddChild(ChildWindowId::kZoom, zoom_, {0, 0});
+  windows_->Add(ChildWindowId::kFullView, full_view_);
+  windows_->Add(ChildWindowId::kColors, colors_);
+  windows_->Add(ChildWindowId::kPens, pens_);
+  windows_->Add(ChildWindowId::kCharData, char_data_);
+  windows_->Add(ChildWindowId::kPrompt, command_);
+  windows_->Add(ChildWindowId::kZoom, zoom_);
+  connect(windows_.get(), &WindowDesk::Changed, this, &MainFrame::RefreshMenus);
   connect(full_view_, &frmBMPView::ZoomAreaChosen, zoom_, &frmZoom::CentreOn);
   connect(zoom_, &frmZoom::AreaChanged, this, [this] { full_view_->ShowZoomArea(zoom_->Area()); });
   connect(zoom_, &frmZoom::MagnificationChanged, this, &MainFrame::ShowZoom);
   connect(command_, &frmCommand::CommandSubmitted, this, &MainFrame::ProcessCommand);
-  connect(command_, &frmCommand::FocusGivenBack, this, &MainFrame::GiveFocusToPicture);
-}
-
-void MainFrame::AddChild(ChildWindowId id, QWidget* form, QPoint place, bool is_shown) {
-  auto* child = new ChildWindow(form);
-  area_->addSubWindow(child);
-  child->setAttribute(Qt::WA_DeleteOnClose, false);
-  connect(child, &ChildWindow::ClosedByUser, this, &MainFrame::RefreshMenus);
-  children_[static_cast<std::size_t>(id)] = {child, place, is_shown};
+  connect(command_, &frmCommand::FocusGivenBack, windows_.get(), &WindowDesk::GiveFocusToPicture);
 }
 
 void MainFrame::ArrangeWindows() {
-  ui::ArrangeWindows(children_);
-  animation_->ArrangeWindow();
-  RefreshMenus();
-  GiveFocusToPicture();
-}
-
-void MainFrame::GiveFocusToPicture() {
-  area_->setActiveSubWindow(children_[static_cast<std::size_t>(ChildWindowId::kZoom)].window);
-  zoom_->setFocus();
+  windows_->Arrange(animation_->FrameWindow());
 }
 
 void MainFrame::MakeChoiceMenus() {
@@ -172,6 +149,8 @@ void MainFrame::MakeChoiceMenus() {
   connect(border_menu_, &ChoiceMenu::Chosen, this,
           [this](int index) { zoom_->SetBorder(static_cast<model::ZoomBorder>(index)); });
   border_menu_->Check(static_cast<int>(model::ZoomBorder::kNone));
+  scale_menu_ = new ChoiceMenu(menu_.Menu(kFullViewMenu), {"&1:1", "&2:1", "&3:1"});
+  connect(scale_menu_, &ChoiceMenu::Chosen, this, [this](int index) { windows_->SetFullViewScale(index + 1); });
 }
 
 void MainFrame::MakeRecentMenu() {
@@ -205,7 +184,7 @@ void MainFrame::ConnectAnimation() {
   connect(animation_.get(), &AnimationDesk::KeyReleased, this, [this](QKeyEvent* event) {
     if (event->key() != Qt::Key_Escape || builds_->IsBuilding()) return keyReleaseEvent(event);
     activateWindow();
-    GiveFocusToPicture();
+    windows_->GiveFocusToPicture();
   });
 }
 
@@ -223,10 +202,7 @@ void MainFrame::ShowBuilding() {
 void MainFrame::BuildEnded(c64out::BuildOutcome outcome) {
   constexpr std::array kWords{"Build complete", "Build stopped", "Build failed", "Build failed"};
   panels_->Tell(kWords.at(static_cast<std::size_t>(outcome)));
-  if (outcome != c64out::BuildOutcome::kFailed || IsWindowShown(ChildWindowId::kPrompt)) return;
-  QMdiSubWindow* active = area_->activeSubWindow();
-  ToggleWindow(ChildWindowId::kPrompt);
-  if (active != nullptr) area_->setActiveSubWindow(active);
+  if (outcome == c64out::BuildOutcome::kFailed) windows_->ShowBehind(ChildWindowId::kPrompt);
 }
 
 void MainFrame::ProcessCommand(const QString& line) {
@@ -257,8 +233,7 @@ void MainFrame::StartUp() {
   std::error_code ignored;
   std::filesystem::remove(folders_.Snapshot(), ignored);  // so that the first save makes no backup
   views_->PictureChanged();
-  ArrangeWindows();
-  RestorePlaces(settings_, *this, children_);
+  windows_->Begin();
   RefreshMenus();
 }
 
@@ -284,16 +259,6 @@ void MainFrame::SetBackgroundColour(int number) {
 void MainFrame::SetGridColor(int number) {
   zoom_->SetGridColor(ColourNumber(number));
   grid_menu_->Check(number);
-}
-
-void MainFrame::ToggleWindow(ChildWindowId id) {
-  QMdiSubWindow* child = children_[static_cast<std::size_t>(id)].window;
-  child->setVisible(!IsWindowShown(id));
-  if (IsWindowShown(id)) area_->setActiveSubWindow(child);
-}
-
-bool MainFrame::IsWindowShown(ChildWindowId id) const {
-  return !children_[static_cast<std::size_t>(id)].window->isHidden();
 }
 
 void MainFrame::ShowAbout() {
@@ -352,6 +317,7 @@ void MainFrame::ShowPreferences() {
 
 void MainFrame::RefreshMenus() {
   background_menu_->Check(document_.picture.BackgroundColour.Number());
+  scale_menu_->Check(full_view_->Scale() - 1);
   menu_.Refresh();
 }
 
@@ -369,19 +335,14 @@ void MainFrame::Timer1_Timer() {
 
 void MainFrame::keyReleaseEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Escape && builds_->IsBuilding()) return builds_->Stop();
-  if (event->key() == Qt::Key_Escape && IsInSideWindow(focusWidget())) return GiveFocusToPicture();
+  if (event->key() == Qt::Key_Escape && windows_->IsInSideWindow(focusWidget())) {
+    return windows_->GiveFocusToPicture();
+  }
   const bool is_arrow = event->key() >= Qt::Key_Left && event->key() <= Qt::Key_Down;
   if (is_arrow && qobject_cast<QAbstractButton*>(focusWidget()) != nullptr) return;  // it led from button to button
   // Ctrl+R with Ctrl let go first is still Ctrl+R, not the pen of R.
   const Qt::KeyboardModifiers modifiers = event->modifiers() | ports_->keys.HeldAtPress(event->key());
   if (!desk_->HandleKeyUp(event->key(), modifiers)) QMainWindow::keyReleaseEvent(event);
-}
-
-bool MainFrame::IsInSideWindow(const QWidget* widget) const {
-  return std::any_of(kSideWindows.begin(), kSideWindows.end(), [&](ChildWindowId id) {
-    const QMdiSubWindow* window = children_[static_cast<std::size_t>(id)].window;
-    return window == widget || window->isAncestorOf(widget);  // one without a field of its own has the focus itself
-  });
 }
 
 void MainFrame::changeEvent(QEvent* event) {
@@ -403,7 +364,7 @@ void MainFrame::closeEvent(QCloseEvent* event) {
   if (!files_.MayClose()) return event->ignore();
   settings_.Write(kGridColor, std::to_string(zoom_->GridColor().Number()));
   settings_.Write(kMagnification, std::to_string(zoom_->Area().Magnification()));
-  KeepPlaces(settings_, *this, children_);
+  windows_->Keep();
   animation_->UnloadFrameWindow();
   StopTools();
   Timer1_->stop();  // a tick would keep the work that was given up

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QMainWindow>
-#include <array>
 #include <memory>
 
 #include "app/error_log.h"
@@ -13,9 +12,6 @@
 #include "ui/ports/program_slot.h"
 #include "ui/widgets/prompt_lines.h"
 #include "ui/widgets/status_panels.h"
-#include "ui/windows/window_places.h"
-
-class QMdiArea;
 
 namespace kelvo::ui {
 
@@ -34,10 +30,8 @@ class frmColors;
 class frmCommand;
 class frmPens;
 class frmZoom;
+class WindowDesk;
 struct FramePorts;
-
-enum class ChildWindowId { kFullView, kColors, kCharData, kPrompt, kZoom, kPens };
-inline constexpr std::size_t kChildWindows = 6;
 
 class MainFrame : public QMainWindow, private files::FileDisplay {
   Q_OBJECT
@@ -84,8 +78,9 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   bool HasLastCommand() const { return !last_command_.isEmpty(); }
   void RepeatLastCommand() { ProcessCommand(last_command_); }
 
-  void ToggleWindow(ChildWindowId id);
-  bool IsWindowShown(ChildWindowId id) const;
+  WindowDesk& Windows() { return *windows_; }
+  const WindowDesk& Windows() const { return *windows_; }
+  const frmBMPView& FullView() const { return *full_view_; }
 
   const app::ErrorLog& Log() const { return log_; }
 
@@ -102,15 +97,12 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   void ShowFile(const files::CurrentFile& file) override;
   void PictureReplaced() override;
   app::StatusLine& Status() { return *panels_; }
-  void AddChild(ChildWindowId id, QWidget* form, QPoint place, bool is_shown = true);
   void MakeChildren();
   void ConnectAnimation();
   void ConnectBuilds();
   void ShowBuilding();
   void BuildEnded(c64out::BuildOutcome outcome);
   void StopTools();
-  void GiveFocusToPicture();
-  bool IsInSideWindow(const QWidget* widget) const;
   void MakeChoiceMenus();
   void MakeRecentMenu();
   void ConnectDesk();
@@ -129,7 +121,6 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   PromptLines prompt_;
   QString last_command_;
 
-  QMdiArea* area_;
   frmBMPView* full_view_;
   frmColors* colors_;
   frmCharData* char_data_;
@@ -137,14 +128,15 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   frmCommand* command_;
   frmPens* pens_;
   PaintToolBar* Toolbar1_;
-  std::array<ChildPlace, kChildWindows> children_{};
   MainMenu menu_;
   ChoiceMenu* background_menu_ = nullptr;
   ChoiceMenu* grid_menu_ = nullptr;
   ChoiceMenu* border_menu_ = nullptr;
+  ChoiceMenu* scale_menu_ = nullptr;
   StatusPanels* panels_;
   QTimer* Timer1_;
 
+  std::unique_ptr<WindowDesk> windows_;
   std::unique_ptr<FramePorts> ports_;
   std::unique_ptr<PictureWindows> views_;
   files::PictureFiles files_;

@@ -6,6 +6,7 @@
 #include "ui/desks/animation_desk.h"
 #include "ui/desks/build_desk.h"
 #include "ui/desks/painting_desk.h"
+#include "ui/desks/window_desk.h"
 #include "ui/main_frame.h"
 
 namespace kelvo::ui {
@@ -17,6 +18,7 @@ constexpr MenuRow kMenus[] = {
     {"mnuLimPaint", nullptr, "&Paint", ""},
     {kBackgroundMenu, "mnuLimPaint", "&Background color", "Show this color wherever the picture's background shows"},
     {"mnuViewMenu", nullptr, "&Show", ""},
+    {kFullViewMenu, "mnuViewMenu", "Full &view scale", "How large the full view shows the picture"},
     {kGridMenu, "mnuViewMenu", "Zoom &grid", "Draw the grid of the zoom window in this color"},
     {kBorderMenu, "mnuViewMenu", "Zoom &border", "How the border of the zoom window looks"},
     {"mnuFunctions", nullptr, "F&unctions", ""},
@@ -30,8 +32,8 @@ template <ChildWindowId id>
 constexpr MenuEntry ShowEntry(const char* name, const char* text, const char* tip) {
   return {name,    "mnuViewMenu",
           text,    "",
-          tip,     [](MainFrame& f) { f.ToggleWindow(id); },
-          nullptr, [](const MainFrame& f) { return f.IsWindowShown(id); }};
+          tip,     [](MainFrame& f) { f.Windows().Toggle(id); },
+          nullptr, [](const MainFrame& f) { return f.Windows().IsShown(id); }};
 }
 
 template <int magnification>
@@ -105,8 +107,16 @@ constexpr MenuEntry kEntries[] = {
     Separator("mnuViewMenu"),
     ZoomEntry<4>("mnuZoom_4X", "Zoom &4:1", "Ctrl+4", "Show pixels four times as large"),
     ZoomEntry<8>("mnuZoom_8X", "Zoom &8:1", "Ctrl+8", "Show pixels eight times as large"),
+    {"mnuZoomLarge", "mnuViewMenu", "&Enlarge zoom window", "Ctrl+E", "Give the zoom window all room beside the others",
+     [](MainFrame& f) { f.Windows().ToggleLargeZoom(); }, nullptr,
+     [](const MainFrame& f) { return f.Windows().IsZoomLarge(); }},
     Submenu(kGridMenu, "mnuViewMenu"),
     Submenu(kBorderMenu, "mnuViewMenu"),
+    Separator("mnuViewMenu"),
+    Submenu(kFullViewMenu, "mnuViewMenu"),
+    {"mnuFullViewPal", "mnuViewMenu", "Pixels as on a PAL &screen", "",
+     "Show the full view in the proportions of a PAL screen", [](MainFrame& f) { f.Windows().TogglePal(); }, nullptr,
+     [](const MainFrame& f) { return f.FullView().IsPal(); }},
     Separator("mnuViewMenu"),
     {"mnuFullscreenView", "mnuViewMenu", "F&ullscreen view", "F11", "The picture alone, over the whole screen",
      [](MainFrame& f) { f.mnuFullscreenView_Click(); }, nullptr, nullptr, "fullscreen"},

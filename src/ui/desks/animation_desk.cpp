@@ -10,9 +10,15 @@
 
 namespace kelvo::ui {
 
-AnimationDesk::AnimationDesk(const files::PictureSurroundings& with, QMainWindow& frame, frmBMPView& full_view,
-                             frmZoom& zoom)
-    : with_(with), frame_(frame), full_view_(full_view), zoom_(zoom), mode_(with, *this), navigation_(with) {
+AnimationDesk::AnimationDesk(const files::PictureSurroundings& with, QMainWindow& frame, WindowDesk& windows,
+                             frmBMPView& full_view, frmZoom& zoom)
+    : with_(with),
+      frame_(frame),
+      windows_(windows),
+      full_view_(full_view),
+      zoom_(zoom),
+      mode_(with, *this),
+      navigation_(with) {
   turn_.setSingleShot(true);
   turn_.setTimerType(Qt::PreciseTimer);
   connect(&turn_, &QTimer::timeout, this, &AnimationDesk::PlayTurn);
@@ -43,7 +49,7 @@ void AnimationDesk::ShowFrameWindow() {
 
 void AnimationDesk::MakeFrameWindow() {
   frame_window_ = new frmAnim(&frame_);
-  PlaceFloating(*frame_window_, ReadFrameWindowPlace(with_.settings), frame_);
+  windows_.PlaceFloating(*frame_window_, ReadFrameWindowPlace(with_.settings));
   frame_window_->SetPlayRate(anim::ReadPlayRate(with_.settings));
   frame_window_->SetOnionSkin(anim::ReadOnionSkin(with_.settings));
   connect(frame_window_, &frmAnim::MoveAsked, this, [this](anim::FrameMove move) {
@@ -70,10 +76,6 @@ void AnimationDesk::MakeFrameWindow() {
     KeepFrameWindowPlace(with_.settings, at);
     mode_.FrameWindowUnloaded();
   });
-}
-
-void AnimationDesk::ArrangeWindow() {
-  if (frame_window_ != nullptr) ArrangeFloating(*frame_window_, frame_);
 }
 
 void AnimationDesk::UnloadFrameWindow() {

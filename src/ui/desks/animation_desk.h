@@ -12,6 +12,7 @@
 #include "anim/anim_mode.h"
 #include "anim/frame_navigation.h"
 #include "anim/frame_player.h"
+#include "ui/desks/window_desk.h"
 #include "ui/windows/frm_anim.h"
 #include "ui/windows/frm_bmp_view.h"
 #include "ui/windows/frm_zoom.h"
@@ -22,13 +23,14 @@ class AnimationDesk : public QObject, private anim::AnimDisplay {
   Q_OBJECT
 
  public:
-  AnimationDesk(const files::PictureSurroundings& with, QMainWindow& frame, frmBMPView& full_view, frmZoom& zoom);
+  AnimationDesk(const files::PictureSurroundings& with, QMainWindow& frame, WindowDesk& windows, frmBMPView& full_view,
+                frmZoom& zoom);
 
   anim::AnimMode& Mode() { return mode_; }
   const anim::AnimMode& Mode() const { return mode_; }
   void ShowProperties();
-  // Puts the frame window, if there is one, where it belongs by default.
-  void ArrangeWindow();
+  // Null while the mode is off.
+  QWidget* FrameWindow() const { return frame_window_; }
   // Closes the frame window, if there is one; its place is kept.
   void UnloadFrameWindow() override;
   // The current file, or what is in it, may be another one now.
@@ -56,6 +58,7 @@ class AnimationDesk : public QObject, private anim::AnimDisplay {
 
   files::PictureSurroundings with_;
   QMainWindow& frame_;
+  WindowDesk& windows_;
   frmBMPView& full_view_;
   frmZoom& zoom_;
   anim::AnimMode mode_;

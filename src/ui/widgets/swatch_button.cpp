@@ -1,5 +1,6 @@
 #include "ui/widgets/swatch_button.h"
 
+#include <QFontInfo>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -16,6 +17,7 @@ QString PlainColourName(model::C64Colour colour) {
 
 SwatchButton::SwatchButton(QWidget* parent) : QAbstractButton(parent) {
   setFocusPolicy(Qt::StrongFocus);
+  setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
   Show({});
 }
 
@@ -25,26 +27,55 @@ void SwatchButton::Show(model::C64Colour colour, const QString& role, const QStr
   in_cell_ = in_cell;
   const QString name = ToQt(model::ColourName(colour));
   setAccessibleName(role.isEmpty() ? name : role + ": " + name);
-  setToolTip(accessibleName());
+  setToolTip(key_.isNull() ? accessibleName() : QString("%1 (key %2)").arg(accessibleName()).arg(key_));
   update();
 }
 
+// Room for two lines of small letters.
+QFont SwatchButton::SmallFont() const {
+  constexpr double kOfTheOthers = 0.8;
+  QFont small = font();
+  small.setPointSizeF(QFontInfo(small).pointSizeF() * kOfTheOthers);
+  return small;
+}
+
 QSize SwatchButton::sizeHint() const {
-  return {32, 28};
+  const QFontMetrics letters(SmallFont());
+  return QSize(32, 28).expandedTo({letters.horizontalAdvance("RB") + 8, 2 * letters.ascent() + 6});
 }
 
 void SwatchButton::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  const QColor fill = QColor::fromRgb(model::SurfaceColour(colour_));
+  const QColor fill = QColor::fromRgb(model::SurfaceColour(colour_)), ink = InkOn(fill);
   painter.fillRect(rect(), fill);
-  painter.setPen(hasFocus() ? QPen(palette().highlight(), 3) : QPen(palette().mid(), 1));
+  painter.setPen(palette().color(QPalette::Mid));
   painter.drawRect(rect().adjusted(0, 0, -1, -1));
-  painter.setPen(InkOn(fill));
-  painter.drawText(rect().adjusted(4, 1, -3, -1), Qt::AlignLeft | Qt::AlignTop, marks_);
+  const QRect inside = rect().adjusted(4, 2, -4, -2);
+  QFont font = SmallFont();
+  painter.setFont(font);
+  QColor faint = ink;
+  faint.setAlphaF(0.6F);
+  painter.setPen(faint);
+  if (!key_.isNull()) painter.drawText(inside, Qt::AlignLeft | Qt::AlignBottom, key_);
+  font.setBold(true);
+  painter.setFont(font);
+  painter.setPen(ink);
+  painter.drawText(inside, Qt::AlignLeft | Qt::AlignTop, marks_);
+  if (hasFocus()) PaintFocus(painter);
   if (!in_cell_) return;
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.setBrush(InkOn(fill));
-  painter.drawEllipse(QPointF(width() - 7, height() - 7), 2.5, 2.5);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(ink);
+  painter.drawEllipse(QPointF(width() - 7, height() - 7), 3, 3);
+}
+
+// Dotted and in black and white, which no mark of a chosen colour is.
+void SwatchButton::PaintFocus(QPainter& painter) const {
+  const QRect frame = rect().adjusted(1, 1, -2, -2);
+  painter.setPen(Qt::black);
+  painter.drawRect(frame);
+  painter.setPen(QPen(Qt::white, 1, Qt::DotLine));
+  painter.drawRect(frame);
 }
 
 void SwatchButton::mousePressEvent(QMouseEvent* event) {

@@ -19,6 +19,9 @@ class SwatchButton : public QAbstractButton {
  public:
   explicit SwatchButton(QWidget* parent);
 
+  // The key that stands for a click, in the lower left corner and in the tip.
+  void SetKey(QChar key) { key_ = key; }
+
   // Shows `colour`; `marks` are letters in its corner, `in_cell` puts a dot below them. `role` begins the accessible
   // name.
   void Show(model::C64Colour colour, const QString& role = {}, const QString& marks = {}, bool in_cell = false);
@@ -35,8 +38,12 @@ class SwatchButton : public QAbstractButton {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  QFont SmallFont() const;
+  void PaintFocus(QPainter& painter) const;
+
   model::C64Colour colour_;
   QString marks_;
+  QChar key_;
   bool in_cell_ = false;
 };
 

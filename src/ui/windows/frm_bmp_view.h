@@ -5,6 +5,7 @@
 #include <QProgressBar>
 #include <QWidget>
 
+#include "app/settings_store.h"
 #include "model/full_view.h"
 #include "model/picture_image.h"
 #include "model/surface.h"
@@ -13,6 +14,10 @@
 #include "ui/widgets/full_view_picture.h"
 
 namespace kelvo::ui {
+
+inline constexpr app::Setting kFullViewScale{"Settings", "FullViewScale", "1"};
+inline constexpr app::Setting kFullViewPal{"Settings", "FullViewPAL", "0"};
+inline constexpr int kLargestFullView = 3;
 
 class frmBMPView : public QWidget {
   Q_OBJECT
@@ -28,6 +33,14 @@ class frmBMPView : public QWidget {
   // Shows another picture instead, which is not edited; null shows the picture again.
   void ShowPreview(const model::PictureImage* other);
 
+  // How large the picture is shown, 1..3 times, and whether as a PAL screen shows it.
+  void SetScale(int scale, bool is_pal);
+  int Scale() const { return scale_; }
+  bool IsPal() const { return is_pal_; }
+
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override { return sizeHint(); }
+
   // Marks the part that the zoom window shows, in full-view pixels.
   void ShowZoomArea(const model::ZoomArea& area);
 
@@ -36,16 +49,22 @@ class frmBMPView : public QWidget {
 
   app::Progress& Progress() { return progress_; }
 
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
  signals:
   void ZoomAreaChosen(int col, int row);  // 1..40, 1..25
 
  private:
+  QString Caption() const;
   void picStd_MouseMove(QPoint at);
   void picStd_Click();
 
   const model::PictureImage& picture_;
   model::Surface surface_;
   bool previewing_ = false;
+  int scale_ = 1;
+  bool is_pal_ = false;
   model::FullViewPointer pointer_;
   FullViewPicture* picStd_;
   QProgressBar* ProgressBar1_;

@@ -4,6 +4,8 @@
 #include <QStringList>
 #include <tuple>
 
+#include "editing/pens.h"
+
 namespace kelvo::ui {
 namespace {
 
@@ -24,13 +26,14 @@ frmColors::frmColors(QWidget* parent) : QWidget(parent) {
   setObjectName("frmColors");
   setWindowTitle(" Colors");
   auto* grid = new QGridLayout(this);
-  grid->setContentsMargins(6, 6, 6, 6);
-  grid->setSpacing(3);
-  grid->setColumnMinimumWidth(kColumns, 3);
+  grid->setContentsMargins(4, 4, 4, 4);
+  grid->setSpacing(2);
+  grid->setColumnMinimumWidth(kColumns, 2);
   for (int number = 0; number < model::C64Colour::kCount; ++number) {
     auto* swatch = new SwatchButton(this);
     const model::C64Colour colour = *model::C64Colour::FromNumber(number);
     swatch->setObjectName(QString("swatch_%1").arg(number));
+    swatch->SetKey(QChar(editing::KeyForPen(colour)));
     swatch->setAccessibleDescription(kHint);
     swatch->setStatusTip(kHint);
     grid->addWidget(swatch, number / kColumns, number % kColumns);

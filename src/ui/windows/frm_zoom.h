@@ -25,6 +25,10 @@ class frmZoom : public QWidget {
   frmZoom(const model::PictureImage& picture, QWidget* parent);
 
   const model::ZoomArea& Area() const { return area_; }
+  // The size of a window that shows so many cells at 4:1, and half as many at 8:1.
+  QSize SizeFor(int cells_wide, int cells_high) const;
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
   void SetMagnification(int magnification);  // 4 or 8; shows the top left of the picture
   void CentreOn(int col, int row);           // 1..40, 1..25
   void Move(model::ZoomMove move, model::ZoomStep step);
@@ -44,6 +48,11 @@ class frmZoom : public QWidget {
   void RedrawZoomChar(int cell);    // 1..1000
   void PutZoomPixel(int x, int y);  // 1..160, 1..200
 
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+
  signals:
   void AreaChanged();
   void MagnificationChanged();
@@ -55,6 +64,8 @@ class frmZoom : public QWidget {
  private:
   template <typename Change>
   void ChangeArea(Change&& change);
+  void FitRoom();
+  void FitSurface();
   void DrawBorder();
   void ConnectBox();
   void MagnificationDone();
