@@ -75,7 +75,7 @@ MainFrame::MainFrame(const app::ProgramFolders& folders, app::SettingsStore& set
       menu_(*this),
       panels_(new StatusPanels(statusBar())),
       Timer1_(new QTimer(this)),
-      windows_(std::make_unique<WindowDesk>(*this, *new QMdiArea(this), *zoom_, *full_view_, settings)),
+      windows_(std::make_unique<WindowDesk>(*this, *new QMdiArea(this), *zoom_, *full_view_, *panels_, settings)),
       ports_(std::make_unique<FramePorts>(this)),
       views_(std::make_unique<PictureWindows>(*full_view_, *zoom_)),
       files_(document_, {Surroundings(), ports_->pointer, ports_->dialogs, *this, *views_, *panels_}),

@@ -12,6 +12,7 @@
 #include "ui/ports/qt_file_dialogs.h"
 #include "ui/widgets/icons.h"
 #include "ui/windows/screenshot.h"
+#include "ui/windows/window_layout.h"
 
 namespace kelvo::ui {
 namespace {
@@ -150,7 +151,7 @@ TEST_F(WorkplaceTest, PlacesAreRememberedAndNonsenseIsNot) {
   EXPECT_EQ(Child("frmColors")->pos(), QPoint(120, 90));
   EXPECT_FALSE(Action("mnuView_2")->isChecked());
   EXPECT_LT(Child("frmPens")->x(), 2000);
-  EXPECT_EQ(Child("frmZoom")->pos(), QPoint(0, 0));
+  EXPECT_EQ(Child("frmZoom")->pos(), QPoint(kWindowGap, kWindowGap));
   EXPECT_GE(frame->x(), -100);
   Action("mnuArrange")->trigger();
   EXPECT_NE(Child("frmColors")->pos(), QPoint(120, 90));

@@ -25,13 +25,13 @@ WindowSize SizeOf(ChildWindowId id) {
 }
 
 // What a window manager adds to a window's height and width.
-constexpr QSize kAround(8, 32);
+constexpr QSize kAround(8, 36);
 
 }  // namespace
 
 WindowDesk::WindowDesk(QMainWindow& frame, QMdiArea& area, frmZoom& zoom, frmBMPView& full_view,
-                       app::SettingsStore& settings)
-    : frame_(frame), area_(area), zoom_(zoom), full_view_(full_view), settings_(settings) {
+                       StatusPanels& panels, app::SettingsStore& settings)
+    : frame_(frame), area_(area), zoom_(zoom), full_view_(full_view), panels_(panels), settings_(settings) {
   area_.setObjectName("mdiArea");
   frame_.setCentralWidget(&area_);
   area_.setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
@@ -54,6 +54,7 @@ QPoint WindowDesk::Scrolled() const {
 }
 
 QSize WindowDesk::Chrome() const {
+  panels_.FitInto(frame_.width());
   frame_.layout()->activate();
   return frame_.size() - area_.maximumViewportSize();
 }
@@ -81,9 +82,10 @@ void WindowDesk::ShareWidth() {
     QWidget& form = *Child(id).widget();
     form.setMinimumWidth(0);
     const bool is_magnified = &form == &full_view_ && full_view_.Scale() > 1;
-    if (!is_magnified) width = std::max(width, form.sizeHint().expandedTo(form.minimumSizeHint()).width());
+    const int needed = Child(id).IsFixed() ? form.sizeHint().width() : form.minimumSizeHint().width();
+    if (!is_magnified) width = std::max(width, needed + Child(id).Chrome().width());
   }
-  for (const ChildWindowId id : kColumn) Child(id).widget()->setMinimumWidth(std::max(width, Child(id).widget()->sizeHint().width()));
+  for (const ChildWindowId id : kColumn) Child(id).widget()->setMinimumWidth(width - Child(id).Chrome().width());
 }
 
 QSize WindowDesk::FirstSize() const {

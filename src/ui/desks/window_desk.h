@@ -10,6 +10,7 @@
 #include "ui/windows/frm_zoom.h"
 #include "ui/windows/window_layout.h"
 #include "ui/widgets/child_window.h"
+#include "ui/widgets/status_panels.h"
 
 namespace kelvo::ui {
 
@@ -21,7 +22,8 @@ class WindowDesk : public QObject {
 
  public:
   // All of it outlives the desk but the area, which belongs to `frame`.
-  WindowDesk(QMainWindow& frame, QMdiArea& area, frmZoom& zoom, frmBMPView& full_view, app::SettingsStore& settings);
+  WindowDesk(QMainWindow& frame, QMdiArea& area, frmZoom& zoom, frmBMPView& full_view, StatusPanels& panels,
+             app::SettingsStore& settings);
 
   void Add(ChildWindowId id, QWidget* form);
 
@@ -73,6 +75,7 @@ class WindowDesk : public QObject {
   QMdiArea& area_;
   frmZoom& zoom_;
   frmBMPView& full_view_;
+  StatusPanels& panels_;
   app::SettingsStore& settings_;
   std::array<ChildWindow*, kChildWindows> children_{};
   QRect zoom_before_;  // the place that the zoom window had before it was made large

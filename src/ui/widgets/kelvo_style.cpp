@@ -64,7 +64,7 @@ void DrawChosenTool(QPainter& painter, const QStyleOption& option) {
 
 int KelvoStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
   if (const auto* child = qobject_cast<const ChildWindow*>(widget)) {
-    if (metric == PM_TitleBarHeight) return QFontMetrics(CaptionFont()).height() + 2;
+    if (metric == PM_TitleBarHeight) return QFontMetrics(CaptionFont()).height() + 4;
     if (metric == PM_MdiSubWindowFrameWidth) return child->IsFixed() ? kFrame : kGripFrame;
   }
   return QProxyStyle::pixelMetric(metric, option, widget);

@@ -11,6 +11,7 @@
 namespace kelvo::ui {
 namespace {
 
+constexpr int kSizeGrip = 24;  // and what else is not for panels
 constexpr int kWordMilliseconds = 15000, kWarningMilliseconds = 30000;
 
 struct PanelRow {
@@ -71,6 +72,15 @@ StatusPanels::StatusPanels(QStatusBar* bar)
     hint_ = hint;
     ShowHintOrWord();
   });
+}
+
+void StatusPanels::FitInto(int width) {
+  setFixedHeight(layout()->heightForWidth(width - kSizeGrip));
+}
+
+void StatusPanels::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  FitInto(width() + kSizeGrip);
 }
 
 void StatusPanels::Tell(std::string_view text) {

@@ -26,9 +26,15 @@ class StatusPanels final : public QWidget, public app::StatusLine {
   void Tell(std::string_view text) override;
   void Warn(std::string_view text) override;
 
+  // Makes room for as many rows as the panels take in a main window of `width`.
+  void FitInto(int width);
+
   void Show(StatusPanel panel, const QString& text);
   void SetBuilding(bool is_building);  // the panel of a build is to be seen while one is at work
   void ShowUnsaved(bool is_unsaved);
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   void ShowWord(std::string_view text, bool is_warning, int milliseconds);

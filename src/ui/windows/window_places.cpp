@@ -65,7 +65,7 @@ bool CanBeTaken(const QRect& window, const QRect& space) {
 }
 
 // The frame that a window manager puts around a window whose own is not known yet.
-constexpr QMargins kLikelyFrame(4, 28, 4, 4);
+constexpr QMargins kLikelyFrame(6, 30, 6, 6);
 
 }  // namespace
 
