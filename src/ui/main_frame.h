@@ -96,7 +96,6 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   files::PictureSurroundings PictureSurroundings();
   void ShowFile(const files::CurrentFile& file) override;
   void PictureReplaced() override;
-  app::StatusLine& Status() { return *panels_; }
   void MakeChildren();
   void ConnectAnimation();
   void ConnectBuilds();

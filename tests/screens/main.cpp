@@ -26,6 +26,8 @@ namespace {
 
 using namespace kelvo;
 
+constexpr int kLeastHeight = 400;  // a lower window need not show all of its status bar
+
 QString Text(const QRect& rect) {
   return QString("%1,%2 %3x%4").arg(rect.x()).arg(rect.y()).arg(rect.width()).arg(rect.height());
 }
@@ -94,7 +96,8 @@ void Measurement::MeasureControls(const QWidget& window) {
     if (!control->isVisible() || control->objectName().startsWith("qt_")) continue;
     const QRect place(control->mapTo(&window, QPoint()), control->size());
     const bool is_control = qobject_cast<const QAbstractButton*>(control) || qobject_cast<const QLabel*>(control);
-    if (is_control) Expect(window.rect().contains(place), control->objectName() + " is cut: " + Text(place));
+    const bool is_panel = window.window()->height() < kLeastHeight && control->objectName().startsWith("pnl");
+    if (is_control && !is_panel) Expect(window.rect().contains(place), control->objectName() + " is cut: " + Text(place));
     const auto* label = qobject_cast<const QLabel*>(control);
     if (label == nullptr || label->text().isEmpty()) continue;
     const QSize needed = label->fontMetrics().size(0, label->text());

@@ -1,4 +1,6 @@
 // An animation made, walked through and played on the real main window.
+#include <QMdiSubWindow>
+#include <QScreen>
 #include <QCloseEvent>
 
 #include "anim/anim_settings.h"
@@ -75,7 +77,11 @@ TEST_F(AnimationTest, TheFrameWindowFollowsKeysFilesAndPlaces) {
   settings.Write(anim::kFolder, app::TextFromPath(frames) + "/");
   AnswerNext(QMessageBox::Yes);
   Action("mnuAnimMode")->trigger();
-  EXPECT_TRUE(frame->geometry().contains(Find("frmAnim")->geometry()));
+  EXPECT_TRUE(frame->screen()->geometry().contains(Find("frmAnim")->geometry()));
+  for (const auto* child : frame->findChildren<QMdiSubWindow*>()) {
+    const QRect place(child->mapToGlobal(QPoint()), child->size());
+    EXPECT_FALSE(place.intersects(Find("frmAnim")->geometry())) << FromQt(child->objectName());
+  }
   Find("frmAnim")->move(frame->pos() + QPoint(300, 200));
   const QPoint place = Find("frmAnim")->pos();
   Find("frmAnim")->close();

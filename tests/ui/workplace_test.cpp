@@ -3,6 +3,7 @@
 #include <QImageReader>
 #include <QLineEdit>
 #include <QMdiSubWindow>
+#include <QStatusTipEvent>
 #include <QWheelEvent>
 
 #include "editing/painting.h"
@@ -103,6 +104,73 @@ TEST_F(WorkplaceTest, KeysWheelDragAndClickMoveTheZoomArea) {
   QTest::keyClick(Box("frmZoom"), Qt::Key_Up, Qt::ControlModifier);
   EXPECT_EQ(ZoomOrigin(), QPoint(128, 56));
   EXPECT_EQ(frame->Document().picture, model::PictureImage());
+}
+
+TEST_F(WorkplaceTest, AnEnlargedZoomWindowShowsMoreAndPaintsUnderThePointer) {
+  frame->resize(1270, 900);
+  QTest::qWait(50);
+  Action("mnuZoomLarge")->trigger();
+  const model::ZoomArea& area = frame->Zoom().Area();
+  EXPECT_TRUE(Action("mnuZoomLarge")->isChecked());
+  EXPECT_GT(area.VisibleWidth(), 200);
+  EXPECT_EQ(area.VisibleHeight(), 192);
+  const int x = area.VisibleWidth() / 2, y = area.VisibleHeight();  // the last pixel that is shown
+  const model::Rect box = area.PixelRect(x, y);
+  QTest::mouseClick(Box("frmZoom"), Qt::LeftButton, {}, {box.x + 1, box.y + 1});
+  EXPECT_EQ(model::GetPixelData(frame->Document().picture, x, y).colour.Number(), 1);
+  EXPECT_EQ(Box("frmZoom")->grab().toImage().pixel(box.x + 4, box.y + 2), 0xFFFFFFFFU);
+  Action("mnuZoomLarge")->trigger();
+  EXPECT_EQ(QSize(area.VisibleWidth(), area.VisibleHeight()), QSize(160, 144));
+}
+
+TEST_F(WorkplaceTest, AMagnifiedFullViewStaysSharpAndPointsAtTheRightPixel) {
+  frame->Files().OpenPicture(WriteKoala("p.koa"));
+  for (const int scale : {1, 2, 3}) {
+    for (int pal = 0; pal < 2; ++pal) {
+      Action(("mnuFullViewScale_" + std::to_string(scale - 1)).c_str())->trigger();
+      if (pal == 1) Action("mnuFullViewPal")->trigger();
+      QWidget* box = Box("frmBMPView");
+      const QImage shown = box->grab().toImage();
+      EXPECT_NEAR(shown.height(), 202 * scale / (pal == 1 ? 0.936 : 1.0), 1);
+      for (const QPoint at : {QPoint(31, 7), QPoint(160, 100), QPoint(319, 199)}) {
+        const double high = shown.height() / 202.0;
+        const QPoint middle(at.x() * scale + scale / 2, static_cast<int>((at.y() + 0.5) * high));
+        const auto pixel = model::GetPixelData(frame->Document().picture, at.x() / 2 + 1, at.y() + 1);
+        EXPECT_EQ(shown.pixel(middle), model::SurfaceColour(pixel.colour));
+        MoveMouse(box, middle, Qt::NoButton);
+        EXPECT_TRUE(Find("frmBMPView")->windowTitle().startsWith(
+            QString(" Full view (%1:1) x=%2, y=%3,").arg(scale).arg(at.x() + 1).arg(at.y() + 1)));
+      }
+      for (int y = 0; y < shown.height(); ++y) {
+        for (int x = 0; x < shown.width(); ++x) {
+          const auto colours = model::kSurfaceColours;
+          const QRgb mark = shown.pixel(x, y);
+          ASSERT_TRUE(std::count(colours.begin(), colours.end(), mark) > 0) << x << ' ' << y;
+        }
+      }
+      if (pal == 1) Action("mnuFullViewPal")->trigger();
+    }
+  }
+}
+
+TEST_F(WorkplaceTest, TheStatusBarTellsHintsResultsAndUnsavedWork) {
+  frame->Files().SaveTo(folder / "pic.kvp");
+  EXPECT_TRUE(Panel("pnlWord").endsWith("pic.kvp, 10050 bytes"));
+  const auto is_unsaved = [this] { return Find("mrkUnsaved")->accessibleName() == "Unsaved work"; };
+  EXPECT_FALSE(is_unsaved());
+  frame->SetBackgroundColour(5);
+  EXPECT_TRUE(QTest::qWaitFor(is_unsaved));
+  frame->Files().New();
+  EXPECT_EQ(Panel("pnlWord"), "Unsaved work was kept in BACKUP as pic_2602030907_unsaved.kvp");
+  for (const MenuEntry& entry : MenuEntries()) {  // the longest hint too
+    if (entry.name == nullptr || entry.text == nullptr) continue;
+    QStatusTipEvent hint(entry.tip);
+    QApplication::sendEvent(frame.get(), &hint);
+    EXPECT_EQ(Panel("pnlWord"), entry.tip);
+  }
+  QStatusTipEvent none("");
+  QApplication::sendEvent(frame.get(), &none);
+  EXPECT_TRUE(Panel("pnlWord").startsWith("Unsaved work was kept"));
 }
 
 TEST_F(WorkplaceTest, AKeyThatAMenuTookDoesNothingInTheWindow) {

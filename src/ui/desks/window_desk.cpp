@@ -4,6 +4,7 @@
 #include <QLayout>
 #include <QScreen>
 #include <QScrollBar>
+#include <QStyle>
 #include <algorithm>
 
 #include "ui/windows/window_places.h"
@@ -88,15 +89,14 @@ void WindowDesk::ShareWidth() {
   for (const ChildWindowId id : kColumn) Child(id).widget()->setMinimumWidth(width - Child(id).Chrome().width());
 }
 
+// Everything is to be seen at first, where the display has room for it.
 QSize WindowDesk::FirstSize() const {
   const ZoomSizes zoom = SizesOfZoom();
-  const QSize first = zoom.For(kFirstCells);
   const auto column = ColumnSizes();
-  const int width = std::max_element(column.begin(), column.end(), [](QSize one, QSize other) {
-                      return one.width() < other.width();
-                    })->width();
-  const QSize needed = QSize(first.width() + width + 3 * kWindowGap, first.height() + 2 * kWindowGap) + Chrome();
-  return kFirstSize.expandedTo(needed).boundedTo(FreeArea(frame_.geometry()).size() - kAround);
+  const int beside = ui::Arrange({0, 0}, zoom, column, 0).Needed().width() - zoom.For({kLeastCells, kLeastCells}).width();
+  const QSize least(zoom.For(kFirstCells).width() + beside, zoom.For(kFirstCells).height() + 2 * kWindowGap);
+  const QSize needed = ui::Arrange(least, zoom, column, 0).Needed();
+  return kFirstSize.expandedTo(needed + Chrome()).boundedTo(FreeArea(frame_.geometry()).size() - kAround);
 }
 
 void WindowDesk::Begin() {
@@ -117,11 +117,12 @@ void WindowDesk::RestoreChildren(QSize room) {
   for (ChildWindow* child : children_) {
     const auto kept = ReadPlace(settings_, child->objectName());
     if (!kept) continue;
+    child->setVisible(kept->is_shown);
+    if (!CanBeTaken({kept->at, child->size()}, QRect(QPoint(), room))) continue;
     if (!child->IsFixed() && kept->size.isValid()) {
       child->resize(kept->size.boundedTo(room).expandedTo(child->minimumSizeHint()));
     }
     child->move(IntoReach({kept->at, child->size()}, QRect(QPoint(), room)).topLeft());
-    child->setVisible(kept->is_shown);
   }
 }
 
@@ -134,7 +135,13 @@ void WindowDesk::Keep() {
 }
 
 void WindowDesk::ArrangeIn(QSize room, int below) {
-  const Arrangement places = ui::Arrange(room, SizesOfZoom(), ColumnSizes(), below);
+  const ZoomSizes sizes = SizesOfZoom();
+  const auto column = ColumnSizes();
+  Arrangement places = ui::Arrange(room, sizes, column, below);
+  if (places.Needed().height() > room.height()) {  // there will be a scroll bar
+    const int bar = area_.style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, &area_);
+    places = ui::Arrange(room - QSize(bar, 0), sizes, column, below);
+  }
   ChildWindow& zoom = Child(ChildWindowId::kZoom);
   zoom.setGeometry(places.zoom);
   zoom.show();

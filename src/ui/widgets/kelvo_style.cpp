@@ -60,6 +60,20 @@ void DrawChosenTool(QPainter& painter, const QStyleOption& option) {
   painter.fillRect(QRect(option.rect.left(), option.rect.bottom() - 3, option.rect.width(), 4), mark);
 }
 
+// What leads to the entries that a narrow menu bar or toolbar does not show, in the theme's own ink.
+QIcon MoreIcon() {
+  constexpr int kSide = 32;
+  QPixmap pixmap(kSide, kSide);
+  pixmap.fill(Qt::transparent);
+  QPainter painter(&pixmap);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(QApplication::palette().color(QPalette::WindowText), 4, Qt::SolidLine, Qt::RoundCap));
+  for (const int x : {6, 16}) {
+    painter.drawPolyline(QPolygon({QPoint(x, 6), QPoint(x + 9, 16), QPoint(x, 26)}));
+  }
+  return pixmap;
+}
+
 }  // namespace
 
 int KelvoStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
@@ -119,6 +133,11 @@ void KelvoStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
     const QRect box = subControlRect(control, option, part, widget);
     if (!box.isEmpty()) DrawButton(*painter, box, own, part);
   }
+}
+
+QIcon KelvoStyle::standardIcon(StandardPixmap which, const QStyleOption* option, const QWidget* widget) const {
+  if (which == SP_ToolBarHorizontalExtensionButton) return MoreIcon();
+  return QProxyStyle::standardIcon(which, option, widget);
 }
 
 void KelvoStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,

@@ -22,6 +22,7 @@ class KelvoStyle final : public QProxyStyle {
                           const QWidget* widget) const override;
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override;
+  QIcon standardIcon(StandardPixmap which, const QStyleOption* option, const QWidget* widget) const override;
 
  private:
   QRect CaptionPart(const QStyleOptionTitleBar& bar, SubControl part) const;

@@ -1,5 +1,7 @@
 #include "ui/widgets/paint_tool_bar.h"
 
+#include <QToolButton>
+
 #include "model/cell_view.h"
 #include "ui/ports/qt_text.h"
 #include "ui/widgets/icons.h"
@@ -33,6 +35,7 @@ PaintToolBar::PaintToolBar(QWidget* parent)
   picCopy_->setAccessibleName("Copied cell");
   picCopy_->setToolTip("The cell that Mouse copy puts down: right button takes, left button puts");
   addWidget(picCopy_);
+  if (auto* more = findChild<QToolButton*>("qt_toolbar_ext_button")) more->setAccessibleName("More tools");
   ShowTool(editing::ToolId::kDraw);
 }
 

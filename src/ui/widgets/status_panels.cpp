@@ -2,6 +2,7 @@
 
 #include <QFontMetrics>
 #include <QHBoxLayout>
+#include <algorithm>
 
 #include "ui/ports/qt_text.h"
 #include "ui/widgets/elided_label.h"
@@ -24,7 +25,7 @@ constexpr PanelRow kWords{"pnlWord", "", "Draw every pixel that shows the backgr
 
 constexpr std::array<PanelRow, 7> kPanels{{
     {"pnlBuilding", "Building... (Escape stops)", "Building... (Escape stops)"},
-    {"pnlFile", "[unnamed]", "a long picture name.kvp"},
+    {"pnlFile", "[unnamed]", "a picture name.kvp"},
     {"pnlTool", "DRAW", "SET STARTING POINT"},
     {"pnlBlockFill", "BF=OFF", "BF=OFF"},
     {"pnlAnimation", "ANIM=OFF", "ANIM=OFF"},
@@ -33,12 +34,9 @@ constexpr std::array<PanelRow, 7> kPanels{{
 }};
 
 ElidedLabel* MakePanel(const PanelRow& row, QWidget* parent) {
-  auto* label = new ElidedLabel(parent);
+  auto* label = new ElidedLabel(row.widest_text, parent);
   label->setObjectName(row.name);
-  label->setTextFormat(Qt::PlainText);
-  label->setMargin(2);
-  label->setMinimumWidth(label->fontMetrics().horizontalAdvance(row.widest_text) + 10);
-  label->setText(row.first_text);
+  label->Show(row.first_text);
   return label;
 }
 
@@ -75,7 +73,9 @@ StatusPanels::StatusPanels(QStatusBar* bar)
 }
 
 void StatusPanels::FitInto(int width) {
-  setFixedHeight(layout()->heightForWidth(width - kSizeGrip));
+  const int rows = layout()->heightForWidth(width - kSizeGrip);
+  const int most = std::max(window()->height() * 2 / 5, layout()->minimumSize().height());
+  setFixedHeight(std::min(rows, most));  // in a window too low for more the last panels go
 }
 
 void StatusPanels::resizeEvent(QResizeEvent* event) {

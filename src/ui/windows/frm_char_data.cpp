@@ -59,6 +59,7 @@ frmCharData::frmCharData(const model::PictureImage& picture, QWidget* parent)
 
 QLayout* frmCharData::MakeBits() {
   auto* bits = new QHBoxLayout;
+  bits->setSpacing(6);
   for (std::size_t i = 0; i < lblBits_.size(); ++i) {
     lblBits_[i] = FixedPitchLabel(this, "00");
     lblBits_[i]->setObjectName(QString("lblBits_%1").arg(i + 1));

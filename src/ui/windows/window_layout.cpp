@@ -6,7 +6,7 @@
 namespace kelvo::ui {
 namespace {
 
-constexpr QSize kLeastCells(8, 8), kMostCells(40, 25);
+constexpr QSize kMostCells(40, 25);
 
 int CellsIn(int room, double cell, int least, int most) {
   return std::clamp(static_cast<int>(std::floor(room / cell)), least, most);
@@ -40,13 +40,19 @@ QSize ZoomSizes::For(QSize cells) const {
                static_cast<int>(std::ceil(cells.height() * cell.height())));
 }
 
+QSize Arrangement::Needed() const {
+  QRect all = zoom;
+  for (const QRect& window : std::span(column).first(column.empty() ? 0 : column.size() - 1)) all |= window;
+  return {all.right() + 1 + kWindowGap, all.bottom() + 1 + kWindowGap};
+}
+
 Arrangement Arrange(QSize area, const ZoomSizes& zoom, std::span<const QSize> column, int below) {
   int column_width = 0;
   for (const QSize size : column) column_width = std::max(column_width, size.width());
   const QSize around = zoom.chrome + zoom.border;
   const QSize room = area - around - QSize(column_width + 3 * kWindowGap, below + 2 * kWindowGap);
-  const QSize cells(CellsIn(room.width(), zoom.cell.width(), kLeastCells.width(), kMostCells.width()),
-                    CellsIn(room.height(), zoom.cell.height(), kLeastCells.height(), kMostCells.height()));
+  const QSize cells(CellsIn(room.width(), zoom.cell.width(), kLeastCells, kMostCells.width()),
+                    CellsIn(room.height(), zoom.cell.height(), kLeastCells, kMostCells.height()));
   const QRect place(QPoint(kWindowGap, kWindowGap), zoom.For(cells));
   return {place, Column({place.right() + 1 + kWindowGap, kWindowGap}, column, area.height() - kWindowGap - 1)};
 }

@@ -8,6 +8,7 @@
 namespace kelvo::ui {
 
 inline constexpr int kWindowGap = 3;
+inline constexpr int kLeastCells = 8;  // of the zoom window, across and down
 
 // How large the zoom window can be: its frame, and what it takes for cells at 4:1.
 struct ZoomSizes {
@@ -21,6 +22,9 @@ struct ZoomSizes {
 struct Arrangement {
   QRect zoom;
   std::vector<QRect> column;
+
+  // What all of them take, but for the last one of the column.
+  QSize Needed() const;
 };
 
 // The zoom window takes the left of `area`, as large as it goes and shows something (at least a few cells). The others

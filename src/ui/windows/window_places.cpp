@@ -57,13 +57,6 @@ void KeepNumbers(app::SettingsStore& settings, const QString& name, std::initial
   settings.Write(PlaceSetting(name).Get(), FromQt(texts.join(',')));
 }
 
-// The window's title bar can be taken hold of inside `space`.
-bool CanBeTaken(const QRect& window, const QRect& space) {
-  const QRect bar(window.left(), window.top(), window.width(), kTitleBar);
-  const QRect seen = bar & space;
-  return seen.width() >= std::min(kGrip, window.width()) && seen.height() >= kGrip / 4;
-}
-
 // The frame that a window manager puts around a window whose own is not known yet.
 constexpr QMargins kLikelyFrame(6, 30, 6, 6);
 
@@ -101,6 +94,12 @@ void BringIntoReach(QWidget& window) {
   const QSize size = window.size().boundedTo(space.size());
   const QRect there = IntoReach({window.geometry().topLeft(), size}, space);
   if (there != window.geometry()) window.setGeometry(there);
+}
+
+bool CanBeTaken(const QRect& window, const QRect& space) {
+  const QRect bar(window.left(), window.top(), window.width(), kTitleBar);
+  const QRect seen = bar & space;
+  return seen.width() >= std::min(kGrip, window.width()) && seen.height() >= kGrip / 4;
 }
 
 bool CanBeTakenOnAScreen(const QRect& window) {

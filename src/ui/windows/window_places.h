@@ -31,7 +31,8 @@ QRect FreeArea(const QRect& place);
 // Moves a window of the display's own into reach, and makes it no larger than its display.
 void BringIntoReach(QWidget& window);
 
-// The window's title bar can be taken hold of on a display.
+// The window's title bar can be taken hold of inside `space`, or on a display.
+bool CanBeTaken(const QRect& window, const QRect& space);
 bool CanBeTakenOnAScreen(const QRect& window);
 
 // Where the content of the frame window begins on the display, as it was kept. What is stored may be out of reach.
