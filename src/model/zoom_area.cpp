@@ -37,7 +37,7 @@ void ZoomArea::SetMagnificationAround(int magnification, int surface_x, int surf
 }
 
 void ZoomArea::CentreOn(int col, int row) {
-  MoveTo((col - CellsWide() / 2) * 8, (row - (CellsHigh() + 2) / 2) * 8);
+  MoveTo((col - (CellsWide() + 1) / 2) * 8, (row - (CellsHigh() + 2) / 2) * 8);
 }
 
 void ZoomArea::MoveTo(int origin_x, int origin_y) {

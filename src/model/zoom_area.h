@@ -43,8 +43,8 @@ class ZoomArea {
   int SurfaceWidth() const { return VisibleWidth() * magnification_ + 2 * kBorder; }
   int SurfaceHeight() const { return VisibleHeight() * magnification_ + 2 * kBorder; }
 
-  // Places the area around cell `col` (1..40), `row` (1..25): half of the cells that are shown lie before it, downwards
-  // one more.
+  // Places the area around cell `col` (1..40), `row` (1..25): it is in the middle of what is shown, or one cell before
+  // that.
   void CentreOn(int col, int row);
   void MoveTo(int origin_x, int origin_y);
   void Move(ZoomMove move, ZoomStep step);

@@ -96,8 +96,7 @@ MainFrame::MainFrame(const app::ProgramFolders& folders, app::SettingsStore& set
   ConnectBuilds();
   Timer1_->setObjectName("Timer1");
   connect(Timer1_, &QTimer::timeout, this, &MainFrame::Timer1_Timer);
-  connect(recovery_.get(), &RecoveryDesk::Word, this,
-          [this](const QString& word) { panels_->Warn(FromQt(word)); });
+  connect(recovery_.get(), &RecoveryDesk::Word, this, [this](const QString& word) { panels_->Warn(FromQt(word)); });
   connect(&ports_->file_watch, &FileWatch::Touched, this, [this] {
     if (files_.IsChangedElsewhere()) panels_->Warn("The file was changed elsewhere: Reload?");
   });
@@ -179,8 +178,7 @@ void MainFrame::ConnectAnimation() {
   connect(animation_.get(), &AnimationDesk::CheckMarkChanged, this, &MainFrame::RefreshMenus);
   connect(animation_.get(), &AnimationDesk::StatusChanged, this,
           [this](const QString& text) { panels_->Show(StatusPanel::kAnimation, text); });
-  connect(animation_.get(), &AnimationDesk::Word, this,
-          [this](const QString& word) { panels_->Tell(FromQt(word)); });
+  connect(animation_.get(), &AnimationDesk::Word, this, [this](const QString& word) { panels_->Tell(FromQt(word)); });
   connect(animation_.get(), &AnimationDesk::KeyReleased, this, [this](QKeyEvent* event) {
     if (event->key() != Qt::Key_Escape || builds_->IsBuilding()) return keyReleaseEvent(event);
     activateWindow();

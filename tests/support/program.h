@@ -136,8 +136,8 @@ struct Program {
   RecordingViews views;
   RecordingStatus status;
   files::Document document;
-  files::PictureFiles files{document,
-                            {{folders, settings, clock, log, messages, prompt}, pointer, dialogs, display, views, status}};
+  files::PictureFiles files{
+      document, {{folders, settings, clock, log, messages, prompt}, pointer, dialogs, display, views, status}};
   // What the parts of the program that work with the picture are given.
   files::PictureSurroundings surroundings{{folders, settings, clock, log, messages, prompt}, document, files};
 };

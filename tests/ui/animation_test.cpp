@@ -1,7 +1,7 @@
 // An animation made, walked through and played on the real main window.
+#include <QCloseEvent>
 #include <QMdiSubWindow>
 #include <QScreen>
-#include <QCloseEvent>
 
 #include "anim/anim_settings.h"
 #include "main_frame_fixture.h"

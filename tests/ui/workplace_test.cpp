@@ -138,8 +138,10 @@ TEST_F(WorkplaceTest, AMagnifiedFullViewStaysSharpAndPointsAtTheRightPixel) {
         const auto pixel = model::GetPixelData(frame->Document().picture, at.x() / 2 + 1, at.y() + 1);
         EXPECT_EQ(shown.pixel(middle), model::SurfaceColour(pixel.colour));
         MoveMouse(box, middle, Qt::NoButton);
-        EXPECT_TRUE(Find("frmBMPView")->windowTitle().startsWith(
-            QString(" Full view (%1:1) x=%2, y=%3,").arg(scale).arg(at.x() + 1).arg(at.y() + 1)));
+        EXPECT_TRUE(
+            Find("frmBMPView")
+                ->windowTitle()
+                .startsWith(QString(" Full view (%1:1) x=%2, y=%3,").arg(scale).arg(at.x() + 1).arg(at.y() + 1)));
       }
       for (int y = 0; y < shown.height(); ++y) {
         for (int x = 0; x < shown.width(); ++x) {
@@ -161,7 +163,7 @@ TEST_F(WorkplaceTest, TheStatusBarTellsHintsResultsAndUnsavedWork) {
   frame->SetBackgroundColour(5);
   EXPECT_TRUE(QTest::qWaitFor(is_unsaved));
   frame->Files().New();
-  EXPECT_EQ(Panel("pnlWord"), "Unsaved work was kept in BACKUP as pic_2602030907_unsaved.kvp");
+  EXPECT_EQ(Panel("pnlWord"), "Unsaved work was kept in BACKUP as pic.kvp_2602030907_unsaved.kvp");
   for (const MenuEntry& entry : MenuEntries()) {  // the longest hint too
     if (entry.name == nullptr || entry.text == nullptr) continue;
     QStatusTipEvent hint(entry.tip);

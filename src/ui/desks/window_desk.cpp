@@ -6,6 +6,7 @@
 #include <QScrollBar>
 #include <QStyle>
 #include <algorithm>
+#include <utility>
 
 #include "ui/windows/window_places.h"
 
@@ -30,8 +31,8 @@ constexpr QSize kAround(8, 36);
 
 }  // namespace
 
-WindowDesk::WindowDesk(QMainWindow& frame, QMdiArea& area, frmZoom& zoom, frmBMPView& full_view,
-                       StatusPanels& panels, app::SettingsStore& settings)
+WindowDesk::WindowDesk(QMainWindow& frame, QMdiArea& area, frmZoom& zoom, frmBMPView& full_view, StatusPanels& panels,
+                       app::SettingsStore& settings)
     : frame_(frame), area_(area), zoom_(zoom), full_view_(full_view), panels_(panels), settings_(settings) {
   area_.setObjectName("mdiArea");
   frame_.setCentralWidget(&area_);
@@ -66,13 +67,15 @@ QSize WindowDesk::RoomOf(QSize frame) const {
 
 ZoomSizes WindowDesk::SizesOfZoom() const {
   const QSize none = zoom_.SizeFor(0, 0), all = zoom_.SizeFor(40, 25);
-  return {Child(ChildWindowId::kZoom).Chrome(), none,
+  return {Child(ChildWindowId::kZoom).Chrome(),
+          none,
           {(all.width() - none.width()) / 40.0, (all.height() - none.height()) / 25.0}};
 }
 
 std::vector<QSize> WindowDesk::ColumnSizes() const {
   std::vector<QSize> sizes;
-  for (const ChildWindowId id : kColumn) sizes.push_back(Child(id).IsFixed() ? Child(id).sizeHint() : Child(id).minimumSizeHint());
+  for (const ChildWindowId id : kColumn)
+    sizes.push_back(Child(id).IsFixed() ? Child(id).sizeHint() : Child(id).minimumSizeHint());
   return sizes;
 }
 
@@ -89,21 +92,29 @@ void WindowDesk::ShareWidth() {
   for (const ChildWindowId id : kColumn) Child(id).widget()->setMinimumWidth(width - Child(id).Chrome().width());
 }
 
+int WindowDesk::ScrollBarWidth() const {
+  return area_.style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, &area_);
+}
+
 // Everything is to be seen at first, where the display has room for it.
 QSize WindowDesk::FirstSize() const {
   const ZoomSizes zoom = SizesOfZoom();
   const auto column = ColumnSizes();
-  const int beside = ui::Arrange({0, 0}, zoom, column, 0).Needed().width() - zoom.For({kLeastCells, kLeastCells}).width();
+  const int beside =
+      ui::Arrange({0, 0}, zoom, column, 0).Needed().width() - zoom.For({kLeastCells, kLeastCells}).width();
   const QSize least(zoom.For(kFirstCells).width() + beside, zoom.For(kFirstCells).height() + 2 * kWindowGap);
-  const QSize needed = ui::Arrange(least, zoom, column, 0).Needed();
-  return kFirstSize.expandedTo(needed + Chrome()).boundedTo(FreeArea(frame_.geometry()).size() - kAround);
+  QSize needed = ui::Arrange(least, zoom, column, 0).Needed() + Chrome();
+  const QSize free = FreeArea(frame_.geometry()).size() - kAround;
+  if (needed.height() > free.height()) needed.rwidth() += ScrollBarWidth();
+  return kFirstSize.expandedTo(needed).boundedTo(free);
 }
 
 void WindowDesk::Begin() {
   const QSize free = FreeArea(frame_.geometry()).size() - kAround;
   frame_.setMinimumSize(kLeastSize.boundedTo(free));
   frame_.resize(kFirstSize.boundedTo(free));
-  full_view_.SetScale(app::ReadNumber(settings_, kFullViewScale, 1, kLargestFullView), app::ReadNumber(settings_, kFullViewPal, 0, 1) == 1);
+  full_view_.SetScale(app::ReadNumber(settings_, kFullViewScale, 1, kLargestFullView),
+                      app::ReadNumber(settings_, kFullViewPal, 0, 1) == 1);
   ShareWidth();
   frame_.resize(FirstSize());
   ArrangeIn(RoomOf(frame_.size()), 0);
@@ -139,8 +150,7 @@ void WindowDesk::ArrangeIn(QSize room, int below) {
   const auto column = ColumnSizes();
   Arrangement places = ui::Arrange(room, sizes, column, below);
   if (places.Needed().height() > room.height()) {  // there will be a scroll bar
-    const int bar = area_.style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, &area_);
-    places = ui::Arrange(room - QSize(bar, 0), sizes, column, below);
+    places = ui::Arrange(room - QSize(ScrollBarWidth(), 0), sizes, column, below);
   }
   ChildWindow& zoom = Child(ChildWindowId::kZoom);
   zoom.setGeometry(places.zoom);
@@ -221,15 +231,37 @@ bool WindowDesk::IsInSideWindow(const QWidget* widget) const {
   });
 }
 
+std::vector<ChildWindow*> WindowDesk::BesideZoom() const {
+  std::vector<ChildWindow*> beside;
+  const int middle = Child(ChildWindowId::kZoom).geometry().center().x();
+  for (const ChildWindowId id : kColumn) {
+    if (IsShown(id) && Child(id).x() > middle) beside.push_back(&Child(id));
+  }
+  return beside;
+}
+
+QSize WindowDesk::LargestZoom() const {
+  return Child(ChildWindowId::kZoom).Chrome() + zoom_.SizeFor(40, 25) * (zoom_.Area().Is8X() ? 2 : 1);
+}
+
 QRect WindowDesk::RoomForZoom() const {
   const QRect area = area_.viewport()->rect().marginsRemoved({kWindowGap, kWindowGap, kWindowGap, kWindowGap});
   int right = area.right();
-  for (const ChildWindowId id : kColumn) {
-    const ChildWindow& child = Child(id);
-    if (!child.isHidden() && child.x() > area.center().x()) right = std::min(right, child.x() - kWindowGap - 1);
-  }
-  const QSize most = Child(ChildWindowId::kZoom).Chrome() + zoom_.SizeFor(40, 25) * (zoom_.Area().Is8X() ? 2 : 1);
-  return {area.topLeft(), QSize(right + 1 - area.left(), area.height()).boundedTo(most)};
+  for (const ChildWindow* child : BesideZoom()) right = std::min(right, child->x() - kWindowGap - 1);
+  return {area.topLeft(), QSize(right + 1 - area.left(), area.height()).boundedTo(LargestZoom())};
+}
+
+// How far the windows beside the zoom window can go to the right, as far as that helps it.
+int WindowDesk::RoomBesideColumn() const {
+  QRect column;
+  for (const ChildWindow* child : BesideZoom()) column |= child->geometry();
+  if (column.isNull()) return 0;
+  const int free = area_.viewport()->width() - kWindowGap - column.right() - 1;
+  return std::max(0, std::min(free, LargestZoom().width() + 2 * kWindowGap - column.left()));
+}
+
+void WindowDesk::MoveColumn(int distance) {
+  for (ChildWindow* child : BesideZoom()) child->move(child->pos() + QPoint(distance, 0));
 }
 
 bool WindowDesk::IsZoomLarge() const {
@@ -238,9 +270,15 @@ bool WindowDesk::IsZoomLarge() const {
 
 void WindowDesk::ToggleLargeZoom() {
   ChildWindow& zoom = Child(ChildWindowId::kZoom);
-  const QRect before = zoom.geometry();
-  zoom.setGeometry(IsZoomLarge() ? zoom_before_ : RoomForZoom());
-  zoom_before_ = before;
+  if (IsZoomLarge()) {
+    zoom.setGeometry(std::exchange(zoom_before_, QRect()));
+    MoveColumn(-column_moved_);
+  } else {
+    column_moved_ = RoomBesideColumn();
+    MoveColumn(column_moved_);
+    zoom_before_ = zoom.geometry();
+    zoom.setGeometry(RoomForZoom());
+  }
   zoom.show();
   emit Changed();
 }

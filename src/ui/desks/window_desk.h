@@ -6,11 +6,11 @@
 #include <array>
 #include <optional>
 
+#include "ui/widgets/child_window.h"
+#include "ui/widgets/status_panels.h"
 #include "ui/windows/frm_bmp_view.h"
 #include "ui/windows/frm_zoom.h"
 #include "ui/windows/window_layout.h"
-#include "ui/widgets/child_window.h"
-#include "ui/widgets/status_panels.h"
 
 namespace kelvo::ui {
 
@@ -45,7 +45,7 @@ class WindowDesk : public QObject {
   void GiveFocusToPicture();
   bool IsInSideWindow(const QWidget* widget) const;  // one that Escape leaves
 
-  // Gives the zoom window all room beside the others, or the size back that it had before.
+  // Gives the zoom window all room beside the others, which go to the right, or all back the places that they had.
   void ToggleLargeZoom();
   bool IsZoomLarge() const;
 
@@ -63,10 +63,15 @@ class WindowDesk : public QObject {
   ZoomSizes SizesOfZoom() const;
   std::vector<QSize> ColumnSizes() const;
   void ShareWidth();
+  int ScrollBarWidth() const;
   QSize FirstSize() const;
   void ArrangeIn(QSize room, int below);
   void RestoreChildren(QSize room);
+  std::vector<ChildWindow*> BesideZoom() const;
+  QSize LargestZoom() const;
   QRect RoomForZoom() const;
+  int RoomBesideColumn() const;
+  void MoveColumn(int distance);
   QRect FreePlaceOver(QSize size) const;
   void ShowFullView(int scale, bool is_pal);
   void BringAllIntoReach();
@@ -78,7 +83,8 @@ class WindowDesk : public QObject {
   StatusPanels& panels_;
   app::SettingsStore& settings_;
   std::array<ChildWindow*, kChildWindows> children_{};
-  QRect zoom_before_;  // the place that the zoom window had before it was made large
+  QRect zoom_before_;     // the place that the zoom window had before it was made large
+  int column_moved_ = 0;  // by how much the windows beside it made room then
 };
 
 }  // namespace kelvo::ui

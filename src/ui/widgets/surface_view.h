@@ -18,8 +18,8 @@ class SurfaceView : public QWidget {
  public:
   SurfaceView(model::Surface& surface, int unit, QWidget* parent);
 
-  // Shows a surface pixel `factor` times as large (1 or more), and `stretch` times as high as that. Whatever the stretch,
-  // every row is a whole number of device pixels high, some one more than others: nothing is blurred.
+  // Shows a surface pixel `factor` times as large (1 or more), and `stretch` times as high as that. Whatever the
+  // stretch, every row is a whole number of device pixels high, some one more than others: nothing is blurred.
   void Magnify(int factor, double stretch);
   // Shows another surface, which outlives the view.
   void ShowSurface(model::Surface& surface);

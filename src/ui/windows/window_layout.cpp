@@ -68,7 +68,8 @@ QRect FreePlace(const QRect& area, QSize size, std::span<const QRect> taken) {
   for (const int top : tops) {
     for (const int left : lefts) {
       const QRect place(QPoint(left, top), size);
-      const bool is_free = std::none_of(taken.begin(), taken.end(), [&](auto& other) { return other.intersects(place); });
+      const bool is_free =
+          std::none_of(taken.begin(), taken.end(), [&](auto& other) { return other.intersects(place); });
       if (is_free && area.contains(place)) return place;
     }
   }

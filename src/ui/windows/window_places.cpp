@@ -109,7 +109,8 @@ bool CanBeTakenOnAScreen(const QRect& window) {
 }
 
 void RestoreFrame(const app::SettingsStore& settings, QMainWindow& frame) {
-  frame.restoreState(QByteArray::fromBase64(QByteArray::fromStdString(settings.Read(PlaceSetting("Toolbar1Place").Get()))));
+  frame.restoreState(
+      QByteArray::fromBase64(QByteArray::fromStdString(settings.Read(PlaceSetting("Toolbar1Place").Get()))));
   const auto numbers = ReadNumbers(settings, frame.objectName() + "Place", 5);
   if (!numbers) return;
   const QRect place((*numbers)[0], (*numbers)[1], (*numbers)[2], (*numbers)[3]);
