@@ -37,7 +37,7 @@ TEST(WindowLayout, NoWindowCoversAnotherAndAllAreSeenWhereThereIsRoom) {
 }
 
 TEST(WindowLayout, TheZoomWindowTakesWhatThereIsUpToTheWholePicture) {
-  EXPECT_EQ(Arrange({1012, 620}, kZoom, kColumn, 0).zoom.size(), QSize(640 + 24, 576 + 41));
+  EXPECT_EQ(Arrange({1012, 624}, kZoom, kColumn, 0).zoom.size(), QSize(640 + 24, 576 + 41));
   EXPECT_EQ(Arrange({3800, 2100}, kZoom, kColumn, 0).zoom.size(), QSize(1280 + 24, 800 + 41));
   EXPECT_EQ(Arrange({300, 200}, kZoom, kColumn, 0).zoom.size(), QSize(256 + 24, 256 + 41));
 }
