@@ -74,8 +74,11 @@ ZoomSizes WindowDesk::SizesOfZoom() const {
 
 std::vector<QSize> WindowDesk::ColumnSizes() const {
   std::vector<QSize> sizes;
-  for (const ChildWindowId id : kColumn)
-    sizes.push_back(Child(id).IsFixed() ? Child(id).sizeHint() : Child(id).minimumSizeHint());
+  for (const ChildWindowId id : kColumn) {
+    const ChildWindow& child = Child(id);
+    const QSize least = child.minimumSizeHint().expandedTo({child.Chrome().width() + child.widget()->minimumWidth(), 0});
+    sizes.push_back(child.IsFixed() ? child.sizeHint() : least);
+  }
   return sizes;
 }
 

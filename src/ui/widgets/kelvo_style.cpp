@@ -6,6 +6,8 @@
 #include <QStyleOption>
 #include <QToolBar>
 #include <QToolButton>
+#include <algorithm>
+#include <cstdlib>
 
 #include "ui/widgets/child_window.h"
 #include "ui/widgets/ink.h"
@@ -15,6 +17,7 @@ namespace {
 
 constexpr double kCaptionFont = 0.9;  // of the application's
 constexpr double kLeastPoints = 5;
+constexpr int kReadable = 70;  // greys between ink and ground
 constexpr int kFrame = 1, kGripFrame = 4;
 
 QFont CaptionFont() {
@@ -75,6 +78,13 @@ QIcon MoreIcon() {
 }
 
 }  // namespace
+
+void KelvoStyle::polish(QPalette& palette) {
+  QProxyStyle::polish(palette);
+  const QColor link = palette.color(QPalette::Link), ground = palette.color(QPalette::Window);
+  if (std::abs(qGray(link.rgb()) - qGray(ground.rgb())) > kReadable) return;
+  palette.setColor(QPalette::Link, Mixed(link, palette.color(QPalette::WindowText), 0.6));
+}
 
 int KelvoStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
   if (const auto* child = qobject_cast<const ChildWindow*>(widget)) {

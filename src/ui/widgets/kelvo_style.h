@@ -13,6 +13,9 @@ class KelvoStyle final : public QProxyStyle {
   Q_OBJECT
 
  public:
+  using QProxyStyle::polish;
+  // A theme that says nothing of links leaves them dark blue, also on a dark ground.
+  void polish(QPalette& palette) override;
   int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                 QStyleHintReturn* data) const override;

@@ -48,7 +48,7 @@ QSize frmCommand::sizeHint() const {
 // Three replies above the line.
 QSize frmCommand::minimumSizeHint() const {
   const QFontMetrics metrics(txtCommand_->font());
-  return {metrics.averageCharWidth() * 24, 3 * metrics.lineSpacing() + txtCommand_->sizeHint().height() + 12};
+  return {metrics.averageCharWidth() * 24, 3 * metrics.lineSpacing() + txtCommand_->sizeHint().height() + 8};
 }
 
 void frmCommand::keyReleaseEvent(QKeyEvent* event) {
