@@ -73,11 +73,11 @@ ZoomSizes WindowDesk::SizesOfZoom() const {
 }
 
 std::vector<QSize> WindowDesk::ColumnSizes() const {
+  const int width = Child(ChildWindowId::kColors).sizeHint().width();  // that all share
   std::vector<QSize> sizes;
   for (const ChildWindowId id : kColumn) {
     const ChildWindow& child = Child(id);
-    const QSize least = child.minimumSizeHint().expandedTo({child.Chrome().width() + child.widget()->minimumWidth(), 0});
-    sizes.push_back(child.IsFixed() ? child.sizeHint() : least);
+    sizes.push_back(child.IsFixed() ? child.sizeHint() : QSize(width, child.minimumSizeHint().height()));
   }
   return sizes;
 }
