@@ -189,7 +189,13 @@ QRect WindowDesk::FreePlaceOver(QSize size) const {
   const QRect free = FreeArea(frame_.geometry());
   const QRect area = global(area_.viewport()->rect()) & free;
   if (const QRect inside = FreePlace(area, size, taken); !inside.isNull()) return inside;
-  return FreePlace(free, size, std::array{frame_.frameGeometry()});
+  const QRect frame = frame_.frameGeometry();
+  for (const QPoint corner :
+       {QPoint(frame.right() + 1 + kWindowGap, frame.top()), QPoint(frame.left(), frame.bottom() + 1 + kWindowGap),
+        QPoint(frame.left() - size.width() - kWindowGap, frame.top())}) {
+    if (free.contains(QRect(corner, size))) return {corner, size};
+  }
+  return {};
 }
 
 void WindowDesk::PlaceFloating(QWidget& window) {
