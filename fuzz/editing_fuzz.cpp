@@ -71,6 +71,12 @@ class Session final : public app::Messages, public app::ProcessEvents {
   }
 
   void Inform(std::string_view) override { MeddleFromInside(); }
+  void InformWithMore(std::string_view, std::string_view) override {}
+  bool InformWithChoice(std::string_view text, std::string_view) override {
+    Inform(text);
+    return false;
+  }
+  void Note(std::string_view) override {}
   void Warn(std::string_view) override {}
   void Tell(std::string_view) override {}
   bool Ask(std::string_view) override { return false; }

@@ -7,11 +7,17 @@ namespace kelvo::app {
 
 enum class UnsavedAnswer { kSave, kDiscard, kCancel };
 
-// Each call returns when the user has answered.
+// Each call but Note() returns when the user has answered.
 class Messages {
  public:
   virtual ~Messages() = default;
   virtual void Inform(std::string_view text) = 0;               // information icon, OK
+  // The same with `more` in smaller letters below.
+  virtual void InformWithMore(std::string_view text, std::string_view more) = 0;
+  // The same with a check box that says `choice`; true when the user ticked it.
+  virtual bool InformWithChoice(std::string_view text, std::string_view choice) = 0;
+  // A line in the status bar.
+  virtual void Note(std::string_view text) = 0;
   virtual void Warn(std::string_view text) = 0;                 // exclamation icon, OK
   virtual void Tell(std::string_view text) = 0;                 // no icon, OK
   virtual bool Ask(std::string_view text) = 0;                  // Yes and No; anything but Yes is no

@@ -56,8 +56,12 @@ bool Painting::Tick() {
   return Active().Tick();
 }
 
+bool Painting::CancelShape() {
+  return !busy_ && Active().Cancel();
+}
+
 void Painting::Escape() {
-  if (!busy_ && !Active().Cancel()) ChooseTool(ToolId::kDraw);
+  if (!CancelShape()) ChooseTool(ToolId::kDraw);
 }
 
 void Painting::Undo() {

@@ -11,7 +11,7 @@ namespace kelvo::editing {
 
 struct PaintingPorts {
   model::PictureViews& views;
-  const app::SettingsStore& settings;
+  app::SettingsStore& settings;
   app::Messages& messages;
   app::ProcessEvents& events;
   app::WaitPointer& pointer;

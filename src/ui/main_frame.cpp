@@ -101,9 +101,11 @@ MainFrame::MainFrame(const app::ProgramFolders& folders, app::SettingsStore& set
   MakeChildren();
   MakeChoiceMenus();
   MakeRecentMenu();
+  menu_.Menu(kToolsMenu)->addActions(Toolbar1_->Tools());
   ConnectDesk();
   ConnectAnimation();
   ConnectBuilds();
+  ports_->messages.on_note = [this](const QString& word) { statusBar()->showMessage(word, kWordMilliseconds); };
   Timer1_->setObjectName("Timer1");
   connect(Timer1_, &QTimer::timeout, this, &MainFrame::Timer1_Timer);
   connect(recovery_.get(), &RecoveryDesk::Word, this,
@@ -196,6 +198,7 @@ void MainFrame::ConnectDesk() {
   connect(desk_.get(), &PaintingDesk::StateChanged, this, &MainFrame::ShowPaintingState);
   connect(desk_.get(), &PaintingDesk::PointerAt, this,
           [this](const QString& text) { panels_.Show(StatusPanel::kPointer, text); });
+  connect(desk_.get(), &PaintingDesk::CursorAt, this, [this](const QString& text) { statusBar()->showMessage(text); });
   connect(desk_.get(), &PaintingDesk::BackgroundChosen, this,
           [this](model::C64Colour colour) { SetBackgroundColour(colour.Number()); });
 }
@@ -352,6 +355,8 @@ void MainFrame::ShowPreferences() {
   SettingsDialog dialog(settings_, "frmPreferences", "Preferences", this);
   dialog.AddCheckBox(editing::k4thColReplaces, "&4th char color replaces selected color");
   dialog.AddCheckBox(editing::kReplaceLeastUsedColWhenFilling, "&Replace least used color when filling");
+  dialog.AddCheckBox(editing::kCloseCircles, "&Close circles where they run steeply");
+  dialog.AddCheckBox(editing::kTellRefusalsInStatusBar, "&Tell refusals of full cells in the status bar");
   dialog.AddNumber(files::kKeepBackupsDays, files::kMostBackupDays, "Days that every &backup is kept:", "for ever",
                    "Of the days before those the last backup of each picture stays");
   dialog.exec();
@@ -375,7 +380,8 @@ void MainFrame::keyReleaseEvent(QKeyEvent* event) {
   if (is_arrow && qobject_cast<QAbstractButton*>(focusWidget()) != nullptr) return;  // it led from button to button
   // Ctrl+R with Ctrl let go first is still Ctrl+R, not the pen of R.
   const Qt::KeyboardModifiers modifiers = event->modifiers() | ports_->keys.HeldAtPress(event->key());
-  if (!desk_->HandleKeyUp(event->key(), modifiers)) QMainWindow::keyReleaseEvent(event);
+  if (desk_->HandleKeyUp(event->key(), modifiers) || menu_.HandleKeyUp(event->key(), modifiers)) return;
+  QMainWindow::keyReleaseEvent(event);
 }
 
 bool MainFrame::IsInSideWindow(const QWidget* widget) const {

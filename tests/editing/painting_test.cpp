@@ -162,6 +162,22 @@ TEST_F(PaintingTest, ARefusalIsToldOncePerEventAndEndsNoMoreThanItMust) {
   EXPECT_EQ(CountOf(5), 12);
 }
 
+TEST_F(PaintingTest, ARefusalIsToldWhereTheUserChose) {
+  settings.Write(k4thColReplaces, "0");
+  support::SetCell(picture, 41, support::kAllSlots, 1, 2, 3);
+  Click({1, 9});
+  around.ticks = true;  // in the second box
+  Click({1, 9});
+  EXPECT_EQ(around.shown.size(), 2U);
+  EXPECT_EQ(settings.Read(kTellRefusalsInStatusBar), "1");
+  Click({1, 9});
+  EXPECT_EQ(around.shown.size(), 2U);
+  EXPECT_EQ(around.notes, support::Lines{"Not possible - all colors used"});
+  settings.Write(k4thColReplaces, "1");
+  Click({1, 9});
+  EXPECT_EQ(views.full_cells, "41- 41- 41- 41+ ");
+}
+
 TEST_F(PaintingTest, ShapesAreDrawnWithTheLeftPenAtTheTickAfterTheirLastPoint) {
   painting.ChooseTool(kLine);
   Click({10, 10}, Button::kRight);

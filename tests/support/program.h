@@ -51,6 +51,15 @@ class FixedClock final : public app::Clock {
 class RecordingMessages : public app::Messages {
  public:
   void Inform(std::string_view text) override { shown.emplace_back(text); }
+  void InformWithMore(std::string_view text, std::string_view added) override {
+    Inform(text);
+    more = added;
+  }
+  bool InformWithChoice(std::string_view text, std::string_view) override {
+    Inform(text);
+    return ticks;
+  }
+  void Note(std::string_view text) override { notes.emplace_back(text); }
   void Warn(std::string_view text) override { shown.emplace_back(text); }
   void Tell(std::string_view text) override { shown.emplace_back(text); }
   bool Ask(std::string_view text) override {
@@ -61,7 +70,9 @@ class RecordingMessages : public app::Messages {
     shown.emplace_back(text);
     return unsaved;
   }
-  Lines shown;
+  Lines shown, notes;
+  std::string more;  // below the last text
+  bool ticks = false;
   bool yes = false;
   app::UnsavedAnswer unsaved = app::UnsavedAnswer::kCancel;
 };
@@ -77,9 +88,13 @@ class RecordingViews final : public model::PictureViews {
   void PixelChanged(int x, int y) override { pixels.push_back({x, y}); }
   void CellChanged(int cell) override { cells.push_back(cell); }
   void PictureChanged() override { ++pictures; }
+  void FullCellMet(int cell, model::FullCellFate fate) override {
+    full_cells += std::to_string(cell) + (fate == model::FullCellFate::kRecoloured ? "+ " : "- ");
+  }
   std::vector<std::pair<int, int>> pixels;
   std::vector<int> cells;
   int pictures = 0;
+  std::string full_cells;  // "7+ ": cell 7 was recoloured, "7- ": it was refused
 };
 
 class NoWaitPointer final : public app::WaitPointer {

@@ -2,7 +2,9 @@
 #pragma once
 
 #include <QPointer>
+#include <QString>
 #include <QWidget>
+#include <functional>
 
 #include "app/messages.h"
 
@@ -13,10 +15,15 @@ class QtMessages final : public app::Messages {
   explicit QtMessages(QWidget* parent) : parent_(parent) {}
 
   void Inform(std::string_view text) override;
+  void InformWithMore(std::string_view text, std::string_view more) override;
+  bool InformWithChoice(std::string_view text, std::string_view choice) override;
+  void Note(std::string_view text) override;
   void Warn(std::string_view text) override;
   void Tell(std::string_view text) override;
   bool Ask(std::string_view text) override;
   app::UnsavedAnswer AskUnsaved(std::string_view text) override;
+
+  std::function<void(const QString&)> on_note;  // shows a line in the status bar
 
  private:
   QPointer<QWidget> parent_;

@@ -1,6 +1,8 @@
 #include "ui/widgets/zoom_picture.h"
 
 #include <QPainter>
+#include <QTimer>
+#include <algorithm>
 #include <utility>
 
 #include "model/palette.h"
@@ -10,6 +12,12 @@ namespace kelvo::ui {
 namespace {
 
 constexpr int kSmallestZoomBox = 4;  // display pixels: the height of a box at 4:1
+constexpr int kFlashMilliseconds = 350;
+constexpr QColor kRefused(255, 64, 48, 170), kRecoloured(255, 255, 255, 80);
+
+QRect ToQt(const model::Rect& rect) {
+  return {rect.x, rect.y, rect.width, rect.height};
+}
 
 }  // namespace
 
@@ -23,7 +31,49 @@ void ZoomPicture::ShowPreview(editing::Points points, model::C64Colour colour) {
   Refresh();
 }
 
+void ZoomPicture::ShowCursor(std::optional<model::PixelPoint> at) {
+  if (cursor_ == at) return;
+  cursor_ = at;
+  Refresh();
+}
+
+void ZoomPicture::FlashCell(int cell, model::FullCellFate fate) {
+  const auto is_cell = [cell](const Flash& flash) { return flash.cell == cell; };
+  if (!area_.ShowsCell(cell) || std::any_of(flashes_.begin(), flashes_.end(), is_cell)) return;
+  flashes_.push_back({cell, fate});
+  Refresh(area_.CellRect(cell));
+  QTimer::singleShot(kFlashMilliseconds, this, [this] {
+    flashes_.pop_front();
+    Refresh();
+  });
+}
+
 void ZoomPicture::PaintOverlay(QPainter& painter) {
+  PaintFlashes(painter);
+  PaintPreview(painter);
+  PaintCursor(painter);
+}
+
+void ZoomPicture::PaintFlashes(QPainter& painter) const {
+  for (const Flash& flash : flashes_) {
+    if (!area_.ShowsCell(flash.cell)) continue;
+    painter.fillRect(ToQt(area_.CellRect(flash.cell)),
+                     flash.fate == model::FullCellFate::kRefused ? kRefused : kRecoloured);
+  }
+}
+
+// Black and white lines around the pixel, so that it is seen on every picture; the pixel itself stays free.
+void ZoomPicture::PaintCursor(QPainter& painter) const {
+  if (!cursor_ || !area_.ShowsPixel(cursor_->x, cursor_->y)) return;
+  const QRect box = ToQt(area_.PixelRect(cursor_->x, cursor_->y));
+  painter.setBrush(Qt::NoBrush);
+  for (const auto& [distance, colour] : {std::pair{1, Qt::white}, std::pair{2, Qt::black}, std::pair{3, Qt::white}}) {
+    painter.setPen(colour);
+    painter.drawRect(box.adjusted(-distance, -distance, distance - 1, distance - 1));
+  }
+}
+
+void ZoomPicture::PaintPreview(QPainter& painter) const {
   const QColor fill = QColor::fromRgb(model::SurfaceColour(colour_));
   const QColor rim = InkOn(fill);
   for (const model::PixelPoint& point : preview_) {

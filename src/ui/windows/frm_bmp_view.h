@@ -7,6 +7,7 @@
 
 #include "model/full_view.h"
 #include "model/picture_image.h"
+#include "model/pixel_place.h"
 #include "model/surface.h"
 #include "model/zoom_area.h"
 #include "ui/ports/frame_progress.h"
@@ -38,14 +39,18 @@ class frmBMPView : public QWidget {
 
  signals:
   void ZoomAreaChosen(int col, int row);  // 1..40, 1..25
+  // Alt and a button ask for the colour of a pixel instead.
+  void ColourAsked(model::PixelPoint at, Qt::MouseButton button);
 
  private:
+  void picStd_MouseDown(QPoint at, Qt::MouseButton button, Qt::KeyboardModifiers modifiers);
   void picStd_MouseMove(QPoint at);
   void picStd_Click();
 
   const model::PictureImage& picture_;
   model::Surface surface_;
   bool previewing_ = false;
+  bool asks_colour_ = false;  // the button that is held was pressed with Alt
   model::FullViewPointer pointer_;
   FullViewPicture* picStd_;
   QProgressBar* ProgressBar1_;

@@ -1,0 +1,146 @@
+// Painting by keyboard: the same actions by keys and by mouse give the same file, byte for byte.
+#include <QAccessible>
+#include <QToolBar>
+#include <random>
+
+#include "editing/preferences.h"
+#include "main_frame_fixture.h"
+#include "support/pictures.h"
+
+namespace kelvo::ui {
+namespace {
+
+using model::PixelPoint;
+
+struct Step {
+  Qt::Key arrow;
+  bool by_cell;
+};
+
+// A press with a tool, the way that is gone with the button held, and the release.
+struct Stroke {
+  editing::ToolId tool;
+  int left_pen, right_pen;
+  PixelPoint at;
+  Qt::MouseButton button;
+  std::vector<Step> way;
+};
+
+constexpr std::array kArrows{Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down};
+
+std::vector<Stroke> SomeStrokes(int count) {
+  std::mt19937 random(2611);
+  const auto below = [&](unsigned limit) { return static_cast<int>(random() % limit); };
+  std::vector<Stroke> strokes;
+  for (int number = 0; number < count; ++number) {
+    Stroke stroke{static_cast<editing::ToolId>(number % 7), below(16), below(16), {below(160) + 1, below(200) + 1},
+                  below(3) == 0 ? Qt::RightButton : Qt::LeftButton, {}};
+    for (int steps = below(12); steps > 0; --steps) {
+      stroke.way.push_back({kArrows.at(static_cast<std::size_t>(below(4))), below(4) == 0});
+    }
+    strokes.push_back(std::move(stroke));
+  }
+  return strokes;
+}
+
+PixelPoint After(PixelPoint at, const Step& step) {
+  const int dx = step.by_cell ? 4 : 1, dy = step.by_cell ? 8 : 1;
+  if (step.arrow == Qt::Key_Left) at.x -= dx;
+  if (step.arrow == Qt::Key_Right) at.x += dx;
+  if (step.arrow == Qt::Key_Up) at.y -= dy;
+  if (step.arrow == Qt::Key_Down) at.y += dy;
+  return {std::clamp(at.x, 1, 160), std::clamp(at.y, 1, 200)};
+}
+
+class KeyboardTest : public MainFrameTest {
+ protected:
+  KeyboardTest() { Begin(); }
+
+  // A new program on a picture with full, half full and empty cells.
+  void Begin() {
+    frame.reset();
+    Start();
+    frame->findChild<QTimer*>("Timer1")->stop();  // the ticks are the test's own
+    model::PictureImage picture = support::BlotchyPicture(8);
+    support::WriteFile(folder / "p.kvp", files::Encode(picture));
+    frame->Files().OpenPicture(folder / "p.kvp");
+  }
+  frmZoom* Zoom() const { return Find<frmZoom>("frmZoom"); }
+  QWidget* Swatch(int colour) const { return Find(("swatch_" + std::to_string(colour)).c_str()); }
+  void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) { QTest::keyClick(Box("frmZoom"), key, modifiers); }
+  void Type(int letter) { Key(static_cast<Qt::Key>(letter)); }
+  const model::PictureImage& Picture() const { return frame->Document().picture; }
+
+  void ByMouse(const Stroke& stroke) {
+    QTest::mouseClick(Swatch(stroke.left_pen), Qt::LeftButton);
+    QTest::mouseClick(Swatch(stroke.right_pen), Qt::RightButton);
+    const auto tools = frame->findChild<QToolBar*>("Toolbar1")->actions();
+    tools.at(static_cast<int>(stroke.tool))->trigger();
+    Zoom()->CentreOn((stroke.at.x + 3) / 4, (stroke.at.y + 7) / 8);
+    const auto place = [this](PixelPoint at) {
+      const model::Rect box = Zoom()->Area().PixelRect(at.x, at.y);
+      return QPoint(box.x + box.width / 2, box.y + box.height / 2);
+    };
+    QTest::mousePress(Box("frmZoom"), stroke.button, {}, place(stroke.at));
+    PixelPoint at = stroke.at;
+    for (const Step& step : stroke.way) MoveMouse(Box("frmZoom"), place(at = After(at, step)), stroke.button);
+    QTest::mouseRelease(Box("frmZoom"), stroke.button, {}, place(at));
+    frame->Desk().Tick();
+  }
+
+  void ByKeys(const Stroke& stroke) {
+    constexpr std::string_view kPens = "12345678QWERTYUI", kTools = "DFLKCMB";
+    Type(kPens.at(static_cast<std::size_t>(stroke.right_pen)));
+    Key(Qt::Key_X);
+    Type(kPens.at(static_cast<std::size_t>(stroke.left_pen)));
+    Type(kTools.at(static_cast<std::size_t>(stroke.tool)));
+    WalkTo(stroke.at);
+    const Qt::KeyboardModifiers shift = stroke.button == Qt::RightButton ? Qt::ShiftModifier : Qt::NoModifier;
+    QTest::keyPress(Box("frmZoom"), Qt::Key_Space, shift);
+    for (const Step& step : stroke.way) {
+      Key(step.arrow, step.by_cell ? Qt::ShiftModifier : Qt::NoModifier);
+      cursor = After(cursor, step);
+    }
+    QTest::keyRelease(Box("frmZoom"), Qt::Key_Space);
+    frame->Desk().Tick();
+  }
+  void WalkTo(PixelPoint to) {
+    const auto walk = [this](int& from, int goal, Qt::Key less, Qt::Key more, int cell) {
+      while (from != goal) {
+        const int distance = std::abs(goal - from), step = distance >= cell ? cell : 1;
+        Key(goal < from ? less : more, step == cell ? Qt::ShiftModifier : Qt::NoModifier);
+        from += goal < from ? -step : step;
+      }
+    };
+    walk(cursor.x, to.x, Qt::Key_Left, Qt::Key_Right, 4);
+    walk(cursor.y, to.y, Qt::Key_Up, Qt::Key_Down, 8);
+  }
+  // Enter, and to the top left corner.
+  void ShowCursorInCorner() {
+    Key(Qt::Key_Return);
+    for (int step = 0; step < 40; ++step) Key(Qt::Key_Left, Qt::ShiftModifier);
+    for (int step = 0; step < 25; ++step) Key(Qt::Key_Up, Qt::ShiftModifier);
+    cursor = {1, 1};
+  }
+  app::Bytes Saved() {
+    QTest::keyClick(frame.get(), Qt::Key_S, Qt::ControlModifier);
+    return app::ReadWholeFile(folder / "p.kvp", app::kMostBytesToCopy);
+  }
+
+  PixelPoint cursor;
+};
+
+TEST_F(KeyboardTest, PaintsTheSameFileAsTheMouse) {
+  const auto strokes = SomeStrokes(280);
+  for (const Stroke& stroke : strokes) ByMouse(stroke);
+  const app::Bytes by_mouse = Saved();
+  Begin();
+  const app::Bytes before = app::ReadWholeFile(folder / "p.kvp", app::kMostBytesToCopy);
+  ShowCursorInCorner();
+  for (const Stroke& stroke : strokes) ByKeys(stroke);
+  EXPECT_TRUE(Saved() == by_mouse);
+  EXPECT_FALSE(by_mouse == before);
+}
+
+}  // namespace
+}  // namespace kelvo::ui
