@@ -50,6 +50,7 @@ class Painting {
   bool IsBusy() const { return busy_; }
 
   Pens& PenColours() { return pens_; }
+  const Pens& PenColours() const { return pens_; }
   const UndoStep& UndoData() const { return undo_; }
   const model::DetachedCell& CopyBuffer() const { return buffer_; }
 

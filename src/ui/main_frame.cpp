@@ -20,9 +20,11 @@
 #include "model/palette.h"
 #include "ui/desks/animation_desk.h"
 #include "ui/desks/build_desk.h"
+#include "ui/desks/cell_use_desk.h"
 #include "ui/desks/painting_desk.h"
 #include "ui/desks/picture_windows.h"
 #include "ui/desks/recovery_desk.h"
+#include "ui/key_page.h"
 #include "ui/menu_table.h"
 #include "ui/ports/frame_ports.h"
 #include "ui/ports/qt_text.h"
@@ -34,6 +36,8 @@
 #include "ui/windows/frm_codenet_gui.h"
 #include "ui/windows/frm_command.h"
 #include "ui/windows/frm_fullscreen.h"
+#include "ui/windows/frm_help.h"
+#include "ui/windows/frm_what_if.h"
 #include "ui/windows/screenshot.h"
 
 namespace kelvo::ui {
@@ -89,6 +93,7 @@ MainFrame::MainFrame(const app::ProgramFolders& folders, app::SettingsStore& set
       desk_(std::make_unique<PaintingDesk>(
           document_, editing::PaintingPorts{*views_, settings, ports_->messages, ports_->events, ports_->pointer, log_},
           PaintingWindows{*full_view_, *zoom_, *colors_, *pens_, *char_data_, *Toolbar1_})),
+      cell_use_(std::make_unique<CellUseDesk>(document_, *full_view_, *zoom_, *colors_)),
       animation_(std::make_unique<AnimationDesk>(PictureSurroundings(), *this, *full_view_, *zoom_)),
       builds_(std::make_unique<BuildDesk>(PictureSurroundings(), ports_->tools, this)),
       recovery_(std::make_unique<RecoveryDesk>(PictureSurroundings(), slot_)) {
@@ -198,7 +203,11 @@ void MainFrame::ConnectDesk() {
   connect(desk_.get(), &PaintingDesk::StateChanged, this, &MainFrame::ShowPaintingState);
   connect(desk_.get(), &PaintingDesk::PointerAt, this,
           [this](const QString& text) { panels_.Show(StatusPanel::kPointer, text); });
+  // It is emitted after each action too, at most once a display frame.
+  connect(desk_.get(), &PaintingDesk::PointerAt, this, [this] { cell_use_->Refresh(); });
   connect(desk_.get(), &PaintingDesk::CursorAt, this, [this](const QString& text) { statusBar()->showMessage(text); });
+  connect(desk_.get(), &PaintingDesk::Word, this,
+          [this](const QString& word) { statusBar()->showMessage(word, kWordMilliseconds); });
   connect(desk_.get(), &PaintingDesk::BackgroundChosen, this,
           [this](model::C64Colour colour) { SetBackgroundColour(colour.Number()); });
 }
@@ -310,6 +319,24 @@ void MainFrame::ShowAbout() {
   frmAbout(this).exec();
 }
 
+void MainFrame::ShowKeys() {
+  OpenHelp("frmKeys", "Keys")->setHtml(KeyPage());
+}
+
+void MainFrame::ShowGuide() {
+  OpenHelp("frmGuide", "Guide")->ShowGuide();
+}
+
+// A page that is open already comes forward.
+frmHelp* MainFrame::OpenHelp(const QString& name, const QString& title) {
+  auto* page = findChild<frmHelp*>(name);
+  if (page == nullptr) page = new frmHelp(name, title, this);
+  page->show();
+  page->raise();
+  page->activateWindow();
+  return page;
+}
+
 void MainFrame::mnuFullscreenView_Click() {
   (new frmFullscreen(full_view_->Picture(), this))->showFullScreen();
 }
@@ -359,6 +386,12 @@ void MainFrame::ShowPreferences() {
   dialog.AddCheckBox(editing::kTellRefusalsInStatusBar, "&Tell refusals of full cells in the status bar");
   dialog.AddNumber(files::kKeepBackupsDays, files::kMostBackupDays, "Days that every &backup is kept:", "for ever",
                    "Of the days before those the last backup of each picture stays");
+  dialog.exec();
+}
+
+void MainFrame::ShowWhatIf() {
+  frmWhatIf dialog(document_.picture, this);
+  connect(&dialog, &frmWhatIf::Tried, this, &MainFrame::SetBackgroundColour);
   dialog.exec();
 }
 

@@ -21,6 +21,7 @@ namespace kelvo::ui {
 
 class AnimationDesk;
 class BuildDesk;
+class CellUseDesk;
 class ChoiceMenu;
 class PaintingDesk;
 class PaintToolBar;
@@ -32,6 +33,7 @@ class frmCharData;
 class frmCodenetGUI;
 class frmColors;
 class frmCommand;
+class frmHelp;
 class frmPens;
 class frmZoom;
 struct FramePorts;
@@ -69,6 +71,9 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   void SetGridColor(int number);         // 0..15
 
   void ShowPreferences();
+  void ShowWhatIf();
+  void ShowKeys();
+  void ShowGuide();
   void ShowAbout();
   void mnuFullscreenView_Click();
   void SaveScreenshot();
@@ -76,6 +81,8 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   void ShowCodenetGui();
   void ArrangeWindows();
 
+  CellUseDesk& CellUse() { return *cell_use_; }
+  const CellUseDesk& CellUse() const { return *cell_use_; }
   BuildDesk& Builds() { return *builds_; }
   const BuildDesk& Builds() const { return *builds_; }
   AnimationDesk& Animation() { return *animation_; }
@@ -105,6 +112,7 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   void MakeChildren();
   void ConnectAnimation();
   void ConnectBuilds();
+  frmHelp* OpenHelp(const QString& name, const QString& title);
   void ShowBuilding();
   void BuildEnded(c64out::BuildOutcome outcome);
   void StopTools();
@@ -148,6 +156,7 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   std::unique_ptr<PictureWindows> views_;
   files::PictureFiles files_;
   std::unique_ptr<PaintingDesk> desk_;
+  std::unique_ptr<CellUseDesk> cell_use_;
   std::unique_ptr<AnimationDesk> animation_;
   std::unique_ptr<BuildDesk> builds_;
   std::unique_ptr<RecoveryDesk> recovery_;

@@ -5,6 +5,7 @@
 #include "c64out/compo_pic_choice.h"
 #include "ui/desks/animation_desk.h"
 #include "ui/desks/build_desk.h"
+#include "ui/desks/cell_use_desk.h"
 #include "ui/desks/painting_desk.h"
 #include "ui/main_frame.h"
 
@@ -94,6 +95,8 @@ constexpr MenuEntry kEntries[] = {
      [](MainFrame& f) { f.Desk().SwapPens(); }},
     Separator("mnuLimPaint"),
     Submenu(kBackgroundMenu, "mnuLimPaint"),
+    {"mnuWhatIf", "mnuLimPaint", "&What if the background were...", "",
+     "How many cells would gain room or clash with each background color", [](MainFrame& f) { f.ShowWhatIf(); }},
     {"mnuRepeatCommand", "mnuLimPaint", "&Repeat last command", "F3", "Give the last command of the prompt again",
      [](MainFrame& f) { f.RepeatLastCommand(); }, [](const MainFrame& f) { return f.HasLastCommand(); }},
     {"mnuPreferences", "mnuLimPaint", "&Preferences...", "", "How painting treats full cells",
@@ -108,6 +111,8 @@ constexpr MenuEntry kEntries[] = {
     Separator("mnuViewMenu"),
     ZoomEntry<4>("mnuZoom_4X", "Zoom &4:1", "Ctrl+4", "Show pixels four times as large"),
     ZoomEntry<8>("mnuZoom_8X", "Zoom &8:1", "Ctrl+8", "Show pixels eight times as large"),
+    {"mnuCellUse", "mnuViewMenu", "C&ell use", "", "Tint cells by how many colors of their own are free",
+     [](MainFrame& f) { f.CellUse().Toggle(); }, nullptr, [](const MainFrame& f) { return f.CellUse().IsShown(); }},
     Submenu(kGridMenu, "mnuViewMenu"),
     Submenu(kBorderMenu, "mnuViewMenu"),
     Separator("mnuViewMenu"),
@@ -153,6 +158,9 @@ constexpr MenuEntry kEntries[] = {
     {"mnuCodenetSettings", "mnuCodenet", "&Codenet settings...", "",
      "Where the C64 is, and the program's name on its disk", [](MainFrame& f) { f.Builds().ShowCodenetSettings(); }},
 
+    {"mnuGuide", "mnuHelp", "&Guide", "F1", "A tour of the program", [](MainFrame& f) { f.ShowGuide(); }},
+    {"mnuKeys", "mnuHelp", "&Keys", "", "All keys on one page", [](MainFrame& f) { f.ShowKeys(); }},
+    Separator("mnuHelp"),
     {"mnuAbout", "mnuHelp", "&About Kelvo", "", "What this program is", [](MainFrame& f) { f.ShowAbout(); }},
 };
 

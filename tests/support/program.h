@@ -105,7 +105,8 @@ class NoWaitPointer final : public app::WaitPointer {
 
 class PlannedDialogs final : public files::FileDialogs {
  public:
-  std::optional<files::ChosenFile> SelectFile(const std::filesystem::path& folder) override {
+  std::optional<files::ChosenFile> SelectFile(const std::filesystem::path& folder, files::FormatType type) override {
+    filters.push_back(type);
     folders.push_back(app::TextFromPath(folder));
     return open;
   }
@@ -116,6 +117,7 @@ class PlannedDialogs final : public files::FileDialogs {
   std::optional<files::ChosenFile> open;
   std::optional<std::string> save;
   Lines folders, proposals;
+  std::vector<files::FormatType> filters;
 };
 
 class RecordingDisplay final : public files::FileDisplay {

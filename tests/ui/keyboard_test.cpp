@@ -1,11 +1,13 @@
 // Painting by keyboard: the same actions by keys and by mouse give the same file, byte for byte.
-#include <QAccessible>
+#include <QSet>
 #include <QToolBar>
+#include <algorithm>
 #include <random>
 
 #include "editing/preferences.h"
 #include "main_frame_fixture.h"
 #include "support/pictures.h"
+#include "ui/widgets/swatch_button.h"
 
 namespace kelvo::ui {
 namespace {
@@ -61,7 +63,9 @@ class KeyboardTest : public MainFrameTest {
     frame.reset();
     Start();
     frame->findChild<QTimer*>("Timer1")->stop();  // the ticks are the test's own
-    model::PictureImage picture = support::BlotchyPicture(8);
+    Open(support::BlotchyPicture(8));
+  }
+  void Open(const model::PictureImage& picture) {
     support::WriteFile(folder / "p.kvp", files::Encode(picture));
     frame->Files().OpenPicture(folder / "p.kvp");
   }
@@ -124,22 +128,88 @@ class KeyboardTest : public MainFrameTest {
   }
   app::Bytes Saved() {
     QTest::keyClick(frame.get(), Qt::Key_S, Qt::ControlModifier);
-    return app::ReadWholeFile(folder / "p.kvp", app::kMostBytesToCopy);
+    return support::ReadFile(folder / "p.kvp");
   }
 
   PixelPoint cursor;
 };
 
+// Where full cells take a colour over, and where they refuse it.
 TEST_F(KeyboardTest, PaintsTheSameFileAsTheMouse) {
+  settings.Write(editing::kTellRefusalsInStatusBar, "1");
   const auto strokes = SomeStrokes(280);
-  for (const Stroke& stroke : strokes) ByMouse(stroke);
-  const app::Bytes by_mouse = Saved();
-  Begin();
-  const app::Bytes before = app::ReadWholeFile(folder / "p.kvp", app::kMostBytesToCopy);
+  for (const char* replaces : {"1", "0"}) {
+    settings.Write(editing::k4thColReplaces, replaces);
+    Begin();
+    const app::Bytes before = support::ReadFile(folder / "p.kvp");
+    for (const Stroke& stroke : strokes) ByMouse(stroke);
+    const app::Bytes by_mouse = Saved();
+    Begin();
+    ShowCursorInCorner();
+    for (const Stroke& stroke : strokes) ByKeys(stroke);
+    EXPECT_TRUE(Saved() == by_mouse) << replaces;
+    EXPECT_FALSE(by_mouse == before) << replaces;
+  }
+}
+
+TEST_F(KeyboardTest, TheCursorIsSeenAndToldAndTheViewFollowsIt) {
   ShowCursorInCorner();
-  for (const Stroke& stroke : strokes) ByKeys(stroke);
-  EXPECT_TRUE(Saved() == by_mouse);
-  EXPECT_FALSE(by_mouse == before);
+  const QImage in_corner = Box("frmZoom")->grab().toImage();
+  QSet<QString> told;
+  for (int step = 0; step < 39; ++step) {
+    Key(Qt::Key_Right, Qt::ShiftModifier);
+    Key(Qt::Key_Down, Qt::ShiftModifier);
+    QTest::qWait(20);  // it is told at most once a display frame
+    told.insert(Box("frmZoom")->accessibleName());
+  }
+  EXPECT_EQ(told.size(), 39);
+  const QString colour = PlainColourName(model::GetPixelData(Picture(), 157, 193).colour);
+  EXPECT_EQ(Box("frmZoom")->accessibleName(), "Zoom picture, x=157 y=193 " + colour);
+  EXPECT_EQ(ZoomOrigin(), QPoint(160, 56));
+  EXPECT_NE(Box("frmZoom")->grab().toImage(), in_corner);
+  Key(Qt::Key_Return);
+  EXPECT_EQ(Box("frmZoom")->accessibleName(), "Zoom picture");
+  const model::PictureImage before = Picture();
+  Key(Qt::Key_Space);
+  Key(Qt::Key_Up);
+  EXPECT_EQ(ZoomOrigin(), QPoint(160, 48));
+  EXPECT_EQ(Picture(), before);
+}
+
+TEST_F(KeyboardTest, EscapeTakesAShapeBackThenTheCursorThenTheTool) {
+  Key(Qt::Key_Enter);
+  Type(Qt::Key_L);
+  Key(Qt::Key_Space);
+  frame->Desk().Tick();
+  for (const auto& [prompt, arrows_move_it] :
+       {std::pair{"SET ENDING POINT", true}, {"SET STARTING POINT", true}, {"SET STARTING POINT", false}}) {
+    EXPECT_EQ(Panel("pnlTool"), prompt);
+    EXPECT_EQ(Box("frmZoom")->accessibleName() != "Zoom picture", arrows_move_it);
+    Key(Qt::Key_Escape);
+  }
+  EXPECT_EQ(Panel("pnlTool"), "DRAW");
+}
+
+TEST_F(KeyboardTest, ARepeatingSpaceIsOnePressAndABoxDoesNotHoldIt) {
+  model::PictureImage picture;
+  support::SetCell(picture, 2, support::kAllSlots, 1, 2, 3);
+  Open(picture);
+  settings.Write(editing::k4thColReplaces, "0");
+  ShowCursorInCorner();
+  Type(Qt::Key_6);
+  QTest::keyPress(Box("frmZoom"), Qt::Key_Space);
+  Key(Qt::Key_Right);
+  QKeyEvent again(QEvent::KeyPress, Qt::Key_Space, {}, " ", true);
+  QApplication::sendEvent(Box("frmZoom"), &again);
+  InNextDialog<QMessageBox>([](QMessageBox& box) {
+    QTest::keyRelease(&box, Qt::Key_Space);  // held until now
+    QTest::keyClick(&box, Qt::Key_Return);
+  });
+  for (int step = 0; step < 10; ++step) Key(Qt::Key_Right);  // into the full cell: the stroke ends with its box
+  EXPECT_EQ(support::ColourAt(Picture(), 4, 1), 5);
+  EXPECT_EQ(support::ColourAt(Picture(), 9, 1), 0);
+  frame->Desk().Undo();  // all of it was one stroke
+  EXPECT_EQ(support::ColourAt(Picture(), 1, 1), 0);
 }
 
 }  // namespace

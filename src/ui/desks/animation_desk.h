@@ -5,6 +5,7 @@
 #include <QElapsedTimer>
 #include <QMainWindow>
 #include <QObject>
+#include <QPointer>
 #include <QTimer>
 #include <functional>
 #include <optional>
@@ -14,6 +15,7 @@
 #include "anim/frame_player.h"
 #include "ui/windows/frm_anim.h"
 #include "ui/windows/frm_bmp_view.h"
+#include "ui/windows/frm_player.h"
 #include "ui/windows/frm_zoom.h"
 
 namespace kelvo::ui {
@@ -49,6 +51,8 @@ class AnimationDesk : public QObject, private anim::AnimDisplay {
   void Move(const std::function<std::string()>& move);
   void ShowFrame();
   void ShowOnionSkin();
+  void ShowPlayWindow();
+  void ShowTurn(const model::PictureImage& picture);
   void TogglePlay();
   void StartPlay();
   void StopPlay();
@@ -61,6 +65,7 @@ class AnimationDesk : public QObject, private anim::AnimDisplay {
   anim::AnimMode mode_;
   anim::FrameNavigation navigation_;
   frmAnim* frame_window_ = nullptr;
+  QPointer<frmPlayer> play_window_;  // it deletes itself when it closes
   bool is_moving_ = false;  // from frame to frame: the files that are opened and saved are those of the move
 
   std::optional<anim::FramePlayer> player_;

@@ -1,27 +1,15 @@
 #include "ui/desks/painting_desk.h"
 
 #include <algorithm>
-#include <array>
-#include <utility>
 
 #include "editing/pens.h"
 #include "model/pixel_place.h"
 #include "optimise/background_colour.h"
 #include "optimise/eor_vectors.h"
+#include "ui/desks/zoom_keys.h"
 
 namespace kelvo::ui {
 namespace {
-
-constexpr std::array<std::pair<int, model::ZoomMove>, 8> kZoomKeys{{
-    {Qt::Key_Left, model::ZoomMove::kLeft},
-    {Qt::Key_Right, model::ZoomMove::kRight},
-    {Qt::Key_Up, model::ZoomMove::kUp},
-    {Qt::Key_Down, model::ZoomMove::kDown},
-    {Qt::Key_PageUp, model::ZoomMove::kPageUp},
-    {Qt::Key_PageDown, model::ZoomMove::kPageDown},
-    {Qt::Key_Home, model::ZoomMove::kRowStart},
-    {Qt::Key_End, model::ZoomMove::kRowEnd},
-}};
 
 Qt::MouseButton QtButton(editing::Button button) {
   return button == editing::Button::kLeft ? Qt::LeftButton : Qt::RightButton;
@@ -205,10 +193,10 @@ void PaintingDesk::Escape() {
 }
 
 bool PaintingDesk::MoveZoomArea(int key, Qt::KeyboardModifiers modifiers) {
-  const auto* row = std::find_if(kZoomKeys.begin(), kZoomKeys.end(), [key](const auto& r) { return r.first == key; });
+  const auto* row = std::find_if(kZoomKeys.begin(), kZoomKeys.end(), [key](const ZoomKey& r) { return r.key == key; });
   if (row == kZoomKeys.end()) return false;
   const bool far = modifiers.testFlag(Qt::ControlModifier);
-  windows_.zoom.Move(row->second, far ? model::ZoomStep::kScreen : model::ZoomStep::kCell);
+  windows_.zoom.Move(row->move, far ? model::ZoomStep::kScreen : model::ZoomStep::kCell);
   return true;
 }
 
@@ -231,10 +219,11 @@ void PaintingDesk::ShowCellOfPass(int cell) {
 }
 
 void PaintingDesk::OptimizeBackgroundColor() {
-  optimise::OptimizeBackgroundColor(document_.picture, windows_.full_view.Progress(),
-                                    [this](int cell) { ShowCellOfPass(cell); });
+  const optimise::Optimized done = optimise::OptimizeBackgroundColor(
+      document_.picture, windows_.full_view.Progress(), [this](int cell) { ShowCellOfPass(cell); });
   windows_.char_data.Show(model::LookUpPixel(pointer_.x, pointer_.y));
   views_.PictureChanged();
+  emit Word(QString("Optimized: %1 pixels in %2 cells").arg(done.pixels).arg(done.cells));
 }
 
 void PaintingDesk::OptimizeForEORVector() {

@@ -9,6 +9,11 @@
 #include "ui/widgets/ink.h"
 
 namespace kelvo::ui {
+namespace {
+
+constexpr int kCountPixels = 10;  // the height of the number of cells
+
+}  // namespace
 
 QString PlainColourName(model::C64Colour colour) {
   return ToQt(model::ColourName(colour)).mid(3);
@@ -21,10 +26,22 @@ SwatchButton::SwatchButton(QWidget* parent) : QAbstractButton(parent) {
 
 void SwatchButton::Show(model::C64Colour colour, const QString& role, const QString& marks, bool in_cell) {
   colour_ = colour;
+  role_ = role;
   marks_ = marks;
   in_cell_ = in_cell;
-  const QString name = ToQt(model::ColourName(colour));
-  setAccessibleName(role.isEmpty() ? name : role + ": " + name);
+  Name();
+}
+
+void SwatchButton::ShowCells(std::optional<int> cells) {
+  if (cells_ == cells) return;
+  cells_ = cells;
+  Name();
+}
+
+void SwatchButton::Name() {
+  const QString name = ToQt(model::ColourName(colour_));
+  const QString cells = cells_ ? QString(", in %1 %2").arg(*cells_).arg(*cells_ == 1 ? "cell" : "cells") : QString();
+  setAccessibleName((role_.isEmpty() ? name : role_ + ": " + name) + cells);
   setToolTip(accessibleName());
   update();
 }
@@ -41,6 +58,12 @@ void SwatchButton::paintEvent(QPaintEvent*) {
   painter.drawRect(rect().adjusted(0, 0, -1, -1));
   painter.setPen(InkOn(fill));
   painter.drawText(rect().adjusted(4, 1, -3, -1), Qt::AlignLeft | Qt::AlignTop, marks_);
+  if (cells_) {
+    QFont small = font();
+    small.setPixelSize(kCountPixels);
+    painter.setFont(small);
+    painter.drawText(rect().adjusted(3, 1, -1, -2), Qt::AlignLeft | Qt::AlignBottom, QString::number(*cells_));
+  }
   if (!in_cell_) return;
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setBrush(InkOn(fill));

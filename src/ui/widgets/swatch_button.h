@@ -3,6 +3,7 @@
 
 #include <QAbstractButton>
 #include <QString>
+#include <optional>
 
 #include "model/c64_colour.h"
 
@@ -22,6 +23,8 @@ class SwatchButton : public QAbstractButton {
   // Shows `colour`; `marks` are letters in its corner, `in_cell` puts a dot below them. `role` begins the accessible
   // name.
   void Show(model::C64Colour colour, const QString& role = {}, const QString& marks = {}, bool in_cell = false);
+  // In how many cells the colour is, below the marks and behind the name; nothing: not said.
+  void ShowCells(std::optional<int> cells);
   model::C64Colour Colour() const { return colour_; }
 
   QSize sizeHint() const override;
@@ -35,8 +38,11 @@ class SwatchButton : public QAbstractButton {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  void Name();
+
   model::C64Colour colour_;
-  QString marks_;
+  QString role_, marks_;
+  std::optional<int> cells_;
   bool in_cell_ = false;
 };
 

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "model/palette.h"
+#include "ui/widgets/cell_use_tint.h"
 #include "ui/widgets/ink.h"
 
 namespace kelvo::ui {
@@ -48,10 +49,23 @@ void ZoomPicture::FlashCell(int cell, model::FullCellFate fate) {
   });
 }
 
+void ZoomPicture::ShowCellUse(const model::PictureImage* picture) {
+  cell_use_ = picture;
+  Refresh();
+}
+
 void ZoomPicture::PaintOverlay(QPainter& painter) {
+  PaintCells(painter);
   PaintFlashes(painter);
   PaintPreview(painter);
   PaintCursor(painter);
+}
+
+void ZoomPicture::PaintCells(QPainter& painter) const {
+  if (cell_use_ == nullptr) return;
+  for (int cell = 1; cell <= model::PictureImage::kCells; ++cell) {
+    if (area_.ShowsCell(cell)) PaintCellUse(painter, *cell_use_, cell, ToQt(area_.CellRect(cell)));
+  }
 }
 
 void ZoomPicture::PaintFlashes(QPainter& painter) const {

@@ -24,6 +24,8 @@ class ZoomPicture : public SurfaceView {
 
   void ShowCursor(std::optional<model::PixelPoint> at);
   void FlashCell(int cell, model::FullCellFate fate);  // 1..1000
+  // Tints cells by what is free in `picture`; null: not.
+  void ShowCellUse(const model::PictureImage* picture);
 
  protected:
   void PaintOverlay(QPainter& painter) override;
@@ -33,6 +35,7 @@ class ZoomPicture : public SurfaceView {
     int cell;
     model::FullCellFate fate;
   };
+  void PaintCells(QPainter& painter) const;
   void PaintPreview(QPainter& painter) const;
   void PaintFlashes(QPainter& painter) const;
   void PaintCursor(QPainter& painter) const;
@@ -41,6 +44,7 @@ class ZoomPicture : public SurfaceView {
   editing::Points preview_;
   model::C64Colour colour_;
   std::optional<model::PixelPoint> cursor_;
+  const model::PictureImage* cell_use_ = nullptr;
   std::deque<Flash> flashes_;  // the oldest first, which ends first
 };
 

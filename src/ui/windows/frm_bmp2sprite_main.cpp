@@ -3,7 +3,6 @@
 #include <QActionGroup>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QFormLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QMenuBar>
@@ -119,7 +118,7 @@ QWidget* frmBMP2SpriteMain::MakeSide() {
   column->addWidget(picSprite_);
   auto* colours = new QGroupBox("Colors", side);
   auto* form = new QFormLayout(colours);
-  for (int number = 1; number <= 3; ++number) form->addRow(QString("Color &%1").arg(number), MakeColourList(number));
+  for (int number = 1; number <= 3; ++number) AddColourList(form, number);
   column->addWidget(colours);
   auto* notation = new QGroupBox("Output", side);
   auto* options = new QHBoxLayout(notation);
@@ -137,16 +136,18 @@ QWidget* frmBMP2SpriteMain::MakeSide() {
   return side;
 }
 
-QComboBox* frmBMP2SpriteMain::MakeColourList(int number) {
+void frmBMP2SpriteMain::AddColourList(QFormLayout* form, int number) {
+  const auto index = static_cast<std::size_t>(number - 1);
+  const QString pair = '%' + ToQt(model::ToText(sprites::kPairOfList.at(index)));
   auto* list = new QComboBox(this);
   list->setObjectName(QString("cboCol%1").arg(number));
-  list->setAccessibleName(QString("Color %1").arg(number));
+  list->setAccessibleName(QString("Color %1, bit pair ").arg(number) + pair);
   for (int colour = 0; colour < model::C64Colour::kCount; ++colour) {
     list->addItem(SwatchOf(colour), kColourNames[static_cast<std::size_t>(colour)], colour);
   }
   list->addItem("[none]", kNone);
-  cboCol_[static_cast<std::size_t>(number - 1)] = list;
-  return list;
+  cboCol_.at(index) = list;
+  form->addRow(QString("Color &%1 (").arg(number) + pair + ')', list);
 }
 
 void frmBMP2SpriteMain::AskForSource() {
@@ -160,6 +161,8 @@ void frmBMP2SpriteMain::AskForSource() {
 void frmBMP2SpriteMain::OpenSource(const QString& path) {
   try {
     ShowPicture(sprites::LoadSpriteSource(PathFromQt(path)));
+  } catch (const sprites::SourceSizeError& error) {
+    QtMessages(this).InformWithMore(error.what(), error.Sizes());
   } catch (const std::runtime_error& error) {
     QtMessages(this).Inform(error.what());
   }

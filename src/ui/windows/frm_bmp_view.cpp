@@ -48,6 +48,16 @@ void frmBMPView::ShowPreview(const model::PictureImage* other) {
   app::NoProgress none;
   model::DrawPicture(previewing_ ? *other : picture_, surface_, none);
   picStd_->Refresh();
+  TintCells();
+}
+
+void frmBMPView::ShowCellUse(bool on) {
+  shows_cell_use_ = on;
+  TintCells();
+}
+
+void frmBMPView::TintCells() {
+  picStd_->ShowCellUse(shows_cell_use_ && !previewing_ ? &picture_ : nullptr);
 }
 
 void frmBMPView::DrawPicture() {

@@ -32,6 +32,8 @@ class frmBMPView : public QWidget {
   // Marks the part that the zoom window shows, in full-view pixels.
   void ShowZoomArea(const model::ZoomArea& area);
 
+  void ShowCellUse(bool on);
+
   // What is shown, without the marker: 320 x 200.
   QImage Picture() const;
 
@@ -43,6 +45,7 @@ class frmBMPView : public QWidget {
   void ColourAsked(model::PixelPoint at, Qt::MouseButton button);
 
  private:
+  void TintCells();
   void picStd_MouseDown(QPoint at, Qt::MouseButton button, Qt::KeyboardModifiers modifiers);
   void picStd_MouseMove(QPoint at);
   void picStd_Click();
@@ -50,6 +53,7 @@ class frmBMPView : public QWidget {
   const model::PictureImage& picture_;
   model::Surface surface_;
   bool previewing_ = false;
+  bool shows_cell_use_ = false;
   bool asks_colour_ = false;  // the button that is held was pressed with Alt
   model::FullViewPointer pointer_;
   FullViewPicture* picStd_;

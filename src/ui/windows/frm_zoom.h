@@ -46,6 +46,8 @@ class frmZoom : public QWidget {
   // A full cell (1..1000) lights up for a moment.
   void FlashCell(int cell, model::FullCellFate fate) { picStd_->FlashCell(cell, fate); }
 
+  void ShowCellUse(bool on) { picStd_->ShowCellUse(on ? &picture_ : nullptr); }
+
   // Another picture shines through; none: empty.
   void SetOnionSkin(const std::optional<model::PictureImage>& other);
 
