@@ -56,9 +56,16 @@ KeyboardHand::KeyboardHand(frmZoom& zoom) : zoom_(zoom) {
 
 bool KeyboardHand::eventFilter(QObject* watched, QEvent* event) {
   if (IsSpaceLetGo(*event)) LetGo();  // wherever that is: a message box may have come up meanwhile
-  if (watched == &zoom_ && event->type() == QEvent::KeyPress) return KeyDown(*static_cast<QKeyEvent*>(event));
-  if (watched == &zoom_ && event->type() == QEvent::KeyRelease) return KeyUp(*static_cast<QKeyEvent*>(event));
+  if (watched == &zoom_ && event->type() == QEvent::ParentChange) zoom_.parentWidget()->installEventFilter(this);
+  if (!IsZoomWindow(watched)) return false;
+  if (event->type() == QEvent::KeyPress) return KeyDown(*static_cast<QKeyEvent*>(event));
+  if (event->type() == QEvent::KeyRelease) return KeyUp(*static_cast<QKeyEvent*>(event));
   return false;
+}
+
+// The frame around it has the keyboard itself when the program starts, and after a click on the title.
+bool KeyboardHand::IsZoomWindow(const QObject* watched) const {
+  return watched == &zoom_ || watched == zoom_.parentWidget();
 }
 
 bool KeyboardHand::KeyDown(const QKeyEvent& key) {

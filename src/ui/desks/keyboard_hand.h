@@ -45,6 +45,7 @@ class KeyboardHand : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  bool IsZoomWindow(const QObject* watched) const;
   bool KeyDown(const QKeyEvent& key);
   bool KeyUp(const QKeyEvent& key) const;
   void Toggle();

@@ -10,8 +10,8 @@ namespace {
 
 // By how many own colours are free.
 const std::array<QColor, model::kOwnColours>& Tints() {
-  static const std::array<QColor, model::kOwnColours> tints{QColor(255, 40, 40, 130), QColor(255, 190, 0, 110),
-                                                            QColor(60, 220, 90, 90)};
+  static const std::array<QColor, model::kOwnColours> tints{QColor(255, 40, 40, 90), QColor(255, 190, 0, 70),
+                                                            QColor(60, 220, 90, 50)};
   return tints;
 }
 
