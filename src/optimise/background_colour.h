@@ -7,7 +7,8 @@
 
 namespace kelvo::optimise {
 
-// Turns every pixel of one cell whose slot shows the background colour into %00, and says how many there were. The cell's bytes are Bitmap[index + 1]
+// Turns every pixel of one cell whose slot shows the background colour into %00, and says how many there were. The
+// cell's bytes are Bitmap[index + 1]
 // .. Bitmap[index + 8]; a negative index does nothing. Its colours stay, also those that no pixel uses any more.
 int OptimizeChar(model::PictureImage& picture, int index);
 

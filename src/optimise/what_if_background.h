@@ -10,7 +10,7 @@ namespace kelvo::optimise {
 // Numbers of cells, 0..1000; no cell is in both.
 struct BackgroundEffect {
   int gain_room = 0;  // have more own colours free than now, and look the same apart from the background
-  int clash = 0;      // show the background beside an own colour that would be the same: the two could not be told apart
+  int clash = 0;  // show the background beside an own colour that would be the same: the two could not be told apart
 
   friend bool operator==(const BackgroundEffect&, const BackgroundEffect&) = default;
 };

@@ -44,11 +44,10 @@ TEST_F(PictureFilesTest, OpeningByDialogTakesTheChosenTypeAndTellsEveryone) {
 
 TEST_F(PictureFilesTest, AFileOfAnotherFormatThanTheFilterIsReadAsWhatItIs) {
   using Row = std::tuple<FormatType, const char*, std::size_t, FormatType>;
-  for (const auto& [filter, name, size, as] : {Row{kOwnType, "a.koa", 10003, kKoaType},
-                                               Row{kOwnType, "a.prg", 10003, kKoaType},
-                                               Row{kKlaType, "a.kvp", 10057, kOwnType},
-                                               Row{kKoaType, "a.vid", 10050, kVidcom64Type},
-                                               Row{kVidcom64Type, "a.kvp", 10050, kVidcom64Type}}) {
+  for (const auto& [filter, name, size, as] :
+       {Row{kOwnType, "a.koa", 10003, kKoaType}, Row{kOwnType, "a.prg", 10003, kKoaType},
+        Row{kKlaType, "a.kvp", 10057, kOwnType}, Row{kKoaType, "a.vid", 10050, kVidcom64Type},
+        Row{kVidcom64Type, "a.kvp", 10050, kVidcom64Type}}) {
     SCOPED_TRACE(name);
     const app::Bytes bytes = support::CountingBytes(size);
     support::WriteFile(folder / name, bytes);

@@ -50,10 +50,10 @@ TEST(CellUse, CountsTheCellsOfEachColourOnce) {
 }
 
 TEST(WhatIfBackground, TellsRoomFromClash) {
-  PictureImage picture = support::PictureWithCell(1, kAllSlots, 1, 2, 3, 0);             // shows the background
-  support::SetCell(picture, 2, {85, 85, 85, 85, 170, 170, 170, 255}, 1, 4, 5);           // shows none
-  support::SetCell(picture, 3, {85, 85, 85, 85, 170, 170, 170, 255}, 1, 0, 5);           // loses as much as it gains
-  support::SetCell(picture, 1000, {85, 85, 85, 85, 85, 85, 85, 85}, 2, 2, 5);            // others are unused
+  PictureImage picture = support::PictureWithCell(1, kAllSlots, 1, 2, 3, 0);    // shows the background
+  support::SetCell(picture, 2, {85, 85, 85, 85, 170, 170, 170, 255}, 1, 4, 5);  // shows none
+  support::SetCell(picture, 3, {85, 85, 85, 85, 170, 170, 170, 255}, 1, 0, 5);  // loses as much as it gains
+  support::SetCell(picture, 1000, {85, 85, 85, 85, 85, 85, 85, 85}, 2, 2, 5);   // others are unused
   std::array<optimise::BackgroundEffect, 16> expected{};
   expected[1] = {.gain_room = 1, .clash = 1};
   expected[2] = {.clash = 1};

@@ -35,8 +35,9 @@ std::vector<Stroke> SomeStrokes(int count) {
   const auto below = [&](unsigned limit) { return static_cast<int>(random() % limit); };
   std::vector<Stroke> strokes;
   for (int number = 0; number < count; ++number) {
-    Stroke stroke{static_cast<editing::ToolId>(number % 7), below(16), below(16), {below(160) + 1, below(200) + 1},
-                  below(3) == 0 ? Qt::RightButton : Qt::LeftButton, {}};
+    Stroke stroke{
+        static_cast<editing::ToolId>(number % 7),         below(16), below(16), {below(160) + 1, below(200) + 1},
+        below(3) == 0 ? Qt::RightButton : Qt::LeftButton, {}};
     for (int steps = below(12); steps > 0; --steps) {
       stroke.way.push_back({kArrows.at(static_cast<std::size_t>(below(4))), below(4) == 0});
     }

@@ -147,6 +147,28 @@ TEST_F(PaintingWindowTest, AFullCellIsRefusedWhereThePreferenceSaysSo) {
   EXPECT_EQ(Colour(7, 1), 0);
 }
 
+TEST_F(PaintingWindowTest, ARefusalFlashesAndCanDoWithoutItsBox) {
+  settings.Write(editing::k4thColReplaces, "0");
+  for (int pen = 1; pen <= 3; ++pen) {
+    Key(static_cast<Qt::Key>(Qt::Key_1 + pen));
+    Click(pen, 1);
+  }
+  Key(Qt::Key_5);
+  const auto shown = [this] { return Box("frmZoom")->grab().toImage(); };
+  MoveTo(4, 1);
+  const QImage calm = shown();
+  InNextDialog<QMessageBox>([](QMessageBox& box) {
+    EXPECT_EQ(box.checkBox()->text(), "Tell it in the status bar from now on");
+    box.checkBox()->click();
+    QTest::keyClick(&box, Qt::Key_Return);
+  });
+  Click(4, 1);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return shown() == calm; }));
+  Click(4, 1);
+  EXPECT_NE(shown(), calm);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return shown() == calm; }));
+}
+
 TEST_F(PaintingWindowTest, PensAndBackgroundAreChosenInTheColoursWindow) {
   QTest::mouseClick(Swatch(7), Qt::LeftButton);
   QTest::mouseClick(Swatch(8), Qt::RightButton);

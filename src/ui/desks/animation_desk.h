@@ -66,7 +66,7 @@ class AnimationDesk : public QObject, private anim::AnimDisplay {
   anim::FrameNavigation navigation_;
   frmAnim* frame_window_ = nullptr;
   QPointer<frmPlayer> play_window_;  // it deletes itself when it closes
-  bool is_moving_ = false;  // from frame to frame: the files that are opened and saved are those of the move
+  bool is_moving_ = false;           // from frame to frame: the files that are opened and saved are those of the move
 
   std::optional<anim::FramePlayer> player_;
   QElapsedTimer playing_since_;

@@ -11,9 +11,9 @@
 
 namespace kelvo::ui {
 
-// Watches the keys of the zoom window. Enter shows the cursor and puts it away; while it is shown the arrows move it, by
-// a cell with Shift, and the view follows. Space holds the left button, Shift+Space the right one, until it is let go:
-// a repeating key is no second press. Keys that mean nothing here go on to the window.
+// Watches the keys of the zoom window. Enter shows the cursor and puts it away; while it is shown the arrows move it,
+// by a cell with Shift, and the view follows. Space holds the left button, Shift+Space the right one, until it is let
+// go: a repeating key is no second press. Keys that mean nothing here go on to the window.
 class KeyboardHand : public QObject {
   Q_OBJECT
 

@@ -219,8 +219,8 @@ void PaintingDesk::ShowCellOfPass(int cell) {
 }
 
 void PaintingDesk::OptimizeBackgroundColor() {
-  const optimise::Optimized done = optimise::OptimizeBackgroundColor(
-      document_.picture, windows_.full_view.Progress(), [this](int cell) { ShowCellOfPass(cell); });
+  const optimise::Optimized done = optimise::OptimizeBackgroundColor(document_.picture, windows_.full_view.Progress(),
+                                                                     [this](int cell) { ShowCellOfPass(cell); });
   windows_.char_data.Show(model::LookUpPixel(pointer_.x, pointer_.y));
   views_.PictureChanged();
   emit Word(QString("Optimized: %1 pixels in %2 cells").arg(done.pixels).arg(done.cells));

@@ -62,7 +62,7 @@ class PaintingDesk : public QObject {
   void StateChanged();
   void PointerAt(const QString& text);
   void CursorAt(const QString& text);  // the keyboard's cursor; empty: it was put away
-  void Word(const QString& word);  // for the status bar
+  void Word(const QString& word);      // for the status bar
   void BackgroundChosen(model::C64Colour colour);
 
  private:

@@ -9,8 +9,8 @@ namespace {
 
 constexpr int kCopySide = 32, kCopyBox = 4;
 
-// As a menu shows it: the tool's key is marked in its caption, where that has it, and stands behind it. A shortcut it is
-// not, which would take the letter from the prompt's line.
+// As a menu shows it: the tool's key is marked in its caption, where that has it, and stands behind it. A shortcut it
+// is not, which would take the letter from the prompt's line.
 QString MenuText(const editing::ToolRow& row) {
   QString text = ToQt(row.caption);
   const auto place = text.indexOf(QChar(row.key), 0, Qt::CaseInsensitive);

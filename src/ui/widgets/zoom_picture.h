@@ -1,5 +1,5 @@
-// The picture box of the zoom window. Over the picture it shows the shape under way, the keyboard's cursor, and cells that
-// the cell rule has just refused or recoloured.
+// The picture box of the zoom window. Over the picture it shows the shape under way, the keyboard's cursor, and cells
+// that the cell rule has just refused or recoloured.
 #pragma once
 
 #include <deque>

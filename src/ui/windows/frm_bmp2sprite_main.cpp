@@ -6,19 +6,18 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QMenuBar>
-#include <QPixmap>
 #include <QPushButton>
 #include <QStatusBar>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <stdexcept>
 
-#include "model/palette.h"
 #include "sprites/sprite_source.h"
 #include "sprites/sprite_view.h"
 #include "ui/ports/qt_file_dialogs.h"
 #include "ui/ports/qt_messages.h"
 #include "ui/ports/qt_text.h"
+#include "ui/widgets/icons.h"
 
 namespace kelvo::ui {
 namespace {
@@ -27,12 +26,6 @@ constexpr std::array kColourNames{"Black",   "White", "Red",  "Cyan",   "Purple"
                                   "L Brown", "Brown", "Pink", "D Grey", "M Grey", "L Green", "L Blue", "L Grey"};
 constexpr int kNone = -1;  // the key of "[none]"
 constexpr int kSpriteBox = 2;
-
-QIcon SwatchOf(int colour) {
-  QPixmap swatch(14, 14);
-  swatch.fill(QColor::fromRgb(model::SurfaceColour(*model::C64Colour::FromNumber(colour))));
-  return swatch;
-}
 
 }  // namespace
 
@@ -143,7 +136,8 @@ void frmBMP2SpriteMain::AddColourList(QFormLayout* form, int number) {
   list->setObjectName(QString("cboCol%1").arg(number));
   list->setAccessibleName(QString("Color %1, bit pair ").arg(number) + pair);
   for (int colour = 0; colour < model::C64Colour::kCount; ++colour) {
-    list->addItem(SwatchOf(colour), kColourNames[static_cast<std::size_t>(colour)], colour);
+    list->addItem(ColourIcon(*model::C64Colour::FromNumber(colour)), kColourNames[static_cast<std::size_t>(colour)],
+                  colour);
   }
   list->addItem("[none]", kNone);
   cboCol_.at(index) = list;

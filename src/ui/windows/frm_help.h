@@ -15,9 +15,10 @@ class frmHelp : public QTextBrowser {
   // The guide that is installed with the program; where it is missing the page says so.
   void ShowGuide();
 
- protected:
   // Pictures that are wider than a page are shown smaller.
   QVariant loadResource(int type, const QUrl& name) override;
+
+ protected:
   void keyPressEvent(QKeyEvent* event) override;
 };
 

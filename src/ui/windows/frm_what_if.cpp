@@ -2,26 +2,18 @@
 
 #include <QDialogButtonBox>
 #include <QGridLayout>
-#include <QPixmap>
 #include <QVBoxLayout>
 
 #include "model/palette.h"
 #include "optimise/what_if_background.h"
 #include "ui/ports/qt_text.h"
+#include "ui/widgets/icons.h"
 
 namespace kelvo::ui {
 namespace {
 
-constexpr int kSwatchSide = 16;
-
 model::C64Colour ColourNumber(int number) {
   return *model::C64Colour::FromNumber(number);
-}
-
-QIcon SwatchOf(model::C64Colour colour) {
-  QPixmap swatch(kSwatchSide, kSwatchSide);
-  swatch.fill(QColor::fromRgb(model::SurfaceColour(colour)));
-  return swatch;
 }
 
 }  // namespace
@@ -50,7 +42,7 @@ frmWhatIf::frmWhatIf(const model::PictureImage& picture, QWidget* parent) : QDia
 }
 
 frmWhatIf::Row frmWhatIf::MakeRow(int number) {
-  auto* colour = new QPushButton(SwatchOf(ColourNumber(number)), ToQt(model::ColourName(ColourNumber(number))), this);
+  auto* colour = new QPushButton(ColourIcon(ColourNumber(number)), ToQt(model::ColourName(ColourNumber(number))), this);
   colour->setObjectName(QString("cmdTry_%1").arg(number));
   colour->setStyleSheet("text-align: left");
   colour->setCheckable(true);

@@ -30,10 +30,11 @@ void frmZoom::ChangeArea(Change&& change) {
 }
 
 void frmZoom::ConnectBox() {
-  connect(picStd_, &SurfaceView::Pressed, this, [this](QPoint at, Qt::MouseButton button, Qt::KeyboardModifiers modifiers) {
-    grip_ = at;
-    emit Pressed(at, button, modifiers);
-  });
+  connect(picStd_, &SurfaceView::Pressed, this,
+          [this](QPoint at, Qt::MouseButton button, Qt::KeyboardModifiers modifiers) {
+            grip_ = at;
+            emit Pressed(at, button, modifiers);
+          });
   connect(picStd_, &SurfaceView::Moved, this, [this](QPoint at, Qt::MouseButtons held) {
     DragArea(at, held);
     emit Moved(at, held);
