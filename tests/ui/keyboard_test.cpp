@@ -164,7 +164,6 @@ TEST_F(KeyboardTest, TheCursorIsSeenAndToldAndTheViewFollowsIt) {
   for (int step = 0; step < 39; ++step) {
     Key(Qt::Key_Right, Qt::ShiftModifier);
     Key(Qt::Key_Down, Qt::ShiftModifier);
-    QTest::qWait(20);  // it is told at most once a display frame
     told.insert(Box("frmZoom")->accessibleName());
   }
   EXPECT_EQ(told.size(), 39);

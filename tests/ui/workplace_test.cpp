@@ -187,7 +187,7 @@ TEST_F(WorkplaceTest, HelpShowsEveryKeyAndTheGuide) {
   Action("mnuKeys")->trigger();
   const QString page = Find<QTextBrowser>("frmKeys")->toPlainText();
   for (const MenuEntry& entry : MenuEntries()) {
-    if (*entry.key != 0) EXPECT_TRUE(page.contains(QString(entry.tip))) << entry.name;
+    EXPECT_TRUE(*entry.key == 0 || page.contains(QString(entry.tip))) << entry.name;
   }
   for (const editing::ToolRow& tool : editing::ToolTable()) EXPECT_TRUE(page.contains(ToQt(tool.caption)));
   EXPECT_EQ(page.count("Left pen: "), 16);

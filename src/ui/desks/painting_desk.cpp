@@ -61,13 +61,16 @@ void PaintingDesk::ConnectKeyboard() {
   connect(&keyboard_, &KeyboardHand::Pressed, this, &PaintingDesk::Press);
   connect(&keyboard_, &KeyboardHand::Released, this, &PaintingDesk::Release);
   connect(&keyboard_, &KeyboardHand::Moved, this, [this](model::PixelPoint at, bool held) {
-    if (held) painting_.Move(at, true);
     PointAt(at);
+    TellCursor();  // before what the move may tell
+    if (held) painting_.Move(at, true);
+    TellCursor();
     ShowPreview(at);
   });
   connect(&keyboard_, &KeyboardHand::CursorGone, this, [this] {
-    windows_.zoom.TellCursor({});
-    emit CursorAt({});
+    told_.clear();
+    windows_.zoom.TellCursor(told_);
+    emit CursorAt(told_);
   });
 }
 
@@ -138,6 +141,8 @@ void PaintingDesk::TellCursor() {
   const model::PixelPoint at = keyboard_.At();
   const model::C64Colour colour = model::GetPixelData(document_.picture, at.x, at.y).colour;
   const QString text = QString("x=%1 y=%2 %3").arg(at.x).arg(at.y).arg(PlainColourName(colour));
+  if (text == told_) return;
+  told_ = text;
   windows_.zoom.TellCursor(text);
   emit CursorAt(text);
 }

@@ -16,7 +16,7 @@ constexpr int kSmallestZoomBox = 4;  // display pixels: the height of a box at 4
 constexpr int kFlashMilliseconds = 350;
 constexpr QColor kRefused(255, 64, 48, 170), kRecoloured(255, 255, 255, 80);
 
-QRect ToQt(const model::Rect& rect) {
+QRect QtRect(const model::Rect& rect) {
   return {rect.x, rect.y, rect.width, rect.height};
 }
 
@@ -64,14 +64,14 @@ void ZoomPicture::PaintOverlay(QPainter& painter) {
 void ZoomPicture::PaintCells(QPainter& painter) const {
   if (cell_use_ == nullptr) return;
   for (int cell = 1; cell <= model::PictureImage::kCells; ++cell) {
-    if (area_.ShowsCell(cell)) PaintCellUse(painter, *cell_use_, cell, ToQt(area_.CellRect(cell)));
+    if (area_.ShowsCell(cell)) PaintCellUse(painter, *cell_use_, cell, QtRect(area_.CellRect(cell)));
   }
 }
 
 void ZoomPicture::PaintFlashes(QPainter& painter) const {
   for (const Flash& flash : flashes_) {
     if (!area_.ShowsCell(flash.cell)) continue;
-    painter.fillRect(ToQt(area_.CellRect(flash.cell)),
+    painter.fillRect(QtRect(area_.CellRect(flash.cell)),
                      flash.fate == model::FullCellFate::kRefused ? kRefused : kRecoloured);
   }
 }
@@ -79,7 +79,7 @@ void ZoomPicture::PaintFlashes(QPainter& painter) const {
 // Black and white lines around the pixel, so that it is seen on every picture; the pixel itself stays free.
 void ZoomPicture::PaintCursor(QPainter& painter) const {
   if (!cursor_ || !area_.ShowsPixel(cursor_->x, cursor_->y)) return;
-  const QRect box = ToQt(area_.PixelRect(cursor_->x, cursor_->y));
+  const QRect box = QtRect(area_.PixelRect(cursor_->x, cursor_->y));
   painter.setBrush(Qt::NoBrush);
   for (const auto& [distance, colour] : {std::pair{1, Qt::white}, std::pair{2, Qt::black}, std::pair{3, Qt::white}}) {
     painter.setPen(colour);
