@@ -49,7 +49,8 @@ FormatType FittingTypeOf(const fs::path& path, FormatType chosen) {
 }  // namespace
 
 bool PictureFiles::Open() {
-  const int last_filter = app::ReadNumber(with_.settings, kFileFilter, kOwnType, kKlaType);
+  const int last_filter =
+      app::ReadNumber(with_.settings, kFileFilter, kOwnType, static_cast<int>(OfferedFormats().size()));
   const auto chosen = with_.dialogs.SelectFile(FolderForDialogs(), last_filter);
   if (!chosen) return false;
   with_.settings.Write(kFilePath, app::TextFromPath(chosen->path.parent_path()));
