@@ -24,7 +24,6 @@
 #include "ui/desks/painting_desk.h"
 #include "ui/desks/picture_windows.h"
 #include "ui/desks/recovery_desk.h"
-#include "ui/key_page.h"
 #include "ui/menu_table.h"
 #include "ui/ports/frame_ports.h"
 #include "ui/ports/qt_text.h"
@@ -36,7 +35,6 @@
 #include "ui/windows/frm_codenet_gui.h"
 #include "ui/windows/frm_command.h"
 #include "ui/windows/frm_fullscreen.h"
-#include "ui/windows/frm_help.h"
 #include "ui/windows/frm_what_if.h"
 #include "ui/windows/screenshot.h"
 
@@ -317,24 +315,6 @@ bool MainFrame::IsWindowShown(ChildWindowId id) const {
 
 void MainFrame::ShowAbout() {
   frmAbout(this).exec();
-}
-
-void MainFrame::ShowKeys() {
-  OpenHelp("frmKeys", "Keys")->setHtml(KeyPage());
-}
-
-void MainFrame::ShowGuide() {
-  OpenHelp("frmGuide", "Guide")->ShowGuide();
-}
-
-// A page that is open already comes forward.
-frmHelp* MainFrame::OpenHelp(const QString& name, const QString& title) {
-  auto* page = findChild<frmHelp*>(name);
-  if (page == nullptr) page = new frmHelp(name, title, this);
-  page->show();
-  page->raise();
-  page->activateWindow();
-  return page;
 }
 
 void MainFrame::mnuFullscreenView_Click() {

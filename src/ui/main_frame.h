@@ -33,7 +33,6 @@ class frmCharData;
 class frmCodenetGUI;
 class frmColors;
 class frmCommand;
-class frmHelp;
 class frmPens;
 class frmZoom;
 struct FramePorts;
@@ -72,8 +71,6 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
 
   void ShowPreferences();
   void ShowWhatIf();
-  void ShowKeys();
-  void ShowGuide();
   void ShowAbout();
   void mnuFullscreenView_Click();
   void SaveScreenshot();
@@ -112,7 +109,6 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   void MakeChildren();
   void ConnectAnimation();
   void ConnectBuilds();
-  frmHelp* OpenHelp(const QString& name, const QString& title);
   void ShowBuilding();
   void BuildEnded(c64out::BuildOutcome outcome);
   void StopTools();

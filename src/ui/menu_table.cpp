@@ -7,6 +7,7 @@
 #include "ui/desks/build_desk.h"
 #include "ui/desks/cell_use_desk.h"
 #include "ui/desks/painting_desk.h"
+#include "ui/help_pages.h"
 #include "ui/main_frame.h"
 
 namespace kelvo::ui {
@@ -158,8 +159,8 @@ constexpr MenuEntry kEntries[] = {
     {"mnuCodenetSettings", "mnuCodenet", "&Codenet settings...", "",
      "Where the C64 is, and the program's name on its disk", [](MainFrame& f) { f.Builds().ShowCodenetSettings(); }},
 
-    {"mnuGuide", "mnuHelp", "&Guide", "F1", "A tour of the program", [](MainFrame& f) { f.ShowGuide(); }},
-    {"mnuKeys", "mnuHelp", "&Keys", "", "All keys on one page", [](MainFrame& f) { f.ShowKeys(); }},
+    {"mnuGuide", "mnuHelp", "&Guide", "F1", "A tour of the program", [](MainFrame& f) { ShowGuide(f); }},
+    {"mnuKeys", "mnuHelp", "&Keys", "", "All keys on one page", [](MainFrame& f) { ShowKeys(f); }},
     Separator("mnuHelp"),
     {"mnuAbout", "mnuHelp", "&About Kelvo", "", "What this program is", [](MainFrame& f) { f.ShowAbout(); }},
 };
