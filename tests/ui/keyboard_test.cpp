@@ -16,7 +16,7 @@ using model::PixelPoint;
 
 struct Step {
   Qt::Key arrow;
-  bool by_cell;
+  Qt::KeyboardModifiers shift;
 };
 
 // A press with a tool, the way that is gone with the button held, and the release.
@@ -28,18 +28,22 @@ struct Stroke {
   std::vector<Step> way;
 };
 
-constexpr std::array kArrows{Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down};
+Qt::KeyboardModifiers ShiftIf(bool held) {
+  return held ? Qt::ShiftModifier : Qt::NoModifier;
+}
 
+// Four in a row with each tool, so that shapes get all of their points.
 std::vector<Stroke> SomeStrokes(int count) {
+  constexpr std::array kArrows{Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down};
   std::mt19937 random(2611);
   const auto below = [&](unsigned limit) { return static_cast<int>(random() % limit); };
   std::vector<Stroke> strokes;
   for (int number = 0; number < count; ++number) {
     Stroke stroke{
-        static_cast<editing::ToolId>(number % 7),         below(16), below(16), {below(160) + 1, below(200) + 1},
+        static_cast<editing::ToolId>(number / 4 % 7),     below(16), below(16), {below(160) + 1, below(200) + 1},
         below(3) == 0 ? Qt::RightButton : Qt::LeftButton, {}};
     for (int steps = below(12); steps > 0; --steps) {
-      stroke.way.push_back({kArrows.at(static_cast<std::size_t>(below(4))), below(4) == 0});
+      stroke.way.push_back({kArrows.at(static_cast<std::size_t>(below(4))), ShiftIf(below(4) == 0)});
     }
     strokes.push_back(std::move(stroke));
   }
@@ -47,7 +51,8 @@ std::vector<Stroke> SomeStrokes(int count) {
 }
 
 PixelPoint After(PixelPoint at, const Step& step) {
-  const int dx = step.by_cell ? 4 : 1, dy = step.by_cell ? 8 : 1;
+  const bool by_cell = step.shift != Qt::NoModifier;
+  const int dx = by_cell ? 4 : 1, dy = by_cell ? 8 : 1;
   if (step.arrow == Qt::Key_Left) at.x -= dx;
   if (step.arrow == Qt::Key_Right) at.x += dx;
   if (step.arrow == Qt::Key_Up) at.y -= dy;
@@ -100,25 +105,23 @@ class KeyboardTest : public MainFrameTest {
     Type(kPens.at(static_cast<std::size_t>(stroke.left_pen)));
     Type(kTools.at(static_cast<std::size_t>(stroke.tool)));
     WalkTo(stroke.at);
-    const Qt::KeyboardModifiers shift = stroke.button == Qt::RightButton ? Qt::ShiftModifier : Qt::NoModifier;
-    QTest::keyPress(Box("frmZoom"), Qt::Key_Space, shift);
+    QTest::keyPress(Box("frmZoom"), Qt::Key_Space, ShiftIf(stroke.button == Qt::RightButton));
     for (const Step& step : stroke.way) {
-      Key(step.arrow, step.by_cell ? Qt::ShiftModifier : Qt::NoModifier);
+      Key(step.arrow, step.shift);
       cursor = After(cursor, step);
     }
     QTest::keyRelease(Box("frmZoom"), Qt::Key_Space);
     frame->Desk().Tick();
   }
   void WalkTo(PixelPoint to) {
-    const auto walk = [this](int& from, int goal, Qt::Key less, Qt::Key more, int cell) {
-      while (from != goal) {
-        const int distance = std::abs(goal - from), step = distance >= cell ? cell : 1;
-        Key(goal < from ? less : more, step == cell ? Qt::ShiftModifier : Qt::NoModifier);
-        from += goal < from ? -step : step;
-      }
+    const auto walk = [this](int from, int goal, Qt::Key less, Qt::Key more, int cell) {
+      const int distance = std::abs(goal - from);
+      for (int step = 0; step < distance / cell; ++step) Key(goal < from ? less : more, Qt::ShiftModifier);
+      for (int step = 0; step < distance % cell; ++step) Key(goal < from ? less : more);
     };
     walk(cursor.x, to.x, Qt::Key_Left, Qt::Key_Right, 4);
     walk(cursor.y, to.y, Qt::Key_Up, Qt::Key_Down, 8);
+    cursor = to;
   }
   // Enter, and to the top left corner.
   void ShowCursorInCorner() {
