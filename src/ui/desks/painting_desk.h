@@ -88,7 +88,7 @@ class PaintingDesk : public QObject {
   PaintingWindows windows_;
   editing::Painting painting_;
   KeyboardHand keyboard_;
-  QString told_;  // of its cursor
+  QString told_;               // of its cursor
   model::PixelPoint pointer_;  // where the pointer was last over the picture
   model::PixelPoint shown_pointer_;
   app::Messages& messages_;
