@@ -11,7 +11,11 @@ enum class UnsavedAnswer { kSave, kDiscard, kCancel };
 class Messages {
  public:
   virtual ~Messages() = default;
-  virtual void Inform(std::string_view text) = 0;               // information icon, OK
+  virtual void Inform(std::string_view text) = 0;  // information icon, OK
+  // The same with `more` in smaller letters below.
+  virtual void InformWithMore(std::string_view text, std::string_view more) = 0;
+  // The same with a check box that says `choice`; true when the user ticked it.
+  virtual bool InformWithChoice(std::string_view text, std::string_view choice) = 0;
   virtual void Warn(std::string_view text) = 0;                 // exclamation icon, OK
   virtual void Tell(std::string_view text) = 0;                 // no icon, OK
   virtual bool Ask(std::string_view text) = 0;                  // Yes and No; anything but Yes is no

@@ -29,20 +29,33 @@ fs::path WithExtension(fs::path path) {
   return path;
 }
 
-// What a file that a person did not choose with a filter is read as.
-FormatType TypeOf(const fs::path& path) {
+// 0 for a file that is not there.
+std::uintmax_t SizeOf(const fs::path& path) {
   std::error_code error;
   const std::uintmax_t size = fs::file_size(path, error);
-  return TypeOfFile(app::TextFromPath(path), error ? 0 : size);
+  return error ? 0 : size;
+}
+
+// What a file that a person did not choose with a filter is read as.
+FormatType TypeOf(const fs::path& path) {
+  return TypeOfFile(app::TextFromPath(path), SizeOf(path));
+}
+
+// What a file is read as whose filter may be another format's.
+FormatType FittingTypeOf(const fs::path& path, FormatType chosen) {
+  return FittingType(chosen, app::TextFromPath(path), SizeOf(path));
 }
 
 }  // namespace
 
 bool PictureFiles::Open() {
-  const auto chosen = with_.dialogs.SelectFile(FolderForDialogs());
+  const int last_filter =
+      app::ReadNumber(with_.settings, kFileFilter, kOwnType, static_cast<int>(OfferedFormats().size()));
+  const auto chosen = with_.dialogs.SelectFile(FolderForDialogs(), last_filter);
   if (!chosen) return false;
   with_.settings.Write(kFilePath, app::TextFromPath(chosen->path.parent_path()));
-  return OpenAs(chosen->path, chosen->type, OnFailure::kMessageBox);
+  with_.settings.Write(kFileFilter, std::to_string(chosen->type));
+  return OpenAs(chosen->path, FittingTypeOf(chosen->path, chosen->type), OnFailure::kMessageBox);
 }
 
 bool PictureFiles::OpenPicture(const fs::path& path, OnFailure on_failure) {
@@ -72,8 +85,10 @@ std::optional<Document> PictureFiles::Read(const fs::path& path, FormatType type
         read = {.picture = picture, .kept = picture, .file = SetFileParameters(path), .on_disk = std::move(bytes)};
       },
       [&](const std::exception& error) {
-        const bool wrong_size = dynamic_cast<const FormatError*>(&error) != nullptr;
-        if (wrong_size && !FormatOf(type).size_message.empty()) return with_.messages.Inform(error.what());
+        const auto* wrong_size = dynamic_cast<const FormatError*>(&error);
+        if (wrong_size != nullptr && !FormatOf(type).size_message.empty()) {
+          return with_.messages.InformWithMore(error.what(), wrong_size->Sizes());
+        }
         TellFailedLoad(path, error.what(), on_failure);
       });
   return read;

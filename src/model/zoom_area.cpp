@@ -68,6 +68,18 @@ void ZoomArea::Move(ZoomMove move, ZoomStep step) {
   }
 }
 
+void ZoomArea::Reveal(int x, int y) {
+  // The origin that shows the cell at the far edge, at the near edge, or the one that is.
+  const auto reveal = [](int cell_begin, int origin, int visible) {
+    return std::clamp(origin, cell_begin + 8 - visible / 8 * 8, cell_begin);
+  };
+  MoveTo(reveal((x - 1) * 2 / 8 * 8, origin_x_, VisibleWidth()), reveal((y - 1) / 8 * 8, origin_y_, VisibleHeight()));
+}
+
+PixelPoint ZoomArea::Middle() const {
+  return {(origin_x_ + VisibleWidth() / 2) / 2 + 1, origin_y_ + VisibleHeight() / 2 + 1};
+}
+
 bool ZoomArea::ShowsPixel(int x, int y) const {
   const int display_x = (x - 1) * 2 - origin_x_, display_y = y - 1 - origin_y_;
   return display_x >= 0 && display_x < VisibleWidth() && display_y >= 0 && display_y < VisibleHeight();

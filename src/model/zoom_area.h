@@ -48,11 +48,14 @@ class ZoomArea {
   void CentreOn(int col, int row);
   void MoveTo(int origin_x, int origin_y);
   void Move(ZoomMove move, ZoomStep step);
+  // Moves no further than it takes to show pixel x (1..160), y (1..200).
+  void Reveal(int x, int y);
 
   // The sides of one picture pixel's box.
   int BoxWidth() const { return magnification_ * 2; }
   int BoxHeight() const { return magnification_; }
 
+  PixelPoint Middle() const;            // of what is shown
   bool ShowsPixel(int x, int y) const;  // 1..160, 1..200
   bool ShowsCell(int cell) const;       // 1..1000
   Rect CellRect(int cell) const;        // on the zoom surface, border included

@@ -19,6 +19,7 @@
 #include "model/palette.h"
 #include "ui/desks/animation_desk.h"
 #include "ui/desks/build_desk.h"
+#include "ui/desks/cell_use_desk.h"
 #include "ui/desks/painting_desk.h"
 #include "ui/desks/picture_windows.h"
 #include "ui/desks/recovery_desk.h"
@@ -33,6 +34,7 @@
 #include "ui/windows/frm_codenet_gui.h"
 #include "ui/windows/frm_command.h"
 #include "ui/windows/frm_fullscreen.h"
+#include "ui/windows/frm_what_if.h"
 #include "ui/windows/screenshot.h"
 
 namespace kelvo::ui {
@@ -80,8 +82,10 @@ MainFrame::MainFrame(const app::ProgramFolders& folders, app::SettingsStore& set
       views_(std::make_unique<PictureWindows>(*full_view_, *zoom_)),
       files_(document_, {Surroundings(), ports_->pointer, ports_->dialogs, *this, *views_, *panels_}),
       desk_(std::make_unique<PaintingDesk>(
-          document_, editing::PaintingPorts{*views_, settings, ports_->messages, ports_->events, ports_->pointer, log_},
+          document_,
+          editing::PaintingPorts{*views_, settings, ports_->messages, *panels_, ports_->events, ports_->pointer, log_},
           PaintingWindows{*full_view_, *zoom_, *colors_, *pens_, *char_data_, *Toolbar1_})),
+      cell_use_(std::make_unique<CellUseDesk>(document_, *full_view_, *zoom_, *colors_)),
       animation_(std::make_unique<AnimationDesk>(PictureSurroundings(), *this, *windows_, *full_view_, *zoom_)),
       builds_(std::make_unique<BuildDesk>(PictureSurroundings(), ports_->tools, this)),
       recovery_(std::make_unique<RecoveryDesk>(PictureSurroundings(), slot_)) {
@@ -91,6 +95,7 @@ MainFrame::MainFrame(const app::ProgramFolders& folders, app::SettingsStore& set
   MakeChildren();
   MakeChoiceMenus();
   MakeRecentMenu();
+  menu_.Menu(kToolsMenu)->addActions(Toolbar1_->Tools());
   ConnectDesk();
   ConnectAnimation();
   ConnectBuilds();
@@ -170,6 +175,8 @@ void MainFrame::ConnectDesk() {
   connect(desk_.get(), &PaintingDesk::StateChanged, this, &MainFrame::ShowPaintingState);
   connect(desk_.get(), &PaintingDesk::PointerAt, this,
           [this](const QString& text) { panels_->Show(StatusPanel::kPointer, text); });
+  // It is emitted after each action too, at most once a display frame.
+  connect(desk_.get(), &PaintingDesk::PointerAt, this, [this] { cell_use_->Refresh(); });
   connect(desk_.get(), &PaintingDesk::BackgroundChosen, this,
           [this](model::C64Colour colour) { SetBackgroundColour(colour.Number()); });
 }
@@ -308,8 +315,16 @@ void MainFrame::ShowPreferences() {
   SettingsDialog dialog(settings_, "frmPreferences", "Preferences", this);
   dialog.AddCheckBox(editing::k4thColReplaces, "&4th char color replaces selected color");
   dialog.AddCheckBox(editing::kReplaceLeastUsedColWhenFilling, "&Replace least used color when filling");
+  dialog.AddCheckBox(editing::kCloseCircles, "&Close circles where they run steeply");
+  dialog.AddCheckBox(editing::kTellRefusalsInStatusBar, "&Tell refusals of full cells in the status bar");
   dialog.AddNumber(files::kKeepBackupsDays, files::kMostBackupDays, "Days that every &backup is kept:", "for ever",
                    "Of the days before those the last backup of each picture stays");
+  dialog.exec();
+}
+
+void MainFrame::ShowWhatIf() {
+  frmWhatIf dialog(document_.picture, this);
+  connect(&dialog, &frmWhatIf::Tried, this, &MainFrame::SetBackgroundColour);
   dialog.exec();
 }
 
@@ -340,7 +355,8 @@ void MainFrame::keyReleaseEvent(QKeyEvent* event) {
   if (is_arrow && qobject_cast<QAbstractButton*>(focusWidget()) != nullptr) return;  // it led from button to button
   // Ctrl+R with Ctrl let go first is still Ctrl+R, not the pen of R.
   const Qt::KeyboardModifiers modifiers = event->modifiers() | ports_->keys.HeldAtPress(event->key());
-  if (!desk_->HandleKeyUp(event->key(), modifiers)) QMainWindow::keyReleaseEvent(event);
+  if (desk_->HandleKeyUp(event->key(), modifiers) || menu_.HandleKeyUp(event->key(), modifiers)) return;
+  QMainWindow::keyReleaseEvent(event);
 }
 
 void MainFrame::changeEvent(QEvent* event) {

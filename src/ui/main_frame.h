@@ -17,6 +17,7 @@ namespace kelvo::ui {
 
 class AnimationDesk;
 class BuildDesk;
+class CellUseDesk;
 class ChoiceMenu;
 class PaintingDesk;
 class PaintToolBar;
@@ -63,6 +64,7 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   void SetGridColor(int number);         // 0..15
 
   void ShowPreferences();
+  void ShowWhatIf();
   void ShowAbout();
   void mnuFullscreenView_Click();
   void SaveScreenshot();
@@ -70,6 +72,8 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   void ShowCodenetGui();
   void ArrangeWindows();
 
+  CellUseDesk& CellUse() { return *cell_use_; }
+  const CellUseDesk& CellUse() const { return *cell_use_; }
   BuildDesk& Builds() { return *builds_; }
   const BuildDesk& Builds() const { return *builds_; }
   AnimationDesk& Animation() { return *animation_; }
@@ -140,6 +144,7 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   std::unique_ptr<PictureWindows> views_;
   files::PictureFiles files_;
   std::unique_ptr<PaintingDesk> desk_;
+  std::unique_ptr<CellUseDesk> cell_use_;
   std::unique_ptr<AnimationDesk> animation_;
   std::unique_ptr<BuildDesk> builds_;
   std::unique_ptr<RecoveryDesk> recovery_;

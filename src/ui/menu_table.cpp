@@ -5,8 +5,10 @@
 #include "c64out/compo_pic_choice.h"
 #include "ui/desks/animation_desk.h"
 #include "ui/desks/build_desk.h"
+#include "ui/desks/cell_use_desk.h"
 #include "ui/desks/painting_desk.h"
 #include "ui/desks/window_desk.h"
+#include "ui/help_pages.h"
 #include "ui/main_frame.h"
 
 namespace kelvo::ui {
@@ -17,6 +19,7 @@ constexpr MenuRow kMenus[] = {
     {kRecentMenu, "mnuFile", "Load r&ecent...", "Open this picture"},
     {"mnuLimPaint", nullptr, "&Paint", ""},
     {kBackgroundMenu, "mnuLimPaint", "&Background color", "Show this color wherever the picture's background shows"},
+    {kToolsMenu, nullptr, "&Tools", ""},
     {"mnuViewMenu", nullptr, "&Show", ""},
     {kFullViewMenu, "mnuViewMenu", "Full &view scale", "How large the full view shows the picture"},
     {kGridMenu, "mnuViewMenu", "Zoom &grid", "Draw the grid of the zoom window in this color"},
@@ -91,8 +94,12 @@ constexpr MenuEntry kEntries[] = {
     {"mnuUndo", "mnuLimPaint", "&Undo", "Ctrl+Z", "Take back the last action", [](MainFrame& f) { f.Desk().Undo(); },
      [](const MainFrame& f) { return f.Desk().Painting().UndoData().CanUndo(); }, nullptr, "undo", nullptr,
      [](const MainFrame& f) { return "&" + f.Desk().Painting().UndoData().Caption(); }},
+    {"mnuSwapPens", "mnuLimPaint", "&Swap pens", "X", "Each button takes the other's color",
+     [](MainFrame& f) { f.Desk().SwapPens(); }},
     Separator("mnuLimPaint"),
     Submenu(kBackgroundMenu, "mnuLimPaint"),
+    {"mnuWhatIf", "mnuLimPaint", "&What if the background were...", "",
+     "How many cells would gain room or clash with each background color", [](MainFrame& f) { f.ShowWhatIf(); }},
     {"mnuRepeatCommand", "mnuLimPaint", "&Repeat last command", "F3", "Give the last command of the prompt again",
      [](MainFrame& f) { f.RepeatLastCommand(); }, [](const MainFrame& f) { return f.HasLastCommand(); }},
     {"mnuPreferences", "mnuLimPaint", "&Preferences...", "", "How painting treats full cells",
@@ -110,6 +117,8 @@ constexpr MenuEntry kEntries[] = {
     {"mnuZoomLarge", "mnuViewMenu", "&Enlarge zoom window", "Ctrl+E", "Give the zoom window all room beside the others",
      [](MainFrame& f) { f.Windows().ToggleLargeZoom(); }, nullptr,
      [](const MainFrame& f) { return f.Windows().IsZoomLarge(); }},
+    {"mnuCellUse", "mnuViewMenu", "Ce&ll use", "", "Tint cells by how many colors of their own are free",
+     [](MainFrame& f) { f.CellUse().Toggle(); }, nullptr, [](const MainFrame& f) { return f.CellUse().IsShown(); }},
     Submenu(kGridMenu, "mnuViewMenu"),
     Submenu(kBorderMenu, "mnuViewMenu"),
     Separator("mnuViewMenu"),
@@ -160,6 +169,9 @@ constexpr MenuEntry kEntries[] = {
     {"mnuCodenetSettings", "mnuCodenet", "&Codenet settings...", "",
      "Where the C64 is, and the program's name on its disk", [](MainFrame& f) { f.Builds().ShowCodenetSettings(); }},
 
+    {"mnuGuide", "mnuHelp", "&Guide", "F1", "A tour of the program", [](MainFrame& f) { ShowGuide(f); }},
+    {"mnuKeys", "mnuHelp", "&Keys", "", "All keys on one page", [](MainFrame& f) { ShowKeys(f); }},
+    Separator("mnuHelp"),
     {"mnuAbout", "mnuHelp", "&About Kelvo", "", "What this program is", [](MainFrame& f) { f.ShowAbout(); }},
 };
 

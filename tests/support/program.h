@@ -51,6 +51,14 @@ class FixedClock final : public app::Clock {
 class RecordingMessages : public app::Messages {
  public:
   void Inform(std::string_view text) override { shown.emplace_back(text); }
+  void InformWithMore(std::string_view text, std::string_view added) override {
+    Inform(text);
+    more = added;
+  }
+  bool InformWithChoice(std::string_view text, std::string_view) override {
+    Inform(text);
+    return ticks;
+  }
   void Warn(std::string_view text) override { shown.emplace_back(text); }
   void Tell(std::string_view text) override { shown.emplace_back(text); }
   bool Ask(std::string_view text) override {
@@ -62,6 +70,8 @@ class RecordingMessages : public app::Messages {
     return unsaved;
   }
   Lines shown;
+  std::string more;  // below the last text
+  bool ticks = false;
   bool yes = false;
   app::UnsavedAnswer unsaved = app::UnsavedAnswer::kCancel;
 };
@@ -84,9 +94,13 @@ class RecordingViews final : public model::PictureViews {
   void PixelChanged(int x, int y) override { pixels.push_back({x, y}); }
   void CellChanged(int cell) override { cells.push_back(cell); }
   void PictureChanged() override { ++pictures; }
+  void FullCellMet(int cell, model::FullCellFate fate) override {
+    full_cells += std::to_string(cell) + (fate == model::FullCellFate::kRecoloured ? "+ " : "- ");
+  }
   std::vector<std::pair<int, int>> pixels;
   std::vector<int> cells;
   int pictures = 0;
+  std::string full_cells;  // "7+ ": cell 7 was recoloured, "7- ": it was refused
 };
 
 class NoWaitPointer final : public app::WaitPointer {
@@ -97,7 +111,8 @@ class NoWaitPointer final : public app::WaitPointer {
 
 class PlannedDialogs final : public files::FileDialogs {
  public:
-  std::optional<files::ChosenFile> SelectFile(const std::filesystem::path& folder) override {
+  std::optional<files::ChosenFile> SelectFile(const std::filesystem::path& folder, files::FormatType type) override {
+    filters.push_back(type);
     folders.push_back(app::TextFromPath(folder));
     return open;
   }
@@ -108,6 +123,7 @@ class PlannedDialogs final : public files::FileDialogs {
   std::optional<files::ChosenFile> open;
   std::optional<std::string> save;
   Lines folders, proposals;
+  std::vector<files::FormatType> filters;
 };
 
 class RecordingDisplay final : public files::FileDisplay {

@@ -1,5 +1,7 @@
 // An animation made, walked through and played on the real main window.
 #include <QCloseEvent>
+#include <QDir>
+#include <QFileDialog>
 #include <QMdiSubWindow>
 #include <QScreen>
 
@@ -26,6 +28,17 @@ TEST_F(AnimationTest, FramesAreMadeVisitedSavedWhenLeftAndPlayed) {
   AnswerNext(QMessageBox::Ok);
   Action("mnuAnimMode")->trigger();
   EXPECT_EQ(box_text, "Animation folder must be specified");
+  InNextDialog([this](QDialog& dialog) {
+    InNextDialog<QFileDialog>([this](QFileDialog& chooser) {
+      chooser.setDirectory(ToQt(app::TextFromPath(frames)));
+      static_cast<QDialog&>(chooser).accept();
+    });
+    dialog.findChild<QAbstractButton*>("browseFolder")->click();
+    const QString path = dialog.findChild<QLineEdit*>("Folder")->text();
+    EXPECT_TRUE(path.endsWith(QString("frames") + QDir::separator())) << FromQt(path);
+    dialog.reject();
+  });
+  Action("mnuAnimProperties")->trigger();
   InNextDialog([path = ToQt(app::TextFromPath(frames) + "/")](QDialog& dialog) {
     FillIn(dialog, {{"Folder", path}, {"AnimPrefix", "  walk "}});
   });
@@ -55,6 +68,16 @@ TEST_F(AnimationTest, FramesAreMadeVisitedSavedWhenLeftAndPlayed) {
     seen.insert(Box("frmBMPView")->grab().toImage().pixel(100, 180));
     return seen.size() == 2;
   }));
+  Press("cmdPlayWindow");
+  Find("frmPlayer")->resize(700, 300);
+  seen.clear();
+  EXPECT_TRUE(QTest::qWaitFor([&] {
+    seen.insert(Find("frmPlayer")->grab().toImage().pixel(350, 290));
+    return seen.size() == 2;
+  }));
+  EXPECT_EQ(Find("frmPlayer")->grab().toImage().pixelColor(90, 150), QColor(Qt::black));  // beside the picture
+  QTest::keyClick(Find("frmPlayer"), Qt::Key_Escape);
+  EXPECT_EQ(Find<QAbstractButton>("cmdPlay")->text(), "&Stop");
   Press("cmdPlay");
   EXPECT_EQ(frame->Document().picture, before);
   EXPECT_EQ(Box("frmBMPView")->grab().toImage(), look);

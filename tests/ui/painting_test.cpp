@@ -147,6 +147,28 @@ TEST_F(PaintingWindowTest, AFullCellIsRefusedWhereThePreferenceSaysSo) {
   EXPECT_EQ(Colour(7, 1), 0);
 }
 
+TEST_F(PaintingWindowTest, ARefusalFlashesAndCanDoWithoutItsBox) {
+  settings.Write(editing::k4thColReplaces, "0");
+  for (int pen = 1; pen <= 3; ++pen) {
+    Key(static_cast<Qt::Key>(Qt::Key_1 + pen));
+    Click(pen, 1);
+  }
+  Key(Qt::Key_5);
+  const auto shown = [this] { return Box("frmZoom")->grab().toImage(); };
+  MoveTo(4, 1);
+  const QImage calm = shown();
+  InNextDialog<QMessageBox>([](QMessageBox& box) {
+    EXPECT_EQ(box.checkBox()->text(), "Tell it in the status bar from now on");
+    box.checkBox()->click();
+    QTest::keyClick(&box, Qt::Key_Return);
+  });
+  Click(4, 1);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return shown() == calm; }));
+  Click(4, 1);
+  EXPECT_NE(shown(), calm);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return shown() == calm; }));
+}
+
 TEST_F(PaintingWindowTest, PensAndBackgroundAreChosenInTheColoursWindow) {
   QTest::mouseClick(Swatch(7), Qt::LeftButton);
   QTest::mouseClick(Swatch(8), Qt::RightButton);
@@ -176,6 +198,61 @@ TEST_F(PaintingWindowTest, PensAndBackgroundAreChosenInTheColoursWindow) {
   EXPECT_TRUE(Swatch(12)->accessibleName().startsWith("left pen"));
   Key(Qt::Key_8);
   EXPECT_TRUE(Swatch(7)->accessibleName().startsWith("left pen"));
+}
+
+TEST_F(PaintingWindowTest, AltTakesTheColourUnderThePointerAndXSwapsThePens) {
+  frame->Files().OpenPicture(WriteKoala("p.koa"));
+  const auto two = [this](int x) { return std::pair{Colour(x, 1), Colour(x, 2)}; };
+  int x = 1;
+  while (two(x).first == two(x).second) ++x;
+  const auto [left, right] = two(x);
+  const model::PictureImage before = Picture();
+  const auto alt_click = [](QWidget* box, Qt::MouseButton button, QPoint at) {
+    QTest::mousePress(box, button, Qt::AltModifier, at);
+    MoveMouse(box, at + QPoint(40, 90), button);
+    QTest::mouseRelease(box, button, Qt::AltModifier, at + QPoint(40, 90));
+  };
+  alt_click(Box("frmZoom"), Qt::LeftButton, At(x, 1));
+  alt_click(Box("frmZoom"), Qt::RightButton, At(x, 2));
+  const auto pens = [this] {
+    const editing::Painting& painting = frame->Desk().Painting();
+    return std::pair{painting.PenColours().left.Number(), painting.PenColours().right.Number()};
+  };
+  EXPECT_EQ(pens(), std::pair(left, right));
+  Key(Qt::Key_X);
+  EXPECT_EQ(pens(), std::pair(right, left));
+  alt_click(Box("frmBMPView"), Qt::RightButton, {2 * x - 1, 1});
+  alt_click(Box("frmBMPView"), Qt::LeftButton, {2 * x - 1, 0});
+  EXPECT_EQ(pens(), std::pair(left, right));
+  EXPECT_EQ(Picture(), before);
+  EXPECT_EQ(ZoomOrigin(), QPoint(0, 0));  // the full view was not dragged
+}
+
+TEST_F(PaintingWindowTest, ABackgroundIsTriedAndCellUseIsShown) {
+  Key(Qt::Key_8);
+  for (int x = 1; x <= 4; ++x) Click(x, 1);
+  const QImage plain = Box("frmBMPView")->grab().toImage(), zoomed = Box("frmZoom")->grab().toImage();
+  Action("mnuCellUse")->trigger();
+  EXPECT_NE(Box("frmBMPView")->grab().toImage(), plain);
+  EXPECT_NE(Box("frmZoom")->grab().toImage(), zoomed);
+  EXPECT_TRUE(Swatch(7)->accessibleName().endsWith(", in 1 cell"));
+  Click(5, 1);
+  EXPECT_TRUE(Swatch(7)->accessibleName().endsWith(", in 2 cells"));
+  Click(5, 1, Qt::RightButton);
+  Action("mnuCellUse")->trigger();
+  EXPECT_EQ(Box("frmBMPView")->grab().toImage(), plain);
+  EXPECT_FALSE(Swatch(7)->accessibleName().contains("cells"));
+
+  InNextDialog([](QDialog& dialog) {
+    const auto number = [&dialog](const char* label) { return dialog.findChild<QLabel*>(label)->text(); };
+    EXPECT_EQ(number("lblClash_7"), "1");
+    dialog.findChild<QAbstractButton*>("cmdTry_7")->click();
+    EXPECT_EQ(number("lblGain_7"), "as it is");
+    EXPECT_EQ(number("lblClash_0"), "0");
+    dialog.reject();
+  });
+  Action("mnuWhatIf")->trigger();
+  EXPECT_EQ(Colour(100, 100), 7);
 }
 
 }  // namespace

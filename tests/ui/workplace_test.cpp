@@ -4,9 +4,11 @@
 #include <QLineEdit>
 #include <QMdiSubWindow>
 #include <QStatusTipEvent>
+#include <QTextBrowser>
 #include <QWheelEvent>
 
 #include "editing/painting.h"
+#include "editing/tool_table.h"
 #include "main_frame_fixture.h"
 #include "model/palette.h"
 #include "ui/menu_table.h"
@@ -250,6 +252,21 @@ TEST_F(WorkplaceTest, ScreenshotsAreSmallAndHaveTheFormatAndSizeChosen) {
     EXPECT_TRUE(path.endsWith("jpg") || saved == picture.scaled(saved.size()));
   }
   EXPECT_THROW(SaveScreenshot(picture, "/gone/shot.png", 1), std::runtime_error);
+}
+
+TEST_F(WorkplaceTest, HelpShowsEveryKeyAndTheGuide) {
+  Action("mnuKeys")->trigger();
+  const QString page = Find<QTextBrowser>("frmKeys")->toPlainText();
+  for (const MenuEntry& entry : MenuEntries()) {
+    EXPECT_TRUE(*entry.key == 0 || page.contains(QString(entry.tip))) << entry.name;
+  }
+  for (const editing::ToolRow& tool : editing::ToolTable()) EXPECT_TRUE(page.contains(ToQt(tool.caption)));
+  EXPECT_EQ(page.count("Left pen: "), 16);
+  for (int time = 0; time < 2; ++time) Action("mnuGuide")->trigger();
+  EXPECT_EQ(frame->findChildren<QTextBrowser*>("frmGuide").size(), 1);
+  auto* guide = Find<QTextBrowser>("frmGuide");
+  EXPECT_TRUE(guide->toPlainText().startsWith("A tour of Kelvo"));
+  EXPECT_FALSE(guide->loadResource(QTextDocument::ImageResource, QUrl("images/kelvo.png")).value<QImage>().isNull());
 }
 
 TEST_F(WorkplaceTest, EveryIconIsThereForMenusAndToolBars) {

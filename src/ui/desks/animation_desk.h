@@ -5,6 +5,7 @@
 #include <QElapsedTimer>
 #include <QMainWindow>
 #include <QObject>
+#include <QPointer>
 #include <QTimer>
 #include <functional>
 #include <optional>
@@ -15,6 +16,7 @@
 #include "ui/desks/window_desk.h"
 #include "ui/windows/frm_anim.h"
 #include "ui/windows/frm_bmp_view.h"
+#include "ui/windows/frm_player.h"
 #include "ui/windows/frm_zoom.h"
 
 namespace kelvo::ui {
@@ -51,6 +53,8 @@ class AnimationDesk : public QObject, private anim::AnimDisplay {
   void Move(const std::function<std::string()>& move);
   void ShowFrame();
   void ShowOnionSkin();
+  void ShowPlayWindow();
+  void ShowTurn(const model::PictureImage& picture);
   void TogglePlay();
   void StartPlay();
   void StopPlay();
@@ -64,7 +68,8 @@ class AnimationDesk : public QObject, private anim::AnimDisplay {
   anim::AnimMode mode_;
   anim::FrameNavigation navigation_;
   frmAnim* frame_window_ = nullptr;
-  bool is_moving_ = false;  // from frame to frame: the files that are opened and saved are those of the move
+  QPointer<frmPlayer> play_window_;  // it deletes itself when it closes
+  bool is_moving_ = false;           // from frame to frame: the files that are opened and saved are those of the move
 
   std::optional<anim::FramePlayer> player_;
   QElapsedTimer playing_since_;

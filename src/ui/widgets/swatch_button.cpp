@@ -23,10 +23,22 @@ SwatchButton::SwatchButton(QWidget* parent) : QAbstractButton(parent) {
 
 void SwatchButton::Show(model::C64Colour colour, const QString& role, const QString& marks, bool in_cell) {
   colour_ = colour;
+  role_ = role;
   marks_ = marks;
   in_cell_ = in_cell;
-  const QString name = ToQt(model::ColourName(colour));
-  setAccessibleName(role.isEmpty() ? name : role + ": " + name);
+  Name();
+}
+
+void SwatchButton::ShowCells(std::optional<int> cells) {
+  if (cells_ == cells) return;
+  cells_ = cells;
+  Name();
+}
+
+void SwatchButton::Name() {
+  const QString name = ToQt(model::ColourName(colour_));
+  const QString cells = cells_ ? QString(", in %1 %2").arg(*cells_).arg(*cells_ == 1 ? "cell" : "cells") : QString();
+  setAccessibleName((role_.isEmpty() ? name : role_ + ": " + name) + cells);
   setToolTip(key_.isNull() ? accessibleName() : QString("%1 (key %2)").arg(accessibleName()).arg(key_));
   update();
 }
@@ -50,23 +62,34 @@ void SwatchButton::paintEvent(QPaintEvent*) {
   painter.fillRect(rect(), fill);
   painter.setPen(palette().color(QPalette::Mid));
   painter.drawRect(rect().adjusted(0, 0, -1, -1));
-  const QRect inside = rect().adjusted(4, 2, -4, -2);
-  QFont font = SmallFont();
-  painter.setFont(font);
-  QColor faint = ink;
-  faint.setAlphaF(0.6F);
-  painter.setPen(faint);
-  if (!key_.isNull()) painter.drawText(inside, Qt::AlignLeft | Qt::AlignBottom, key_);
-  font.setBold(true);
-  painter.setFont(font);
-  painter.setPen(ink);
-  painter.drawText(inside, Qt::AlignLeft | Qt::AlignTop, marks_);
+  PaintLetters(painter, ink);
   if (hasFocus()) PaintFocus(painter);
   if (!in_cell_) return;
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
   painter.setBrush(ink);
   painter.drawEllipse(QPointF(width() - 7, height() - 7), 3, 3);
+}
+
+void SwatchButton::PaintLetters(QPainter& painter, const QColor& ink) const {
+  const QRect inside = rect().adjusted(4, 2, -4, -2);
+  QFont letters = SmallFont();
+  letters.setBold(true);
+  painter.setFont(letters);
+  painter.setPen(ink);
+  painter.drawText(inside, Qt::AlignLeft | Qt::AlignTop, marks_);
+  letters.setBold(false);
+  if (cells_) {
+    letters.setPixelSize(height() / 3);  // four digits have room
+    painter.setFont(letters);
+    painter.drawText(inside, Qt::AlignLeft | Qt::AlignBottom, QString::number(*cells_));
+  } else if (!key_.isNull()) {
+    QColor faint = ink;
+    faint.setAlphaF(0.6F);
+    painter.setFont(letters);
+    painter.setPen(faint);
+    painter.drawText(inside, Qt::AlignLeft | Qt::AlignBottom, key_);
+  }
 }
 
 // Dotted and in black and white, which no mark of a chosen colour is.

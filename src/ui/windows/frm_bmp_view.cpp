@@ -36,13 +36,10 @@ frmBMPView::frmBMPView(const model::PictureImage& picture, QWidget* parent)
   surface_.Fill({0, 0, kBoxWidth, kBoxHeight}, 0xFF000000);
   connect(picStd_, &SurfaceView::Moved, this, [this](QPoint at, Qt::MouseButtons held) {
     picStd_MouseMove(at);
-    if (held.testFlag(Qt::LeftButton)) picStd_Click();  // dragging drags the zoom area along
+    if (held.testFlag(Qt::LeftButton) && !asks_colour_) picStd_Click();  // dragging drags the zoom area along
   });
   connect(picStd_, &SurfaceView::PointerLeft, this, &frmBMPView::ShowPlainCaption);
-  connect(picStd_, &SurfaceView::Pressed, this, [this](QPoint at) {
-    picStd_MouseMove(at);
-    picStd_Click();
-  });
+  connect(picStd_, &SurfaceView::Pressed, this, &frmBMPView::picStd_MouseDown);
 }
 
 QString frmBMPView::Caption() const {
@@ -72,6 +69,16 @@ void frmBMPView::ShowPreview(const model::PictureImage* other) {
   app::NoProgress none;
   model::DrawPicture(previewing_ ? *other : picture_, surface_, none);
   picStd_->Refresh();
+  TintCells();
+}
+
+void frmBMPView::ShowCellUse(bool on) {
+  shows_cell_use_ = on;
+  TintCells();
+}
+
+void frmBMPView::TintCells() {
+  picStd_->ShowCellUse(shows_cell_use_ && !previewing_ ? &picture_ : nullptr);
 }
 
 void frmBMPView::DrawPicture() {
@@ -114,6 +121,13 @@ void frmBMPView::picStd_MouseMove(QPoint at) {
                      .arg(at.y() + 1)
                      .arg(pointer_.col)
                      .arg(pointer_.row));
+}
+
+void frmBMPView::picStd_MouseDown(QPoint at, Qt::MouseButton button, Qt::KeyboardModifiers modifiers) {
+  picStd_MouseMove(at);
+  asks_colour_ = modifiers.testFlag(Qt::AltModifier) && (button == Qt::LeftButton || button == Qt::RightButton);
+  if (!asks_colour_) return picStd_Click();
+  emit ColourAsked({pointer_.x, pointer_.y}, button);
 }
 
 void frmBMPView::picStd_Click() {

@@ -8,6 +8,7 @@
 #include "app/settings_store.h"
 #include "model/full_view.h"
 #include "model/picture_image.h"
+#include "model/pixel_place.h"
 #include "model/surface.h"
 #include "model/zoom_area.h"
 #include "ui/ports/frame_progress.h"
@@ -44,6 +45,8 @@ class frmBMPView : public QWidget {
   // Marks the part that the zoom window shows, in full-view pixels.
   void ShowZoomArea(const model::ZoomArea& area);
 
+  void ShowCellUse(bool on);
+
   // What is shown, without the marker: 320 x 200.
   QImage Picture() const;
 
@@ -54,9 +57,13 @@ class frmBMPView : public QWidget {
 
  signals:
   void ZoomAreaChosen(int col, int row);  // 1..40, 1..25
+  // Alt and a button ask for the colour of a pixel instead.
+  void ColourAsked(model::PixelPoint at, Qt::MouseButton button);
 
  private:
   QString Caption() const;
+  void TintCells();
+  void picStd_MouseDown(QPoint at, Qt::MouseButton button, Qt::KeyboardModifiers modifiers);
   void picStd_MouseMove(QPoint at);
   void picStd_Click();
 
@@ -65,6 +72,8 @@ class frmBMPView : public QWidget {
   bool previewing_ = false;
   int scale_ = 1;
   bool is_pal_ = false;
+  bool shows_cell_use_ = false;
+  bool asks_colour_ = false;  // the button that is held was pressed with Alt
   model::FullViewPointer pointer_;
   FullViewPicture* picStd_;
   QProgressBar* ProgressBar1_;

@@ -67,6 +67,12 @@ void frmColors::ShowCell(const model::CellColours& cell) {
   ShowMarks();
 }
 
+void frmColors::ShowCellCounts(const std::optional<std::array<int, model::C64Colour::kCount>>& cells) {
+  for (std::size_t number = 0; number < swatches_.size(); ++number) {
+    swatches_.at(number)->ShowCells(cells ? std::optional(cells->at(number)) : std::nullopt);
+  }
+}
+
 void frmColors::Choose(model::C64Colour colour, Qt::MouseButton button, Qt::KeyboardModifiers modifiers) {
   if (button == Qt::MiddleButton || modifiers.testFlag(Qt::ShiftModifier)) return emit BackgroundChosen(colour);
   if (button == Qt::RightButton) return emit RightPenChosen(colour);

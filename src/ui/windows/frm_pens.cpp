@@ -37,7 +37,7 @@ frmPens::frmPens(QWidget* parent) : QWidget(parent) {
   auto* swap = new QToolButton(this);
   swap->setObjectName("cmdSwap");
   swap->setIcon(IconNamed("swap"));
-  swap->setToolTip("Swap the pens");
+  swap->setToolTip("Swap the pens (key X)");
   swap->setAccessibleName("Swap the pens");
   LayOut(swap);
   connect(swap, &QToolButton::clicked, this, &frmPens::SwapAsked);

@@ -22,7 +22,7 @@ frmZoom::frmZoom(const model::PictureImage& picture, QWidget* parent)
       picStd_(new ZoomPicture(surface_, area_, this)) {
   setObjectName("frmZoom");
   picStd_->setObjectName("picStd");
-  picStd_->setAccessibleName("Zoom picture");
+  TellCursor({});
   picStd_->setAccessibleDescription("The part of the picture that is painted on.");
   ConnectBox();
   SetMagnification(area_.Magnification());
@@ -90,10 +90,11 @@ void frmZoom::ChangeArea(Change&& change) {
 }
 
 void frmZoom::ConnectBox() {
-  connect(picStd_, &SurfaceView::Pressed, this, [this](QPoint at, Qt::MouseButton button) {
-    grip_ = at;
-    emit Pressed(at, button);
-  });
+  connect(picStd_, &SurfaceView::Pressed, this,
+          [this](QPoint at, Qt::MouseButton button, Qt::KeyboardModifiers modifiers) {
+            grip_ = at;
+            emit Pressed(at, button, modifiers);
+          });
   connect(picStd_, &SurfaceView::Moved, this, [this](QPoint at, Qt::MouseButtons held) {
     DragArea(at, held);
     emit Moved(at, held);
@@ -142,6 +143,14 @@ void frmZoom::CentreOn(int col, int row) {
 
 void frmZoom::Move(model::ZoomMove move, model::ZoomStep step) {
   ChangeArea([&] { area_.Move(move, step); });
+}
+
+void frmZoom::Reveal(model::PixelPoint at) {
+  ChangeArea([&] { area_.Reveal(at.x, at.y); });
+}
+
+void frmZoom::TellCursor(const QString& place) {
+  picStd_->setAccessibleName(place.isEmpty() ? "Zoom picture" : "Zoom picture, " + place);
 }
 
 void frmZoom::SetGridColor(model::C64Colour colour) {
