@@ -87,7 +87,7 @@ MainFrame::MainFrame(const app::ProgramFolders& folders, app::SettingsStore& set
           PaintingWindows{*full_view_, *zoom_, *colors_, *pens_, *char_data_, *Toolbar1_})),
       cell_use_(std::make_unique<CellUseDesk>(document_, *full_view_, *zoom_, *colors_)),
       animation_(std::make_unique<AnimationDesk>(PictureSurroundings(), *this, *windows_, *full_view_, *zoom_)),
-      builds_(std::make_unique<BuildDesk>(PictureSurroundings(), ports_->tools, this)),
+      builds_(std::make_unique<BuildDesk>(PictureSurroundings(), *panels_, ports_->tools, this)),
       recovery_(std::make_unique<RecoveryDesk>(PictureSurroundings(), slot_)) {
   setObjectName("MDIFormMenu");
   setAcceptDrops(true);
@@ -195,19 +195,14 @@ void MainFrame::ConnectAnimation() {
 
 void MainFrame::ConnectBuilds() {
   connect(builds_.get(), &BuildDesk::StateChanged, this, &MainFrame::ShowBuilding);
-  connect(builds_.get(), &BuildDesk::Ended, this, &MainFrame::BuildEnded);
+  // The prompt is the build log: it comes forward when there is something to read in it. The keyboard stays where it
+  // is.
+  connect(builds_.get(), &BuildDesk::Failed, this, [this] { windows_->ShowBehind(ChildWindowId::kPrompt); });
 }
 
 void MainFrame::ShowBuilding() {
   panels_->SetBuilding(builds_->IsBuilding());
   RefreshMenus();
-}
-
-// The prompt is the build log: it comes forward when there is something to read in it. The keyboard stays where it is.
-void MainFrame::BuildEnded(c64out::BuildOutcome outcome) {
-  constexpr std::array kWords{"Build complete", "Build stopped", "Build failed", "Build failed"};
-  panels_->Tell(kWords.at(static_cast<std::size_t>(outcome)));
-  if (outcome == c64out::BuildOutcome::kFailed) windows_->ShowBehind(ChildWindowId::kPrompt);
 }
 
 void MainFrame::ProcessCommand(const QString& line) {

@@ -6,7 +6,6 @@
 
 #include "app/error_log.h"
 #include "app/program_folders.h"
-#include "c64out/build_compo_pic.h"
 #include "files/picture_files.h"
 #include "ui/main_menu.h"
 #include "ui/ports/program_slot.h"
@@ -104,7 +103,6 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   void ConnectAnimation();
   void ConnectBuilds();
   void ShowBuilding();
-  void BuildEnded(c64out::BuildOutcome outcome);
   void StopTools();
   void MakeChoiceMenus();
   void MakeRecentMenu();

@@ -76,10 +76,7 @@ class KeyboardTest : public MainFrameTest {
     frame->Files().OpenPicture(folder / "p.kvp");
   }
   frmZoom* Zoom() const { return Find<frmZoom>("frmZoom"); }
-  QWidget* Swatch(int colour) const { return Find(("swatch_" + std::to_string(colour)).c_str()); }
-  void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) { QTest::keyClick(Box("frmZoom"), key, modifiers); }
   void Type(int letter) { Key(static_cast<Qt::Key>(letter)); }
-  const model::PictureImage& Picture() const { return frame->Document().picture; }
 
   void ByMouse(const Stroke& stroke) {
     QTest::mouseClick(Swatch(stroke.left_pen), Qt::LeftButton);
@@ -87,14 +84,13 @@ class KeyboardTest : public MainFrameTest {
     const auto tools = frame->findChild<QToolBar*>("Toolbar1")->actions();
     tools.at(static_cast<int>(stroke.tool))->trigger();
     Zoom()->CentreOn((stroke.at.x + 3) / 4, (stroke.at.y + 7) / 8);
-    const auto place = [this](PixelPoint at) {
-      const model::Rect box = Zoom()->Area().PixelRect(at.x, at.y);
-      return QPoint(box.x + box.width / 2, box.y + box.height / 2);
-    };
-    QTest::mousePress(Box("frmZoom"), stroke.button, {}, place(stroke.at));
+    QTest::mousePress(Box("frmZoom"), stroke.button, {}, At(stroke.at.x, stroke.at.y));
     PixelPoint at = stroke.at;
-    for (const Step& step : stroke.way) MoveMouse(Box("frmZoom"), place(at = After(at, step)), stroke.button);
-    QTest::mouseRelease(Box("frmZoom"), stroke.button, {}, place(at));
+    for (const Step& step : stroke.way) {
+      at = After(at, step);
+      MoveMouse(Box("frmZoom"), At(at.x, at.y), stroke.button);
+    }
+    QTest::mouseRelease(Box("frmZoom"), stroke.button, {}, At(at.x, at.y));
     frame->Desk().Tick();
   }
 
@@ -172,6 +168,9 @@ TEST_F(KeyboardTest, TheCursorIsSeenAndToldAndTheViewFollowsIt) {
   EXPECT_EQ(told.size(), 39);
   const QString colour = PlainColourName(model::GetPixelData(Picture(), 157, 200).colour);
   EXPECT_EQ(Box("frmZoom")->accessibleName(), "Zoom picture, x=157 y=200 " + colour);
+  Key(Qt::Key_P, Qt::ShiftModifier);
+  EXPECT_EQ(PlainColourName(frame->Desk().Painting().PenColours().right), colour);
+  EXPECT_NE(frame->Desk().Painting().PenColours().left, frame->Desk().Painting().PenColours().right);
   EXPECT_EQ(ZoomOrigin(), QPoint(160, 56));
   EXPECT_NE(Box("frmZoom")->grab().toImage(), in_corner);
   Key(Qt::Key_Return);

@@ -12,11 +12,6 @@ class PaintingWindowTest : public MainFrameTest {
  protected:
   PaintingWindowTest() { Start(); }
 
-  // The middle of a picture pixel's box in the zoom window.
-  QPoint At(int x, int y) const {
-    const model::Rect box = frame->Zoom().Area().PixelRect(x, y);
-    return {box.x + box.width / 2, box.y + box.height / 2};
-  }
   // The mouse goes through the window, so that Qt's own grabbing and blocking takes part.
   QPoint InWindow(int x, int y) const { return Box("frmZoom")->mapTo(frame.get(), At(x, y)); }
   void Press(int x, int y) { QTest::mousePress(frame->windowHandle(), Qt::LeftButton, {}, InWindow(x, y)); }
@@ -25,7 +20,6 @@ class PaintingWindowTest : public MainFrameTest {
   void Click(int x, int y, Qt::MouseButton button = Qt::LeftButton) {
     QTest::mouseClick(frame->windowHandle(), button, {}, InWindow(x, y));
   }
-  void Key(Qt::Key key) { QTest::keyClick(Box("frmZoom"), key); }
   // By the keyboard, so that the mouse may be held.
   void CloseNextBox(bool let_go) {
     InNextDialog<QMessageBox>([this, let_go](QMessageBox& box) {
@@ -38,9 +32,7 @@ class PaintingWindowTest : public MainFrameTest {
     return QTest::qWaitFor([&] { return Panel("pnlTool") == prompt; });
   }
   QString Bytes() const { return Find<QLabel>("lblBytes")->text(); }
-  const model::PictureImage& Picture() const { return frame->Document().picture; }
   int Colour(int x, int y) const { return support::ColourAt(Picture(), x, y); }
-  QWidget* Swatch(int colour) const { return Find(("swatch_" + std::to_string(colour)).c_str()); }
 };
 
 TEST_F(PaintingWindowTest, ToolsPaintWithTheMouseAndAreUndone) {

@@ -45,7 +45,7 @@ void AnimationDesk::ShowFrameWindow() {
 
 void AnimationDesk::MakeFrameWindow() {
   frame_window_ = new frmAnim(&frame_);
-  windows_.PlaceFloating(*frame_window_, ReadFrameWindowPlace(with_.settings));
+  windows_.Floating().Place(*frame_window_, ReadFrameWindowPlace(with_.settings));
   frame_window_->SetPlayRate(anim::ReadPlayRate(with_.settings));
   frame_window_->SetOnionSkin(anim::ReadOnionSkin(with_.settings));
   connect(frame_window_, &frmAnim::MoveAsked, this, [this](anim::FrameMove move) {

@@ -10,12 +10,14 @@ namespace {
 
 constexpr int kCellWidth = 4, kCellHeight = 8;
 
-constexpr std::array<KeyboardHand::KeyRow, 5> kKeys{{
+constexpr std::array<KeyboardHand::KeyRow, 7> kKeys{{
     {"Enter", "Show the pixel cursor, or put it away (Escape too)"},
     {"Arrows", "Move the cursor"},
     {"Shift+Arrows", "Move the cursor by a cell"},
     {"Space", "The left button, held to draw"},
     {"Shift+Space", "The right button, held to draw"},
+    {"P", "Take the color under the cursor into the left pen"},
+    {"Shift+P", "Take the color under the cursor into the right pen"},
 }};
 
 struct Arrow {
@@ -76,8 +78,13 @@ bool KeyboardHand::KeyDown(const QKeyEvent& key) {
   }
   if (!IsShown()) return false;
   const bool shift = key.modifiers().testFlag(Qt::ShiftModifier);
+  const Qt::MouseButton button = shift ? Qt::RightButton : Qt::LeftButton;
   if (key.key() == Qt::Key_Space) {
-    if (!key.isAutoRepeat()) Hold(shift ? Qt::RightButton : Qt::LeftButton);
+    if (!key.isAutoRepeat()) Hold(button);
+    return true;
+  }
+  if (key.key() == Qt::Key_P) {
+    emit ColourAsked(*cursor_, button);
     return true;
   }
   const Arrow* arrow = ArrowOf(key.key());

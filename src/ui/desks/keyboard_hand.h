@@ -13,7 +13,8 @@ namespace kelvo::ui {
 
 // Watches the keys of the zoom window. Enter shows the cursor and puts it away; while it is shown the arrows move it,
 // by a cell with Shift, and the view follows. Space holds the left button, Shift+Space the right one, until it is let
-// go: a repeating key is no second press. Keys that mean nothing here go on to the window.
+// go: a repeating key is no second press. P takes the colour under the cursor, Shift+P for the right pen. Keys that
+// mean nothing here go on to the window.
 class KeyboardHand : public QObject {
   Q_OBJECT
 
@@ -39,6 +40,7 @@ class KeyboardHand : public QObject {
   void Pressed(model::PixelPoint at, Qt::MouseButton button);
   void Moved(model::PixelPoint at, bool held);  // with the button that was pressed here, or none
   void Released(Qt::MouseButton button);
+  void ColourAsked(model::PixelPoint at, Qt::MouseButton button);  // for that button's pen
   void CursorGone();
 
  protected:

@@ -63,6 +63,7 @@ void PaintingDesk::ConnectZoom() {
 void PaintingDesk::ConnectKeyboard() {
   connect(&keyboard_, &KeyboardHand::Pressed, this, &PaintingDesk::Press);
   connect(&keyboard_, &KeyboardHand::Released, this, &PaintingDesk::Release);
+  connect(&keyboard_, &KeyboardHand::ColourAsked, this, &PaintingDesk::Pick);
   connect(&keyboard_, &KeyboardHand::Moved, this, [this](model::PixelPoint at, bool held) {
     PointAt(at);
     TellCursor();  // before what the move may tell

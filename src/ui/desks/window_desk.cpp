@@ -6,7 +6,6 @@
 #include <QScrollBar>
 #include <QStyle>
 #include <algorithm>
-#include <utility>
 
 #include "ui/windows/window_places.h"
 
@@ -26,14 +25,18 @@ WindowSize SizeOf(ChildWindowId id) {
   return id == ChildWindowId::kPrompt ? WindowSize::kFree : WindowSize::kFixed;
 }
 
-// What a window manager adds to a window's height and width.
-constexpr QSize kAround(8, 36);
-
 }  // namespace
 
 WindowDesk::WindowDesk(QMainWindow& frame, QMdiArea& area, frmZoom& zoom, frmBMPView& full_view, StatusPanels& panels,
                        app::SettingsStore& settings)
-    : frame_(frame), area_(area), zoom_(zoom), full_view_(full_view), panels_(panels), settings_(settings) {
+    : frame_(frame),
+      area_(area),
+      zoom_(zoom),
+      full_view_(full_view),
+      panels_(panels),
+      settings_(settings),
+      large_zoom_(area, zoom),
+      floating_(frame, area) {
   area_.setObjectName("mdiArea");
   frame_.setCentralWidget(&area_);
   area_.setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
@@ -158,7 +161,7 @@ void WindowDesk::ArrangeIn(QSize room, int below) {
   ChildWindow& zoom = Child(ChildWindowId::kZoom);
   zoom.setGeometry(places.zoom);
   zoom.show();
-  zoom_before_ = {};
+  large_zoom_.Forget();
   for (std::size_t i = 0; i < kColumn.size(); ++i) {
     ChildWindow& child = Child(kColumn[i]);
     child.setGeometry(places.column[i]);
@@ -173,48 +176,12 @@ void WindowDesk::Arrange(QWidget* floating) {
   const QSize room = area_.maximumViewportSize();
   ArrangeIn(room, 0);
   if (floating != nullptr) {
-    const QSize size = floating->sizeHint() + kAround;
-    if (FreePlaceOver(size).isNull()) ArrangeIn(room, size.height() + kWindowGap);
-    PlaceFloating(*floating);
+    const QSize size = FloatingWindows::SizeOf(*floating);
+    if (floating_.FreePlaceOver(size).isNull()) ArrangeIn(room, size.height() + kWindowGap);
+    floating_.Place(*floating);
   }
   emit Changed();
   GiveFocusToPicture();
-}
-
-// Over the main window's area, beside the main window, or below it.
-QRect WindowDesk::FreePlaceOver(QSize size) const {
-  const auto global = [this](const QRect& place) { return place.translated(area_.viewport()->mapToGlobal(QPoint())); };
-  std::vector<QRect> taken;
-  for (const ChildWindow* child : children_) taken.push_back(global(child->geometry()));
-  const QRect free = FreeArea(frame_.geometry());
-  const QRect area = global(area_.viewport()->rect()) & free;
-  if (const QRect inside = FreePlace(area, size, taken); !inside.isNull()) return inside;
-  const QRect frame = frame_.frameGeometry();
-  for (const QPoint corner :
-       {QPoint(frame.right() + 1 + kWindowGap, frame.top()), QPoint(frame.left(), frame.bottom() + 1 + kWindowGap),
-        QPoint(frame.left() - size.width() - kWindowGap, frame.top())}) {
-    if (free.contains(QRect(corner, size))) return {corner, size};
-  }
-  return {};
-}
-
-void WindowDesk::PlaceFloating(QWidget& window) {
-  const QSize size = window.sizeHint();
-  const QSize with_frame = size + kAround;
-  QRect place = FreePlaceOver(with_frame);
-  if (place.isNull()) {
-    const QRect space = frame_.geometry() & FreeArea(frame_.geometry());
-    place = QRect(space.bottomRight() - QPoint(with_frame.width(), with_frame.height() + kAround.height()), with_frame);
-  }
-  const QPoint inside(kAround.width() / 2, kAround.height() - kAround.width() / 2);
-  window.setGeometry(QRect(place.topLeft() + inside, size));
-  BringIntoReach(window);
-}
-
-void WindowDesk::PlaceFloating(QWidget& window, QPoint place) {
-  const QRect content(place, window.sizeHint());
-  if (!CanBeTakenOnAScreen(content.translated(0, -kAround.height() / 2))) return PlaceFloating(window);
-  window.setGeometry(content);
 }
 
 void WindowDesk::Toggle(ChildWindowId id) {
@@ -240,55 +207,8 @@ bool WindowDesk::IsInSideWindow(const QWidget* widget) const {
   });
 }
 
-std::vector<ChildWindow*> WindowDesk::BesideZoom() const {
-  std::vector<ChildWindow*> beside;
-  const int middle = Child(ChildWindowId::kZoom).geometry().center().x();
-  for (const ChildWindowId id : kColumn) {
-    if (IsShown(id) && Child(id).x() > middle) beside.push_back(&Child(id));
-  }
-  return beside;
-}
-
-QSize WindowDesk::LargestZoom() const {
-  return Child(ChildWindowId::kZoom).Chrome() + zoom_.SizeFor(40, 25) * (zoom_.Area().Is8X() ? 2 : 1);
-}
-
-QRect WindowDesk::RoomForZoom() const {
-  const QRect area = area_.viewport()->rect().marginsRemoved({kWindowGap, kWindowGap, kWindowGap, kWindowGap});
-  int right = area.right();
-  for (const ChildWindow* child : BesideZoom()) right = std::min(right, child->x() - kWindowGap - 1);
-  return {area.topLeft(), QSize(right + 1 - area.left(), area.height()).boundedTo(LargestZoom())};
-}
-
-// How far the windows beside the zoom window can go to the right, as far as that helps it.
-int WindowDesk::RoomBesideColumn() const {
-  QRect column;
-  for (const ChildWindow* child : BesideZoom()) column |= child->geometry();
-  if (column.isNull()) return 0;
-  const int free = area_.viewport()->width() - kWindowGap - column.right() - 1;
-  return std::max(0, std::min(free, LargestZoom().width() + 2 * kWindowGap - column.left()));
-}
-
-void WindowDesk::MoveColumn(int distance) {
-  for (ChildWindow* child : BesideZoom()) child->move(child->pos() + QPoint(distance, 0));
-}
-
-bool WindowDesk::IsZoomLarge() const {
-  return !zoom_before_.isNull() && Child(ChildWindowId::kZoom).geometry() == RoomForZoom();
-}
-
 void WindowDesk::ToggleLargeZoom() {
-  ChildWindow& zoom = Child(ChildWindowId::kZoom);
-  if (IsZoomLarge()) {
-    zoom.setGeometry(std::exchange(zoom_before_, QRect()));
-    MoveColumn(-column_moved_);
-  } else {
-    column_moved_ = RoomBesideColumn();
-    MoveColumn(column_moved_);
-    zoom_before_ = zoom.geometry();
-    zoom.setGeometry(RoomForZoom());
-  }
-  zoom.show();
+  large_zoom_.Toggle();
   emit Changed();
 }
 

@@ -6,6 +6,8 @@
 #include <array>
 #include <optional>
 
+#include "ui/desks/floating_windows.h"
+#include "ui/desks/large_zoom.h"
 #include "ui/widgets/child_window.h"
 #include "ui/widgets/status_panels.h"
 #include "ui/windows/frm_bmp_view.h"
@@ -33,10 +35,7 @@ class WindowDesk : public QObject {
 
   // Puts every window back to its place, for the size there is; `floating` is one that stands over the main window.
   void Arrange(QWidget* floating);
-  // Puts a window that stands over the main window where nothing is hidden, or into the lower right corner.
-  void PlaceFloating(QWidget& window);
-  // The same, unless `place` (of its content, on the display) can be reached.
-  void PlaceFloating(QWidget& window, QPoint place);
+  const FloatingWindows& Floating() const { return floating_; }
 
   void Toggle(ChildWindowId id);
   // Shows a window that is hidden; the keyboard stays where it is.
@@ -47,7 +46,7 @@ class WindowDesk : public QObject {
 
   // Gives the zoom window all room beside the others, which go to the right, or all back the places that they had.
   void ToggleLargeZoom();
-  bool IsZoomLarge() const;
+  bool IsZoomLarge() const { return large_zoom_.IsLarge(); }
 
   void SetFullViewScale(int scale);  // 1..kLargestFullView
   void TogglePal();
@@ -67,12 +66,6 @@ class WindowDesk : public QObject {
   QSize FirstSize() const;
   void ArrangeIn(QSize room, int below);
   void RestoreChildren(QSize room);
-  std::vector<ChildWindow*> BesideZoom() const;
-  QSize LargestZoom() const;
-  QRect RoomForZoom() const;
-  int RoomBesideColumn() const;
-  void MoveColumn(int distance);
-  QRect FreePlaceOver(QSize size) const;
   void ShowFullView(int scale, bool is_pal);
   void BringAllIntoReach();
 
@@ -82,9 +75,9 @@ class WindowDesk : public QObject {
   frmBMPView& full_view_;
   StatusPanels& panels_;
   app::SettingsStore& settings_;
+  LargeZoom large_zoom_;
+  FloatingWindows floating_;
   std::array<ChildWindow*, kChildWindows> children_{};
-  QRect zoom_before_;     // the place that the zoom window had before it was made large
-  int column_moved_ = 0;  // by how much the windows beside it made room then
 };
 
 }  // namespace kelvo::ui

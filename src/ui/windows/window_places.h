@@ -10,6 +10,9 @@
 
 namespace kelvo::ui {
 
+// What a window manager adds to a window's width and height, or somewhat more.
+inline constexpr QSize kAround(8, 36);
+
 // What was kept of a child window; `size` is empty for one of a fixed size.
 struct KeptPlace {
   QPoint at;
