@@ -193,29 +193,27 @@ TEST_F(PaintingWindowTest, PensAndBackgroundAreChosenInTheColoursWindow) {
 }
 
 TEST_F(PaintingWindowTest, AltTakesTheColourUnderThePointerAndXSwapsThePens) {
-  frame->Files().OpenPicture(WriteKoala("p.koa"));
-  const auto two = [this](int x) { return std::pair{Colour(x, 1), Colour(x, 2)}; };
-  int x = 1;
-  while (two(x).first == two(x).second) ++x;
-  const auto [left, right] = two(x);
+  Key(Qt::Key_6);
+  Click(9, 1);
+  Key(Qt::Key_8);
+  Click(9, 2);
   const model::PictureImage before = Picture();
   const auto alt_click = [](QWidget* box, Qt::MouseButton button, QPoint at) {
     QTest::mousePress(box, button, Qt::AltModifier, at);
     MoveMouse(box, at + QPoint(40, 90), button);
     QTest::mouseRelease(box, button, Qt::AltModifier, at + QPoint(40, 90));
   };
-  alt_click(Box("frmZoom"), Qt::LeftButton, At(x, 1));
-  alt_click(Box("frmZoom"), Qt::RightButton, At(x, 2));
-  const auto pens = [this] {
-    const editing::Painting& painting = frame->Desk().Painting();
-    return std::pair{painting.PenColours().left.Number(), painting.PenColours().right.Number()};
+  alt_click(Box("frmZoom"), Qt::LeftButton, At(9, 1));
+  alt_click(Box("frmZoom"), Qt::RightButton, At(9, 2));
+  const auto pens = [&pens = frame->Desk().Painting().PenColours()] {
+    return std::pair(pens.left.Number(), pens.right.Number());
   };
-  EXPECT_EQ(pens(), std::pair(left, right));
+  EXPECT_EQ(pens(), std::pair(5, 7));
   Key(Qt::Key_X);
-  EXPECT_EQ(pens(), std::pair(right, left));
-  alt_click(Box("frmBMPView"), Qt::RightButton, {2 * x - 1, 1});
-  alt_click(Box("frmBMPView"), Qt::LeftButton, {2 * x - 1, 0});
-  EXPECT_EQ(pens(), std::pair(left, right));
+  EXPECT_EQ(pens(), std::pair(7, 5));
+  alt_click(Box("frmBMPView"), Qt::RightButton, {17, 1});
+  alt_click(Box("frmBMPView"), Qt::LeftButton, {17, 0});
+  EXPECT_EQ(pens(), std::pair(5, 7));
   EXPECT_EQ(Picture(), before);
   EXPECT_EQ(ZoomOrigin(), QPoint(0, 0));  // the full view was not dragged
 }

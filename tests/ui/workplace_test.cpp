@@ -108,6 +108,14 @@ TEST_F(WorkplaceTest, KeysWheelDragAndClickMoveTheZoomArea) {
   EXPECT_EQ(frame->Document().picture, model::PictureImage());
 }
 
+TEST_F(WorkplaceTest, TheColumnKeepsItsWidthWhateverColoursItNames) {
+  for (int colour = 0; colour < model::C64Colour::kCount; ++colour) {
+    frame->SetBackgroundColour(colour);
+    QApplication::processEvents();
+    EXPECT_EQ(Child("frmCharData")->width(), Child("frmColors")->width()) << colour;
+  }
+}
+
 TEST_F(WorkplaceTest, AnEnlargedZoomWindowShowsMoreAndPaintsUnderThePointer) {
   frame->resize(1270, 900);
   QTest::qWait(50);

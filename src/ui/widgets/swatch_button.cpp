@@ -15,6 +15,15 @@ QString PlainColourName(model::C64Colour colour) {
   return ToQt(model::ColourName(colour)).mid(3);
 }
 
+QString WidestColourName(const QFontMetrics& letters) {
+  QString widest;
+  for (int number = 0; number < model::C64Colour::kCount; ++number) {
+    const QString name = PlainColourName(*model::C64Colour::FromNumber(number));
+    if (letters.horizontalAdvance(name) > letters.horizontalAdvance(widest)) widest = name;
+  }
+  return widest;
+}
+
 SwatchButton::SwatchButton(QWidget* parent) : QAbstractButton(parent) {
   setFocusPolicy(Qt::StrongFocus);
   setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);

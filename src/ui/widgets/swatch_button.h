@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QAbstractButton>
+#include <QFontMetrics>
 #include <QString>
 #include <optional>
 
@@ -11,6 +12,8 @@ namespace kelvo::ui {
 
 // "Light red": the colour's name without its number.
 QString PlainColourName(model::C64Colour colour);
+// The one of these names that is the widest in `letters`.
+QString WidestColourName(const QFontMetrics& letters);
 
 // Any mouse button presses it; the keyboard's Space stands for the left one, with Ctrl for the right, with Shift for
 // the left with Shift.

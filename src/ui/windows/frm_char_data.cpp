@@ -79,11 +79,15 @@ QLayout* frmCharData::MakeSlots() {
     slots_[i].swatch->setObjectName(QString("slot_%1").arg(ToQt(model::ToText(kSlots[i]))));
     slots_[i].swatch->setFocusPolicy(Qt::NoFocus);
     slots_[i].swatch->setFixedSize(18, 18);
-    slots_[i].name->setMinimumWidth(fontMetrics().horizontalAdvance("%00 Middle gray"));
+    slots_[i].name->setText("%00 " + WidestColourName(fontMetrics()));
+    slots_[i].name->setMinimumWidth(slots_[i].name->sizeHint().width());
+    slots_[i].count->setText("32");
+    slots_[i].count->setMinimumWidth(slots_[i].count->sizeHint().width());
+    slots_[i].count->setAlignment(Qt::AlignRight);
     const int row = static_cast<int>(i);
     rows->addWidget(slots_[i].swatch, row, 0);
     rows->addWidget(slots_[i].name, row, 1);
-    rows->addWidget(slots_[i].count, row, 2, Qt::AlignRight);
+    rows->addWidget(slots_[i].count, row, 2);
   }
   return rows;
 }

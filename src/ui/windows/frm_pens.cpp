@@ -25,7 +25,7 @@ frmPens::PenRow frmPens::MakeRow(const char* object_name) {
   pen.swatch->setAccessibleDescription("A click takes the next color, with Shift the one before.");
   pen.swatch->setStatusTip(pen.swatch->accessibleDescription());
   pen.swatch->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-  pen.name->setMinimumWidth(pen.name->fontMetrics().horizontalAdvance("R: Middle gray"));
+  pen.name->setMinimumWidth(pen.name->fontMetrics().horizontalAdvance("R: " + WidestColourName(fontMetrics())));
   return pen;
 }
 
