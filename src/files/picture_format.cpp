@@ -63,12 +63,19 @@ void ReadPictureBlocks(const PictureFormat& format, std::span<const std::uint8_t
   if (background) picture.BackgroundColour = *background;
 }
 
+std::string SizesText(const PictureFormat& format, std::uintmax_t size) {
+  std::string right = std::to_string(format.file_size);
+  if (format.other_size != format.file_size) right += " or " + std::to_string(format.other_size);
+  return "A file of this type has " + right + " bytes, this one has " + std::to_string(size) + ".";
+}
+
 }  // namespace
 
 FormatError::FormatError(const PictureFormat& format, std::uintmax_t size)
     : std::runtime_error(format.size_message.empty() ? "a picture file has " + std::to_string(format.file_size) +
                                                            " bytes, this one has " + std::to_string(size)
-                                                     : std::string(format.size_message)) {}
+                                                     : std::string(format.size_message)),
+      sizes_(SizesText(format, size)) {}
 
 const PictureFormat& FormatOf(FormatType type) {
   return type > 0 && type < static_cast<int>(kFormats.size()) ? kFormats[static_cast<std::size_t>(type)] : kFormats[0];
@@ -84,6 +91,13 @@ FormatType TypeOfFile(std::string_view path, std::uintmax_t size) {
     if (extension == known) return type;
   }
   return size == FormatOf(kKoaType).file_size ? kKoaType : kGeneralType;
+}
+
+FormatType FittingType(FormatType chosen, std::string_view path, std::uintmax_t size) {
+  for (const FormatType type : {chosen, TypeOfFile(path, size), kOwnType, kKoaType}) {
+    if (FormatOf(type).Takes(size)) return type;
+  }
+  return chosen;
 }
 
 PictureImage Decode(const PictureFormat& format, std::span<const std::uint8_t> bytes, C64Colour background_before) {

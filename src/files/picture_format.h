@@ -43,10 +43,20 @@ std::span<const PictureFormat> OfferedFormats();
 // The type of a file that no dialog chose: by extension (.kvp, .lmp, .vid, .koa, .kla), else by size.
 FormatType TypeOfFile(std::string_view path, std::uintmax_t size);
 
+// `chosen` where it takes a file of `size` bytes; else the type that the file is by its name and size. `chosen` too
+// where no type takes it.
+FormatType FittingType(FormatType chosen, std::string_view path, std::uintmax_t size);
+
 // A file of a size that its type does not take. The message is the type's own, or one that tells the sizes.
 class FormatError : public std::runtime_error {
  public:
   FormatError(const PictureFormat& format, std::uintmax_t size);
+
+  // The size that is right and the one that the file has, in English.
+  const std::string& Sizes() const { return sizes_; }
+
+ private:
+  std::string sizes_;
 };
 
 // The picture in `bytes`; the background is `background_before` where the file carries none. Throws FormatError when

@@ -1,7 +1,10 @@
-// The port through which a change of the picture reaches the windows that show it.
+// The port through which a change of the picture, and what the cell rule made of one, reaches the windows that show it.
 #pragma once
 
 namespace kelvo::model {
+
+// What became of a full cell that was to take one more colour.
+enum class FullCellFate { kRefused, kRecoloured };
 
 // Hears of each change right after it happened, at the size it has.
 class PictureViews {
@@ -10,6 +13,7 @@ class PictureViews {
   virtual void PixelChanged(int x, int y) = 0;  // 1..160, 1..200
   virtual void CellChanged(int cell) = 0;       // 1..1000
   virtual void PictureChanged() = 0;            // loaded, cleared, undone, another background
+  virtual void FullCellMet([[maybe_unused]] int cell, [[maybe_unused]] FullCellFate fate) {}  // 1..1000
 };
 
 }  // namespace kelvo::model

@@ -2,25 +2,21 @@
 #pragma once
 
 #include <QMainWindow>
-#include <array>
 #include <memory>
 
 #include "app/error_log.h"
 #include "app/program_folders.h"
-#include "c64out/build_compo_pic.h"
 #include "files/picture_files.h"
 #include "ui/main_menu.h"
 #include "ui/ports/program_slot.h"
 #include "ui/widgets/prompt_lines.h"
 #include "ui/widgets/status_panels.h"
-#include "ui/windows/window_places.h"
-
-class QMdiArea;
 
 namespace kelvo::ui {
 
 class AnimationDesk;
 class BuildDesk;
+class CellUseDesk;
 class ChoiceMenu;
 class PaintingDesk;
 class PaintToolBar;
@@ -34,10 +30,8 @@ class frmColors;
 class frmCommand;
 class frmPens;
 class frmZoom;
+class WindowDesk;
 struct FramePorts;
-
-enum class ChildWindowId { kFullView, kColors, kCharData, kPrompt, kZoom, kPens };
-inline constexpr std::size_t kChildWindows = 6;
 
 class MainFrame : public QMainWindow, private files::FileDisplay {
   Q_OBJECT
@@ -69,6 +63,7 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   void SetGridColor(int number);         // 0..15
 
   void ShowPreferences();
+  void ShowWhatIf();
   void ShowAbout();
   void mnuFullscreenView_Click();
   void SaveScreenshot();
@@ -76,6 +71,8 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   void ShowCodenetGui();
   void ArrangeWindows();
 
+  CellUseDesk& CellUse() { return *cell_use_; }
+  const CellUseDesk& CellUse() const { return *cell_use_; }
   BuildDesk& Builds() { return *builds_; }
   const BuildDesk& Builds() const { return *builds_; }
   AnimationDesk& Animation() { return *animation_; }
@@ -84,8 +81,9 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   bool HasLastCommand() const { return !last_command_.isEmpty(); }
   void RepeatLastCommand() { ProcessCommand(last_command_); }
 
-  void ToggleWindow(ChildWindowId id);
-  bool IsWindowShown(ChildWindowId id) const;
+  WindowDesk& Windows() { return *windows_; }
+  const WindowDesk& Windows() const { return *windows_; }
+  const frmBMPView& FullView() const { return *full_view_; }
 
   const app::ErrorLog& Log() const { return log_; }
 
@@ -101,20 +99,17 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   files::PictureSurroundings PictureSurroundings();
   void ShowFile(const files::CurrentFile& file) override;
   void PictureReplaced() override;
-  void AddChild(ChildWindowId id, QWidget* form, QPoint place, bool is_shown = true);
   void MakeChildren();
   void ConnectAnimation();
   void ConnectBuilds();
   void ShowBuilding();
-  void BuildEnded(c64out::BuildOutcome outcome);
   void StopTools();
-  void GiveFocusToPicture();
-  bool IsInSideWindow(const QWidget* widget) const;
   void MakeChoiceMenus();
   void MakeRecentMenu();
   void ConnectDesk();
   void ShowPaintingState();
   void RefreshMenus();
+  void ShowZoom();
   void Timer1_Timer();
 
   ProgramSlot slot_;
@@ -127,7 +122,6 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   PromptLines prompt_;
   QString last_command_;
 
-  QMdiArea* area_;
   frmBMPView* full_view_;
   frmColors* colors_;
   frmCharData* char_data_;
@@ -135,19 +129,20 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   frmCommand* command_;
   frmPens* pens_;
   PaintToolBar* Toolbar1_;
-  std::array<ChildPlace, kChildWindows> children_{};
   MainMenu menu_;
   ChoiceMenu* background_menu_ = nullptr;
   ChoiceMenu* grid_menu_ = nullptr;
   ChoiceMenu* border_menu_ = nullptr;
-  StatusPanels panels_;
-  QLabel* building_;  // to be seen while a build is at work
+  ChoiceMenu* scale_menu_ = nullptr;
+  StatusPanels* panels_;
   QTimer* Timer1_;
 
+  std::unique_ptr<WindowDesk> windows_;
   std::unique_ptr<FramePorts> ports_;
   std::unique_ptr<PictureWindows> views_;
   files::PictureFiles files_;
   std::unique_ptr<PaintingDesk> desk_;
+  std::unique_ptr<CellUseDesk> cell_use_;
   std::unique_ptr<AnimationDesk> animation_;
   std::unique_ptr<BuildDesk> builds_;
   std::unique_ptr<RecoveryDesk> recovery_;

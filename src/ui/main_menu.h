@@ -17,6 +17,9 @@ class MainMenu {
   // Asks every row whether it can, whether it is checked, and what it says.
   void Refresh() const;
 
+  // A letter was let go in the main window. True when it is an entry's key.
+  bool HandleKeyUp(int key, Qt::KeyboardModifiers modifiers) const;
+
   QMenu* Menu(const QString& name) const { return menus_.value(name); }
 
  private:

@@ -5,7 +5,10 @@
 #include "c64out/compo_pic_choice.h"
 #include "ui/desks/animation_desk.h"
 #include "ui/desks/build_desk.h"
+#include "ui/desks/cell_use_desk.h"
 #include "ui/desks/painting_desk.h"
+#include "ui/desks/window_desk.h"
+#include "ui/help_pages.h"
 #include "ui/main_frame.h"
 
 namespace kelvo::ui {
@@ -16,7 +19,9 @@ constexpr MenuRow kMenus[] = {
     {kRecentMenu, "mnuFile", "Load r&ecent...", "Open this picture"},
     {"mnuLimPaint", nullptr, "&Paint", ""},
     {kBackgroundMenu, "mnuLimPaint", "&Background color", "Show this color wherever the picture's background shows"},
+    {kToolsMenu, nullptr, "&Tools", ""},
     {"mnuViewMenu", nullptr, "&Show", ""},
+    {kFullViewMenu, "mnuViewMenu", "Full &view scale", "How large the full view shows the picture"},
     {kGridMenu, "mnuViewMenu", "Zoom &grid", "Draw the grid of the zoom window in this color"},
     {kBorderMenu, "mnuViewMenu", "Zoom &border", "How the border of the zoom window looks"},
     {"mnuFunctions", nullptr, "F&unctions", ""},
@@ -30,8 +35,8 @@ template <ChildWindowId id>
 constexpr MenuEntry ShowEntry(const char* name, const char* text, const char* tip) {
   return {name,    "mnuViewMenu",
           text,    "",
-          tip,     [](MainFrame& f) { f.ToggleWindow(id); },
-          nullptr, [](const MainFrame& f) { return f.IsWindowShown(id); }};
+          tip,     [](MainFrame& f) { f.Windows().Toggle(id); },
+          nullptr, [](const MainFrame& f) { return f.Windows().IsShown(id); }};
 }
 
 template <int magnification>
@@ -89,8 +94,12 @@ constexpr MenuEntry kEntries[] = {
     {"mnuUndo", "mnuLimPaint", "&Undo", "Ctrl+Z", "Take back the last action", [](MainFrame& f) { f.Desk().Undo(); },
      [](const MainFrame& f) { return f.Desk().Painting().UndoData().CanUndo(); }, nullptr, "undo", nullptr,
      [](const MainFrame& f) { return "&" + f.Desk().Painting().UndoData().Caption(); }},
+    {"mnuSwapPens", "mnuLimPaint", "&Swap pens", "X", "Each button takes the other's color",
+     [](MainFrame& f) { f.Desk().SwapPens(); }},
     Separator("mnuLimPaint"),
     Submenu(kBackgroundMenu, "mnuLimPaint"),
+    {"mnuWhatIf", "mnuLimPaint", "&What if the background were...", "",
+     "How many cells would gain room or clash with each background color", [](MainFrame& f) { f.ShowWhatIf(); }},
     {"mnuRepeatCommand", "mnuLimPaint", "&Repeat last command", "F3", "Give the last command of the prompt again",
      [](MainFrame& f) { f.RepeatLastCommand(); }, [](const MainFrame& f) { return f.HasLastCommand(); }},
     {"mnuPreferences", "mnuLimPaint", "&Preferences...", "", "How painting treats full cells",
@@ -105,8 +114,18 @@ constexpr MenuEntry kEntries[] = {
     Separator("mnuViewMenu"),
     ZoomEntry<4>("mnuZoom_4X", "Zoom &4:1", "Ctrl+4", "Show pixels four times as large"),
     ZoomEntry<8>("mnuZoom_8X", "Zoom &8:1", "Ctrl+8", "Show pixels eight times as large"),
+    {"mnuZoomLarge", "mnuViewMenu", "&Enlarge zoom window", "Ctrl+E", "Give the zoom window all room beside the others",
+     [](MainFrame& f) { f.Windows().ToggleLargeZoom(); }, nullptr,
+     [](const MainFrame& f) { return f.Windows().IsZoomLarge(); }},
+    {"mnuCellUse", "mnuViewMenu", "Ce&ll use", "", "Tint cells by how many colors of their own are free",
+     [](MainFrame& f) { f.CellUse().Toggle(); }, nullptr, [](const MainFrame& f) { return f.CellUse().IsShown(); }},
     Submenu(kGridMenu, "mnuViewMenu"),
     Submenu(kBorderMenu, "mnuViewMenu"),
+    Separator("mnuViewMenu"),
+    Submenu(kFullViewMenu, "mnuViewMenu"),
+    {"mnuFullViewPal", "mnuViewMenu", "Pixels as on a PAL &screen", "",
+     "Show the full view in the proportions of a PAL screen", [](MainFrame& f) { f.Windows().TogglePal(); }, nullptr,
+     [](const MainFrame& f) { return f.FullView().IsPal(); }},
     Separator("mnuViewMenu"),
     {"mnuFullscreenView", "mnuViewMenu", "F&ullscreen view", "F11", "The picture alone, over the whole screen",
      [](MainFrame& f) { f.mnuFullscreenView_Click(); }, nullptr, nullptr, "fullscreen"},
@@ -150,6 +169,9 @@ constexpr MenuEntry kEntries[] = {
     {"mnuCodenetSettings", "mnuCodenet", "&Codenet settings...", "",
      "Where the C64 is, and the program's name on its disk", [](MainFrame& f) { f.Builds().ShowCodenetSettings(); }},
 
+    {"mnuGuide", "mnuHelp", "&Guide", "F1", "A tour of the program", [](MainFrame& f) { ShowGuide(f); }},
+    {"mnuKeys", "mnuHelp", "&Keys", "", "All keys on one page", [](MainFrame& f) { ShowKeys(f); }},
+    Separator("mnuHelp"),
     {"mnuAbout", "mnuHelp", "&About Kelvo", "", "What this program is", [](MainFrame& f) { f.ShowAbout(); }},
 };
 

@@ -42,6 +42,28 @@ TEST_F(PictureFilesTest, OpeningByDialogTakesTheChosenTypeAndTellsEveryone) {
   EXPECT_FALSE(document.HasUnsavedWork());
 }
 
+TEST_F(PictureFilesTest, AFileOfAnotherFormatThanTheFilterIsReadAsWhatItIs) {
+  using Row = std::tuple<FormatType, const char*, std::size_t, FormatType>;
+  for (const auto& [filter, name, size, as] :
+       {Row{kOwnType, "a.koa", 10003, kKoaType}, Row{kOwnType, "a.prg", 10003, kKoaType},
+        Row{kKlaType, "a.kvp", 10057, kOwnType}, Row{kKoaType, "a.vid", 10050, kVidcom64Type},
+        Row{kVidcom64Type, "a.kvp", 10050, kVidcom64Type}}) {
+    SCOPED_TRACE(name);
+    const app::Bytes bytes = support::CountingBytes(size);
+    support::WriteFile(folder / name, bytes);
+    dialogs.open = ChosenFile{folder / name, filter};
+    const auto expected = Decode(FormatOf(as), bytes, document.picture.BackgroundColour);
+    EXPECT_TRUE(files.Open());
+    EXPECT_EQ(document.picture, expected);
+  }
+  EXPECT_EQ(dialogs.filters, (std::vector<FormatType>{1, 1, 1, 4, 3}));  // the one before is remembered
+  support::WriteFile(folder / "short.koa", support::CountingBytes(9000));
+  dialogs.open = ChosenFile{folder / "short.koa", kOwnType};
+  EXPECT_FALSE(files.Open());
+  EXPECT_EQ(messages.shown, Lines{"Felaktig filstorlek."});
+  EXPECT_EQ(messages.more, "A file of this type has 10050 or 10057 bytes, this one has 9000.");
+}
+
 TEST_F(PictureFilesTest, AFailedLoadChangesNothing) {
   files.OpenPicture(WriteKoala("good.koa"));
   const Document before = document;
@@ -177,7 +199,7 @@ TEST_F(PictureFilesTest, ProgramsOnOneFolderBackUpTheirOwnPictures) {
   const app::ProgramFolders second_folders(folders.Root(), 2);
   Document second;
   PictureFiles second_files(
-      second, {{second_folders, settings, clock, log, messages, prompt}, pointer, dialogs, display, views});
+      second, {{second_folders, settings, clock, log, messages, prompt}, pointer, dialogs, display, views, status});
   support::WriteFile(folder / "b.kvp", app::Bytes(10050, 9));
   second_files.OpenPicture(Text("b.kvp"));
   EXPECT_TRUE(files.Save());
