@@ -61,7 +61,7 @@ bool History::Record(std::string_view caption) {
 void History::Open(std::string_view caption) {
   opened_.push_back({document_.file, {}});
   AddStep(caption, opened_.size() - 1);
-  if (!document_.HasUnsavedWork()) KeepCurrent();
+  KeepCurrent();
 }
 
 void History::AddStep(std::string_view caption, std::size_t opened) {
@@ -90,7 +90,9 @@ void History::Amend() {
 void History::KeepCurrent() {
   Opened& opened = opened_[FactsOf(Current()).opened];
   Kept& kept = opened.file.HasFile() ? kept_[opened.file.CurrentFilePath] : opened.without_file;
-  kept = {Current(), document_.on_disk};
+  kept.step = document_.HasUnsavedWork() ? kNoStep : Current();
+  kept.picture = Difference({}, StateOf(document_.kept));
+  kept.on_disk = document_.on_disk;
 }
 
 const History::Kept& History::KeptOf(StepId step) const {
@@ -104,12 +106,13 @@ model::PictureImage History::PictureAt(StepId step) {
   return PictureOf(looking_.Shown());
 }
 
-files::Document History::DocumentAt(StepId step) {
-  const Kept& kept = KeptOf(step);
-  return {.picture = PictureAt(step),
-          .kept = kept.step == kNoStep ? model::PictureImage() : PictureAt(kept.step),
-          .file = FileOf(step),
-          .on_disk = kept.on_disk};
+files::Document History::DocumentAt(StepId step) const {
+  const Kept& known = KeptOf(step);
+  Walker there = current_;
+  there.GoTo(step);
+  State kept{};
+  Apply(known.picture, kept);
+  return {.picture = PictureOf(there.Shown()), .kept = PictureOf(kept), .file = FileOf(step), .on_disk = known.on_disk};
 }
 
 void History::GoTo(StepId step) {
@@ -135,7 +138,6 @@ app::Bytes History::TakeNews() {
 
 void History::Restore(std::span<const std::uint8_t> recorded) {
   Clear();
-  LookAfresh();
   ByteReader reader(recorded);
   std::size_t whole = 0;
   try {
@@ -149,6 +151,7 @@ void History::Restore(std::span<const std::uint8_t> recorded) {
     // what was being written when the program ended is there in part
   }
   if (facts_.empty()) return Begin();
+  LookAfresh();
   GoTo(Count() - 1);
   news_.assign(recorded.begin(), recorded.begin() + static_cast<std::ptrdiff_t>(whole));
 }
@@ -177,7 +180,9 @@ std::size_t History::BytesUsed() const {
                       opened_.capacity() * sizeof(Opened) + news_.capacity();
   for (const Facts& facts : facts_) bytes += facts.caption.capacity();
   for (const Opened& opened : opened_) bytes += opened.file.CurrentFileName.capacity() + PathBytes(opened.file);
-  for (const auto& [path, kept] : kept_) bytes += sizeof kept + kept.on_disk.capacity();
+  for (const auto& [path, kept] : kept_) {
+    bytes += sizeof kept + path.native().capacity() + kept.picture.capacity() + kept.on_disk.capacity();
+  }
   return bytes;
 }
 

@@ -38,10 +38,11 @@ class History {
   const files::CurrentFile& FileOf(StepId step) const { return OpenedAt(step).file; }
   // Whether the step is what its file holds.
   bool IsSaved(StepId step) const { return !FileOf(step).CurrentFilePath.empty() && KeptOf(step).step == step; }
+  // Quick for one that is near the last that was asked for.
   model::PictureImage PictureAt(StepId step);
 
   // The document as it was at `step`, with what is known now of its file.
-  files::Document DocumentAt(StepId step);
+  files::Document DocumentAt(StepId step) const;
   // The document is as at `step`: the next action goes on from there.
   void GoTo(StepId step);
 
@@ -59,10 +60,11 @@ class History {
     std::string caption;
     std::size_t opened;
   };
-  // What a file holds: the step that shows it, and its bytes.
+  // What a file holds: the step that shows it, where one does, and its bytes. The picture is what differs from a blank
+  // one.
   struct Kept {
     StepId step = kNoStep;
-    app::Bytes on_disk;
+    app::Bytes picture, on_disk;
   };
   struct Opened {
     files::CurrentFile file;

@@ -28,7 +28,6 @@ struct Session {
     hand.Act(history);
     shown.resize(static_cast<std::size_t>(history.Count()), 0);
     shown[static_cast<std::size_t>(history.Current())] = HashOf(hand.document.picture);
-    before = history.Current();
   }
   void GoTo(StepId step) {
     hand.document = history.DocumentAt(step);
@@ -39,7 +38,6 @@ struct Session {
   RandomSession hand;
   History history{hand.document};
   std::vector<std::size_t> shown{HashOf({})};
-  StepId before = 0;
 };
 
 void FillUp(Session& session, int steps) {

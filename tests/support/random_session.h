@@ -65,11 +65,13 @@ class RandomSession {
   }
 
   void Save(history::History& history) {
-    if (Below(4) == 0) document.file = files::SetFileParameters("p" + std::to_string(Below(20)));
+    if (!document.file.HasFile() || Below(4) == 0) {
+      document.file = files::SetFileParameters("p" + std::to_string(Below(20)));
+    }
     files::Sign(document.picture);
     document.kept = document.picture;
     document.on_disk = files::Encode(document.picture);
-    if (document.file.HasFile()) history.Saved();
+    history.Saved();
   }
 
   std::mt19937 random_;
