@@ -7,7 +7,7 @@
 #include "app/whole_file.h"
 #include "files/backups.h"
 #include "files/load_picture.h"
-#include "files/picture_format.h"
+#include "files/picture_content.h"
 #include "files/recovery_copy.h"
 
 namespace kelvo::files {
@@ -68,7 +68,7 @@ std::optional<Document> PictureFiles::Read(const fs::path& path, FormatType type
       with_.log, "MDIFormMenu_LoadPicture",
       [&] {
         app::Bytes bytes = ReadPictureFile(path, type);
-        const auto picture = Decode(FormatOf(type), bytes, document_.picture.BackgroundColour);
+        const auto picture = DecodeAny(type, bytes, document_.picture.BackgroundColour, ReadingBy(with_.settings));
         read = {.picture = picture, .kept = picture, .file = SetFileParameters(path), .on_disk = std::move(bytes)};
       },
       [&](const std::exception& error) {

@@ -26,7 +26,7 @@ RecoveryFiles::RecoveryFiles(const std::filesystem::path& folder, int slot)
 std::optional<Document> RecoveryFiles::Read() const {
   try {
     Document document;
-    document.picture = LoadPicture(picture, kOwnType, {});
+    document.picture = LoadPicture(picture, kOwnType, {}, Reading::kExact);
     const app::Bytes path = app::ReadWholeFile(name, kLongestPath);
     if (!path.empty()) document.file = SetFileParameters(app::PathFromText(std::string(path.begin(), path.end())));
     return document;

@@ -40,9 +40,9 @@ std::size_t EndOfRun(const State& bits, std::size_t at) {
 State StateOf(const PictureImage& picture) {
   State state;
   auto* at = state.begin();
-  for (const std::span<const std::uint8_t> part : {std::span<const std::uint8_t>(picture.Bitmap),
-                                                   std::span<const std::uint8_t>(picture.ScreenMemory),
-                                                   std::span<const std::uint8_t>(picture.ColourMemory)}) {
+  for (const std::span<const std::uint8_t> part :
+       {std::span<const std::uint8_t>(picture.Bitmap), std::span<const std::uint8_t>(picture.ScreenMemory),
+        std::span<const std::uint8_t>(picture.ColourMemory)}) {
     at = std::copy(part.begin(), part.end(), at);
   }
   *at++ = picture.BackgroundColour.Byte();

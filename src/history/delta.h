@@ -11,10 +11,9 @@
 namespace kelvo::history {
 
 // Every byte of a picture in a row, the spare ones included.
-inline constexpr std::size_t kStateBytes =
-    std::tuple_size_v<decltype(model::PictureImage::Bitmap)> +
-    std::tuple_size_v<decltype(model::PictureImage::ScreenMemory)> +
-    std::tuple_size_v<decltype(model::PictureImage::ColourMemory)> + 3;
+inline constexpr std::size_t kStateBytes = std::tuple_size_v<decltype(model::PictureImage::Bitmap)> +
+                                           std::tuple_size_v<decltype(model::PictureImage::ScreenMemory)> +
+                                           std::tuple_size_v<decltype(model::PictureImage::ColourMemory)> + 3;
 using State = std::array<std::uint8_t, kStateBytes>;
 
 State StateOf(const model::PictureImage& picture);

@@ -47,7 +47,8 @@ class History {
   void GoTo(StepId step);
 
   // What was recorded since the last call, for a file that outlives a crash. Such bytes one after the other bring every
-  // step back, as far as they are whole; what is saved of them is not known then. The last step becomes the current one.
+  // step back, as far as they are whole; what is saved of them is not known then. The last step becomes the current
+  // one.
   app::Bytes TakeNews();
   void Restore(std::span<const std::uint8_t> recorded);
 

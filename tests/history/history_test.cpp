@@ -88,7 +88,8 @@ TEST(History, ComesBackFromWhatWasRecordedAsFarAsThatIsWhole) {
   for (int i = 0; i < 200; ++i) {
     app::Bytes damaged = recorded;
     damaged.resize(static_cast<std::size_t>(other.Below(static_cast<int>(recorded.size()))));
-    if (i % 2 == 1 && !damaged.empty()) damaged[static_cast<std::size_t>(other.Below(static_cast<int>(damaged.size())))] ^= 1;
+    if (i % 2 == 1 && !damaged.empty())
+      damaged[static_cast<std::size_t>(other.Below(static_cast<int>(damaged.size())))] ^= 1;
     restored.Restore(damaged);
     restored.GoTo(restored.Count() - 1);
     restored.GoTo(0);
@@ -120,8 +121,11 @@ TEST(History, KnowsWhichStepItsFileHolds) {
   document = {.picture = support::RandomPicture(1), .file = files::SetFileParameters("b")};
   history.Open("Load b");
   const StepId opened = history.Current();
-  for (const auto& [step, name, is_saved] : {std::tuple{first, "a", false}, {second, "a", true}, {third, "a", false},
-                                             {opened, "b", true}, {0, "a", false}}) {
+  for (const auto& [step, name, is_saved] : {std::tuple{first, "a", false},
+                                             {second, "a", true},
+                                             {third, "a", false},
+                                             {opened, "b", true},
+                                             {0, "a", false}}) {
     go(step);
     EXPECT_EQ(document.file.CurrentFileName, name) << step;
     EXPECT_EQ(!document.HasUnsavedWork(), is_saved) << step;
