@@ -1,5 +1,6 @@
 #include "editing/undo_step.h"
 
+#include <cctype>
 #include <utility>
 
 namespace kelvo::editing {
@@ -7,6 +8,7 @@ namespace kelvo::editing {
 void UndoStep::SaveUndoData(std::string_view caption) {
   earlier_ = std::move(last_);
   last_ = Step{picture_, std::string(caption)};
+  views_.ActionBegins(ActionName());
 }
 
 void UndoStep::Withdraw() {
@@ -18,8 +20,16 @@ void UndoStep::Forget() {
   earlier_.reset();
 }
 
+std::string UndoStep::ActionName() const {
+  constexpr std::string_view kUndo = "Undo ";
+  std::string name = last_ ? last_->caption.substr(kUndo.size()) : std::string();
+  if (!name.empty()) name[0] = static_cast<char>(std::toupper(static_cast<unsigned char>(name[0])));
+  return name;
+}
+
 void UndoStep::Undo() {
   if (!CanUndo()) return;
+  views_.ActionBegins(last_->caption);
   picture_.Bitmap = last_->before.Bitmap;
   picture_.ColourMemory = last_->before.ColourMemory;
   picture_.ScreenMemory = last_->before.ScreenMemory;

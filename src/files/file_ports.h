@@ -31,6 +31,8 @@ class FileDisplay {
   virtual void ShowFile(const CurrentFile& file) = 0;
   // Another picture took the place of the one in memory: what belonged to that one (its undo step) is void.
   virtual void PictureReplaced() = 0;
+  // The picture was saved: its file holds just what is in memory.
+  virtual void PictureSaved() = 0;
 };
 
 }  // namespace kelvo::files

@@ -54,7 +54,9 @@ bool PictureFiles::OpenAs(const fs::path& path, FormatType type, OnFailure on_fa
   const app::WaitScope wait(with_.pointer);
   auto read = Read(path, type, on_failure);
   if (!read || !MayThrowAwayPicture()) return false;
-  TakeOver(std::move(*read));
+  const bool is_reload = read->file.CurrentFilePath == document_.file.CurrentFilePath;
+  const std::string caption = (is_reload ? "Reload " : "Load ") + read->file.CurrentFileName;
+  TakeOver(std::move(*read), caption);
   with_.prompt.CommandPromptList("LOAD " + document_.file.CurrentFileName);
   app::Guarded(with_.log, "MDIFormMenu_OpenPicture",
                [&] { app::WriteOwnFile(with_.folders.Snapshot(), document_.on_disk); });
@@ -84,7 +86,12 @@ void PictureFiles::TellFailedLoad(const fs::path& path, const std::string& why, 
   if (on_failure == OnFailure::kMessageBox) with_.messages.Warn(why);
 }
 
-void PictureFiles::TakeOver(Document document) {
+void PictureFiles::TakeOver(Document document, const std::string& caption) {
+  with_.views.ActionBegins(caption);
+  Replace(std::move(document));
+}
+
+void PictureFiles::Replace(Document document) {
   document_ = std::move(document);
   with_.display.PictureReplaced();
   with_.display.ShowFile(document_.file);
@@ -151,6 +158,7 @@ bool PictureFiles::Write(const fs::path& path) {
         with_.messages.Warn("The picture was not saved.\n" + std::string(error.what()));
       });
   if (!saved) return false;
+  with_.display.PictureSaved();
   with_.display.ShowFile(document_.file);
   if (!trouble.empty()) {
     with_.log.Write("MDIFormMenu_SaveBitmap: " + trouble);
@@ -162,7 +170,7 @@ bool PictureFiles::Write(const fs::path& path) {
 void PictureFiles::New() {
   if (!MayThrowAwayPicture()) return;
   const model::PictureImage empty{.BackgroundColour = document_.picture.BackgroundColour};
-  TakeOver({.picture = empty, .kept = empty, .file = {}});
+  TakeOver({.picture = empty, .kept = empty, .file = {}}, "New");
   with_.prompt.CommandPromptList("NEW");
 }
 
@@ -174,7 +182,18 @@ bool PictureFiles::Recover(const Document& rescued) {
       recovered.on_disk = app::ReadWholeFile(recovered.file.CurrentFilePath, app::kMostBytesToCopy);
     });
   }
-  TakeOver(std::move(recovered));
+  const std::string caption = "Recover " + StatusName(recovered.file);
+  TakeOver(std::move(recovered), caption);
+  return true;
+}
+
+bool PictureFiles::Return(const Document& state) {
+  const bool leaves_file = state.file.CurrentFilePath != document_.file.CurrentFilePath;
+  if (leaves_file && document_.HasUnsavedWork() && rescued_ != document_.picture) {
+    if (!MayThrowAwayPicture()) return false;
+    rescued_ = document_.picture;
+  }
+  Replace(state);
   return true;
 }
 
