@@ -22,6 +22,9 @@ namespace kelvo::ui {
 class AnimationDesk;
 class BuildDesk;
 class ChoiceMenu;
+class ExportDesk;
+class HistoryDesk;
+class PaletteDesk;
 class PaintingDesk;
 class PaintToolBar;
 class PictureWindows;
@@ -32,12 +35,13 @@ class frmCharData;
 class frmCodenetGUI;
 class frmColors;
 class frmCommand;
+class frmHistory;
 class frmPens;
 class frmZoom;
 struct FramePorts;
 
-enum class ChildWindowId { kFullView, kColors, kCharData, kPrompt, kZoom, kPens };
-inline constexpr std::size_t kChildWindows = 6;
+enum class ChildWindowId { kFullView, kColors, kCharData, kPrompt, kZoom, kPens, kHistory };
+inline constexpr std::size_t kChildWindows = 7;
 
 class MainFrame : public QMainWindow, private files::FileDisplay {
   Q_OBJECT
@@ -67,6 +71,12 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   void SetMagnification(int magnification);
   void SetBackgroundColour(int number);  // 0..15
   void SetGridColor(int number);         // 0..15
+
+  HistoryDesk& History() { return *history_; }
+  const HistoryDesk& History() const { return *history_; }
+  ExportDesk& Exports() { return *exports_; }
+  void ToggleSetting(const app::Setting& setting);
+  bool IsOn(const app::Setting& setting) const;
 
   void ShowPreferences();
   void ShowAbout();
@@ -101,10 +111,14 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   files::PictureSurroundings PictureSurroundings();
   void ShowFile(const files::CurrentFile& file) override;
   void PictureReplaced() override;
+  void PictureSaved() override;
   void AddChild(ChildWindowId id, QWidget* form, QPoint place, bool is_shown = true);
   void MakeChildren();
   void ConnectAnimation();
   void ConnectBuilds();
+  void ConnectHistory();
+  void ConnectPalette();
+  void ShowStepKeys();
   void ShowBuilding();
   void BuildEnded(c64out::BuildOutcome outcome);
   void StopTools();
@@ -134,6 +148,7 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   frmZoom* zoom_;
   frmCommand* command_;
   frmPens* pens_;
+  frmHistory* steps_ = nullptr;
   PaintToolBar* Toolbar1_;
   std::array<ChildPlace, kChildWindows> children_{};
   MainMenu menu_;
@@ -151,6 +166,9 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   std::unique_ptr<AnimationDesk> animation_;
   std::unique_ptr<BuildDesk> builds_;
   std::unique_ptr<RecoveryDesk> recovery_;
+  std::unique_ptr<HistoryDesk> history_;
+  std::unique_ptr<PaletteDesk> palette_;
+  std::unique_ptr<ExportDesk> exports_;
   frmBMP2SpriteMain* sprite_converter_ = nullptr;  // made when it is first asked for
   frmCodenetGUI* codenet_gui_ = nullptr;           // likewise
 };

@@ -41,6 +41,10 @@ MainMenu::MainMenu(MainFrame& frame) : frame_(frame) {
   }
 }
 
+void MainMenu::SetKeys(const QString& name, const QString& keys) {
+  actions_.value(name)->setShortcuts(QKeySequence::listFromString(keys));
+}
+
 void MainMenu::Refresh() const {
   for (const MenuEntry& entry : MenuEntries()) {
     QAction* action = actions_.value(entry.name);

@@ -17,6 +17,9 @@ class MainMenu {
   // Asks every row whether it can, whether it is checked, and what it says.
   void Refresh() const;
 
+  // The keys of an entry, with "; " between them; none for an empty text.
+  void SetKeys(const QString& name, const QString& keys);
+
   QMenu* Menu(const QString& name) const { return menus_.value(name); }
 
  private:

@@ -13,6 +13,7 @@ inline constexpr const char* kRecentMenu = "mnuRecent";
 inline constexpr const char* kBackgroundMenu = "mnuBG";
 inline constexpr const char* kGridMenu = "mnuGrid";
 inline constexpr const char* kBorderMenu = "mnuZB";
+inline constexpr const char* kPaletteMenu = "mnuPalette";
 
 struct MenuRow {
   const char* name;    // objectName

@@ -12,8 +12,8 @@
 
 namespace kelvo::ui {
 
-// The one place where all changes of the picture come by: what changed becomes a step when its action is over, so when no
-// stroke is under way, or when the next one begins.
+// The one place where all changes of the picture come by: what changed becomes a step when its action is over, so when
+// no stroke is under way, or when the next one begins.
 class HistoryDesk : public QObject, public ChangeWatcher {
   Q_OBJECT
 

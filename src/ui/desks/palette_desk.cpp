@@ -38,8 +38,7 @@ void PaletteDesk::Choose(int index) {
 }
 
 void PaletteDesk::ChooseFile() {
-  const QString file =
-      QFileDialog::getOpenFileName(window_, "Palette", {}, "VICE palettes (*.vpl);;All files (*)");
+  const QString file = QFileDialog::getOpenFileName(window_, "Palette", {}, "VICE palettes (*.vpl);;All files (*)");
   if (!file.isEmpty() && Show(FromQt(file))) with_.settings.Write(files::kPaletteSetting, setting_);
   CheckShown();
 }

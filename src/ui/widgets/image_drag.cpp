@@ -5,6 +5,7 @@
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QPixmap>
+#include <QWidget>
 #include <utility>
 
 namespace kelvo::ui {

@@ -29,8 +29,7 @@ ExportDialog::ExportDialog(QWidget* parent)
   setObjectName("frmExport");
   setWindowTitle("Export");
   for (const files::ExportFormat& format : files::kExportFormats) {
-    cboFormat_->addItem(
-        QString("%1 (*.%2)").arg(ToQt(files::FormatOf(format.type).caption)).arg(ToQt(format.ending)));
+    cboFormat_->addItem(QString("%1 (*.%2)").arg(ToQt(files::FormatOf(format.type).caption)).arg(ToQt(format.ending)));
   }
   cboFormat_->addItem("PNG image (*.png)");
   cboSize_->addItems({"160 × 200, a pixel for a pixel", "320 × 200, as wide as on a C64", "384 × 272, with border"});
@@ -65,8 +64,8 @@ ExportDialog::ExportDialog(QWidget* parent)
 ExportChoice ExportDialog::Choice() const {
   const auto index = static_cast<std::size_t>(cboFormat_->currentIndex());
   const bool is_png = index == files::kExportFormats.size();
-  return {is_png ? nullptr : &files::kExportFormats.at(index),
-          static_cast<images::ImageSize>(cboSize_->currentIndex()), scale_->value()};
+  return {is_png ? nullptr : &files::kExportFormats.at(index), static_cast<images::ImageSize>(cboSize_->currentIndex()),
+          scale_->value()};
 }
 
 void ExportDialog::ShowChoice() {

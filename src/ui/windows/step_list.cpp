@@ -46,8 +46,7 @@ QPixmap StepList::PictureOf(history::StepId step) const {
   model::DrawPicture(steps_.PictureAt(step), surface, none);
   const QImage image(reinterpret_cast<const uchar*>(surface.Row(0)), surface.Width(), surface.Height(),
                      QImage::Format_RGB32);
-  const auto small =
-      QPixmap::fromImage(image.scaled(kPictureSize, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+  const auto small = QPixmap::fromImage(image.scaled(kPictureSize, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
   pictures_.insert(step, new QPixmap(small));
   return small;
 }
