@@ -4,11 +4,22 @@
 #include <utility>
 
 namespace kelvo::editing {
+namespace {
+
+// "Draw" for "Undo draw".
+std::string NameOf(std::string_view caption) {
+  constexpr std::string_view kUndo = "Undo ";
+  std::string name(caption.substr(kUndo.size()));
+  name[0] = static_cast<char>(std::toupper(static_cast<unsigned char>(name[0])));
+  return name;
+}
+
+}  // namespace
 
 void UndoStep::SaveUndoData(std::string_view caption) {
+  views_.ActionBegins(NameOf(caption));
   earlier_ = std::move(last_);
   last_ = Step{picture_, std::string(caption)};
-  views_.ActionBegins(ActionName());
 }
 
 void UndoStep::Withdraw() {
@@ -21,10 +32,7 @@ void UndoStep::Forget() {
 }
 
 std::string UndoStep::ActionName() const {
-  constexpr std::string_view kUndo = "Undo ";
-  std::string name = last_ ? last_->caption.substr(kUndo.size()) : std::string();
-  if (!name.empty()) name[0] = static_cast<char>(std::toupper(static_cast<unsigned char>(name[0])));
-  return name;
+  return last_ ? NameOf(last_->caption) : std::string();
 }
 
 void UndoStep::Undo() {

@@ -247,6 +247,7 @@ void MainFrame::ConnectBuilds() {
 
 void MainFrame::ConnectHistory() {
   views_->TellToo(*history_);
+  connect(desk_.get(), &PaintingDesk::StateChanged, history_.get(), &HistoryDesk::Settle);
   connect(history_.get(), &HistoryDesk::StepsChanged, this, [this] {
     steps_->Refresh();
     menu_.Refresh();

@@ -75,7 +75,9 @@ TEST_F(ExportTest, PngImagesHoldThePictureBitForBit) {
         ASSERT_EQ(read.format(), QImage::Format_Indexed8);
         EXPECT_EQ(read.text(images::kPaletteKey), ToQt(palette.name));
         const auto colour = [&palette](int number) { return palette.colours.at(static_cast<std::size_t>(number)); };
-        if (size.at.x() > 0) EXPECT_EQ(read.pixel(0, 0), colour(Picture().BackgroundColour.Number()));
+        if (size.at.x() > 0) {
+          EXPECT_EQ(read.pixel(0, 0), colour(Picture().BackgroundColour.Number()));
+        }
         for (int y = 0; y < 200 * scale; ++y) {
           for (int x = 0; x < 160 * size.wide * scale; ++x) {
             const int expected = support::ColourAt(Picture(), x / scale / size.wide + 1, y / scale + 1);

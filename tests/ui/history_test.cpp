@@ -135,6 +135,8 @@ TEST_F(HistoryWindowTest, CtrlZStepsBackWhereThePreferenceSaysSo) {
     dialog.findChild<QAbstractButton*>("cmdStd")->click();
   });
   Action("mnuPreferences")->trigger();
+  frame->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(frame.get()));
   for (int press = 0; press < 2; ++press) QTest::keyClick(Box("frmZoom"), Qt::Key_Z, Qt::ControlModifier);
   EXPECT_EQ(Steps().Current(), 1);
   QTest::keyClick(Box("frmZoom"), Qt::Key_Y, Qt::ControlModifier);
@@ -155,7 +157,8 @@ TEST_F(HistoryWindowTest, StepsOutliveACrash) {
   Start();
   AnswerNext(QMessageBox::Yes);
   ASSERT_TRUE(frame->OfferRecovery());
-  EXPECT_EQ(Picture(), last);
+  EXPECT_EQ(Steps().PictureAt(4), last);
+  EXPECT_EQ(support::ColourAt(Picture(), 5, 3), 7);
   EXPECT_EQ(Rows().last(), "5  Recover p.koa\np.koa");
   EXPECT_EQ(Rows().size(), 6);
   Paint(Qt::Key_2, 6, 3);

@@ -35,7 +35,7 @@ void frmHistory::StartAfresh() {
 }
 
 QSize frmHistory::sizeHint() const {
-  return {330, 270};
+  return {330, 200};
 }
 
 void frmHistory::ShowCurrent() {
