@@ -24,17 +24,16 @@ constexpr int kSmallest = 100;  // how much a PNG is packed
 
 QImage ImageOf(const PictureImage& picture, const files::Palette& palette, ImageSize size, int scale) {
   const Frame& frame = kFrames.at(static_cast<std::size_t>(size));
-  QImage image(frame.width, frame.height, QImage::Format_Indexed8);
+  QImage image(frame.width * scale, frame.height * scale, QImage::Format_Indexed8);
   image.setColorTable({palette.colours.begin(), palette.colours.end()});
   image.fill(picture.BackgroundColour.Byte());
-  for (int y = 0; y < PictureImage::kHeight; ++y) {
-    uchar* row = image.scanLine(frame.top + y) + frame.left;
-    for (int x = 0; x < PictureImage::kWidth; ++x) {
-      const std::uint8_t colour = model::GetPixelData(picture, x + 1, y + 1).colour.Byte();
-      row = std::fill_n(row, frame.pixel_width, colour);
+  for (int line = 0; line < PictureImage::kHeight * scale; ++line) {
+    uchar* row = image.scanLine(frame.top * scale + line) + static_cast<std::ptrdiff_t>(frame.left) * scale;
+    for (int x = 1; x <= PictureImage::kWidth; ++x) {
+      row =
+          std::fill_n(row, frame.pixel_width * scale, model::GetPixelData(picture, x, line / scale + 1).colour.Byte());
     }
   }
-  if (scale > 1) image = image.scaled(image.size() * scale);
   image.setText(kPaletteKey, QString::fromStdString(palette.name));
   return image;
 }

@@ -73,6 +73,8 @@ TEST_F(ExportTest, PngImagesHoldThePictureBitForBit) {
         const QImage read = QImage::fromData(png.data(), static_cast<int>(png.size()), "png");
         ASSERT_EQ(read.size(), size.pixels * scale);
         ASSERT_EQ(read.format(), QImage::Format_Indexed8);
+        EXPECT_FALSE(read.hasAlphaChannel());
+        EXPECT_EQ(read.colorCount(), 16);
         EXPECT_EQ(read.text(images::kPaletteKey), ToQt(palette.name));
         const auto colour = [&palette](int number) { return palette.colours.at(static_cast<std::size_t>(number)); };
         if (size.at.x() > 0) {
