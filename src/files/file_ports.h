@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <optional>
+#include <string_view>
 
 #include "files/current_file.h"
 #include "files/picture_format.h"
@@ -33,6 +34,8 @@ class FileDisplay {
   virtual void PictureReplaced() = 0;
   // The picture was saved: its file holds just what is in memory.
   virtual void PictureSaved() = 0;
+  // A word for the status bar.
+  virtual void Say(std::string_view word) = 0;
 };
 
 }  // namespace kelvo::files

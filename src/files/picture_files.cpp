@@ -56,7 +56,9 @@ bool PictureFiles::OpenAs(const fs::path& path, FormatType type, OnFailure on_fa
   if (!read || !MayThrowAwayPicture()) return false;
   const bool is_reload = read->file.CurrentFilePath == document_.file.CurrentFilePath;
   const std::string caption = (is_reload ? "Reload " : "Load ") + read->file.CurrentFileName;
+  const model::C64Colour background_before = document_.picture.BackgroundColour;
   TakeOver(std::move(*read), caption);
+  TellOtherReading(type, document_.on_disk, background_before);
   with_.prompt.CommandPromptList("LOAD " + document_.file.CurrentFileName);
   app::Guarded(with_.log, "MDIFormMenu_OpenPicture",
                [&] { app::WriteOwnFile(with_.folders.Snapshot(), document_.on_disk); });
@@ -76,9 +78,18 @@ std::optional<Document> PictureFiles::Read(const fs::path& path, FormatType type
       [&](const std::exception& error) {
         const bool wrong_size = dynamic_cast<const FormatError*>(&error) != nullptr;
         if (wrong_size && !FormatOf(type).size_message.empty()) return with_.messages.Inform(error.what());
-        TellFailedLoad(path, error.what(), on_failure);
+        const bool is_unknown = dynamic_cast<const UnknownPicture*>(&error) != nullptr;
+        TellFailedLoad(path, (is_unknown ? NameOfPath(path) + ": " : "") + error.what(), on_failure);
       });
   return read;
+}
+
+void PictureFiles::TellOtherReading(FormatType type, const app::Bytes& bytes, model::C64Colour background_before) {
+  const PictureFormat& format = FormatOf(type);
+  if (!format.Takes(bytes.size()) || !ReadsDifferently(format, bytes, background_before)) return;
+  const bool is_exact = ReadingBy(with_.settings) == Reading::kExact;
+  with_.display.Say("This file looks otherwise " + std::string(is_exact ? "without" : "with") +
+                    " File > Read files exactly");
 }
 
 void PictureFiles::TellFailedLoad(const fs::path& path, const std::string& why, OnFailure on_failure) {

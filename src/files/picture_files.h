@@ -78,6 +78,8 @@ class PictureFiles {
  private:
   bool OpenAs(const std::filesystem::path& path, FormatType type, OnFailure on_failure);
   std::optional<Document> Read(const std::filesystem::path& path, FormatType type, OnFailure on_failure);
+  // Where the other of the two readings would give another picture.
+  void TellOtherReading(FormatType type, const app::Bytes& bytes, model::C64Colour background_before);
   void TellFailedLoad(const std::filesystem::path& path, const std::string& why, OnFailure on_failure);
   // The picture becomes that of `document`, by an action of that caption.
   void TakeOver(Document document, const std::string& caption);

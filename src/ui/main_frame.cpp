@@ -155,6 +155,10 @@ void MainFrame::PictureSaved() {
   history_->PictureSaved();
 }
 
+void MainFrame::Say(std::string_view word) {
+  statusBar()->showMessage(ToQt(word), kWordMilliseconds);
+}
+
 void MainFrame::MakeChildren() {
   steps_ = new frmHistory(history_->Steps(), this);
   AddChild(ChildWindowId::kFullView, full_view_, {668, 0});

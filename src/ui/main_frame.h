@@ -112,6 +112,7 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   void ShowFile(const files::CurrentFile& file) override;
   void PictureReplaced() override;
   void PictureSaved() override;
+  void Say(std::string_view word) override;
   void AddChild(ChildWindowId id, QWidget* form, QPoint place, bool is_shown = true);
   void MakeChildren();
   void ConnectAnimation();

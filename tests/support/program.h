@@ -108,7 +108,8 @@ class RecordingDisplay final : public files::FileDisplay {
   void ShowFile(const files::CurrentFile& file) override { title = files::WindowTitle(file); }
   void PictureReplaced() override { ++replaced; }
   void PictureSaved() override { ++saved; }
-  std::string title;
+  void Say(std::string_view word) override { said = word; }
+  std::string title, said;
   int replaced = 0, saved = 0;
 };
 
