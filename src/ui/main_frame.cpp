@@ -50,7 +50,7 @@ constexpr QSize kFirstSize(1016, 720);
 constexpr app::Setting kCtrlZStepsBack{"Preferences", "CtrlZStepsBack", "0"};
 // Those that Escape leaves.
 constexpr std::array kSideWindows{ChildWindowId::kColors, ChildWindowId::kPens, ChildWindowId::kCharData,
-                                  ChildWindowId::kPrompt};
+                                  ChildWindowId::kPrompt, ChildWindowId::kHistory};
 
 model::C64Colour ColourNumber(int number) {
   return model::C64Colour::FromNumber(number).value_or(model::C64Colour());

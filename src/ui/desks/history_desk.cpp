@@ -1,6 +1,7 @@
 #include "ui/desks/history_desk.h"
 
 #include <QScopedValueRollback>
+#include <system_error>
 #include <utility>
 
 #include "app/durable_file.h"

@@ -1,5 +1,6 @@
 #include "ui/windows/frm_history.h"
 
+#include <QKeyEvent>
 #include <QVBoxLayout>
 
 namespace kelvo::ui {
@@ -36,6 +37,11 @@ void frmHistory::StartAfresh() {
 
 QSize frmHistory::sizeHint() const {
   return {330, 200};
+}
+
+// The list's own keys do nothing to the picture; Escape leaves the list.
+void frmHistory::keyReleaseEvent(QKeyEvent* event) {
+  event->setAccepted(event->key() != Qt::Key_Escape);
 }
 
 void frmHistory::ShowCurrent() {

@@ -24,6 +24,9 @@ class frmHistory : public QWidget {
  signals:
   void StepChosen(int step);
 
+ protected:
+  void keyReleaseEvent(QKeyEvent* event) override;
+
  private:
   void ShowCurrent();
 
