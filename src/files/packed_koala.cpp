@@ -3,16 +3,16 @@
 namespace kelvo::files {
 namespace {
 
-constexpr std::size_t kPlainBytes = 10003, kLoadAddress = 2, kRunBytes = 3;
+constexpr std::size_t kPlainBytes = 10003, kAddressBytes = 2, kRunBytes = 3;
 constexpr std::uint8_t kRun = 0xFE;
 
 }  // namespace
 
 app::Bytes UnpackKoala(std::span<const std::uint8_t> bytes) {
-  if (bytes.size() < kLoadAddress) throw PackedError("it has no load address");
-  app::Bytes plain(bytes.begin(), bytes.begin() + kLoadAddress);
+  if (bytes.size() < kAddressBytes) throw PackedError("it has no load address");
+  app::Bytes plain(bytes.begin(), bytes.begin() + kAddressBytes);
   plain.reserve(kPlainBytes);
-  for (auto rest = bytes.subspan(kLoadAddress); !rest.empty();) {
+  for (auto rest = bytes.subspan(kAddressBytes); !rest.empty();) {
     const bool is_run = rest[0] == kRun;
     if (is_run && rest.size() < kRunBytes) throw PackedError("it ends in the middle of a run");
     const std::size_t count = is_run ? rest[2] : 1;

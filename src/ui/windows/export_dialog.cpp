@@ -10,7 +10,7 @@
 namespace kelvo::ui {
 namespace {
 
-constexpr int kWidth = 420;
+constexpr int kDialogWidth = 420;
 constexpr auto kPngLacks =
     "An image keeps what is seen; not with which of its colors a cell shows it, nor the colors that it does not show.";
 
@@ -56,7 +56,7 @@ ExportDialog::ExportDialog(QWidget* parent)
   column->addWidget(lblLacks_);
   column->addStretch();
   column->addWidget(buttons);
-  setMinimumWidth(kWidth);
+  setMinimumWidth(kDialogWidth);
   connect(cboFormat_, &QComboBox::currentIndexChanged, this, &ExportDialog::ShowChoice);
   ShowChoice();
 }

@@ -22,7 +22,6 @@ frmHistory::frmHistory(history::History& steps, QWidget* parent)
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(2, 2, 2, 2);
   column->addWidget(lstSteps_);
-  ShowCurrent();
 }
 
 void frmHistory::Refresh() {
@@ -44,7 +43,14 @@ void frmHistory::keyReleaseEvent(QKeyEvent* event) {
   event->setAccepted(event->key() != Qt::Key_Escape);
 }
 
+void frmHistory::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  ShowCurrent();
+}
+
+// While nobody sees it the list is not laid out: that takes the longer the more steps there are.
 void frmHistory::ShowCurrent() {
+  if (!isVisible()) return;
   const QModelIndex current = list_.index(steps_.Current());
   lstSteps_->setCurrentIndex(current);
   lstSteps_->scrollTo(current);

@@ -26,6 +26,7 @@ class frmHistory : public QWidget {
 
  protected:
   void keyReleaseEvent(QKeyEvent* event) override;
+  void showEvent(QShowEvent* event) override;
 
  private:
   void ShowCurrent();

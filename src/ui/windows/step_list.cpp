@@ -1,6 +1,7 @@
 #include "ui/windows/step_list.h"
 
 #include <QFont>
+#include <QPixmap>
 
 #include "model/full_view.h"
 #include "ui/ports/qt_text.h"
@@ -39,16 +40,18 @@ QString StepList::TextOf(history::StepId step) const {
   return steps_.IsSaved(step) ? text + ", saved" : text;
 }
 
-QPixmap StepList::PictureOf(history::StepId step) const {
-  if (const QPixmap* known = pictures_.object(step)) return *known;
+QIcon StepList::PictureOf(history::StepId step) const {
+  if (const QIcon* known = pictures_.object(step)) return *known;
   model::Surface surface(model::kFullViewWidth, model::kFullViewHeight);
   app::NoProgress none;
   model::DrawPicture(steps_.PictureAt(step), surface, none);
   const QImage image(reinterpret_cast<const uchar*>(surface.Row(0)), surface.Width(), surface.Height(),
                      QImage::Format_RGB32);
   const auto small = QPixmap::fromImage(image.scaled(kPictureSize, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
-  pictures_.insert(step, new QPixmap(small));
-  return small;
+  QIcon icon(small);
+  icon.addPixmap(small, QIcon::Selected);  // in its own colours there too
+  pictures_.insert(step, new QIcon(icon));
+  return icon;
 }
 
 void StepList::Refresh() {

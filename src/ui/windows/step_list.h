@@ -3,7 +3,7 @@
 
 #include <QAbstractListModel>
 #include <QCache>
-#include <QPixmap>
+#include <QIcon>
 
 #include "history/history.h"
 
@@ -29,11 +29,11 @@ class StepList : public QAbstractListModel {
 
  private:
   QString TextOf(history::StepId step) const;
-  QPixmap PictureOf(history::StepId step) const;
+  QIcon PictureOf(history::StepId step) const;
 
   history::History& steps_;
   int shown_ = 0;  // how many the views know of
-  mutable QCache<history::StepId, QPixmap> pictures_;
+  mutable QCache<history::StepId, QIcon> pictures_;
 };
 
 }  // namespace kelvo::ui
