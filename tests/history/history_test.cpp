@@ -133,9 +133,7 @@ TEST(History, KnowsWhichStepItsFileHolds) {
   }
   go(first);
   EXPECT_FALSE(history.Record("Nothing changed"));
-  const StepId branch = act(4);
-  EXPECT_EQ(history.Before(branch), first);
-  EXPECT_EQ(history.After(first), branch);
+  act(4);
   save("c");  // the picture goes on under another name, and its old steps with it
   go(third);
   EXPECT_EQ(document.file.CurrentFileName, "c");
