@@ -10,9 +10,9 @@ class PictureViews {
  public:
   virtual ~PictureViews() = default;
   virtual void ActionBegins([[maybe_unused]] std::string_view caption) {}  // "Draw", "Load castle.kvp"
-  virtual void PixelChanged(int x, int y) = 0;  // 1..160, 1..200
-  virtual void CellChanged(int cell) = 0;       // 1..1000
-  virtual void PictureChanged() = 0;            // loaded, cleared, undone, another background
+  virtual void PixelChanged(int x, int y) = 0;                             // 1..160, 1..200
+  virtual void CellChanged(int cell) = 0;                                  // 1..1000
+  virtual void PictureChanged() = 0;  // loaded, cleared, undone, another background
 };
 
 }  // namespace kelvo::model
