@@ -55,7 +55,7 @@ class HeardChanges final : public model::PictureViews {
 };
 
 // A person at work, by the bytes of an input. While the program works or asks something, events may come in between.
-class Session final : public app::Messages, public app::ProcessEvents {
+class Session final : public app::Messages, public app::StatusLine, public app::ProcessEvents {
  public:
   explicit Session(Input& input) : input_(input) { Fill(); }
 
@@ -71,6 +71,11 @@ class Session final : public app::Messages, public app::ProcessEvents {
   }
 
   void Inform(std::string_view) override { MeddleFromInside(); }
+  void InformWithMore(std::string_view, std::string_view) override {}
+  bool InformWithChoice(std::string_view text, std::string_view) override {
+    Inform(text);
+    return false;
+  }
   void Warn(std::string_view) override {}
   void Tell(std::string_view) override {}
   bool Ask(std::string_view) override { return false; }
@@ -237,7 +242,7 @@ class Session final : public app::Messages, public app::ProcessEvents {
   support::NoWaitPointer pointer_;
   support::FixedClock clock_;
   app::ErrorLog log_{"/dev/null", clock_};
-  editing::Painting painting_{picture_, {views_, settings_, *this, *this, pointer_, log_}};
+  editing::Painting painting_{picture_, {views_, settings_, *this, *this, *this, pointer_, log_}};
   std::optional<PictureImage> undo_;                              // what Undo has to bring back
   std::optional<std::optional<PictureImage>> undo_before_shape_;  // none: something of the shape is drawn
   int points_ = 0;                                                // of the shape under way that are set

@@ -178,9 +178,13 @@ BuildOutcome OutcomeOf(const BuildSurroundings& with, const std::function<void()
 
 BuildResult BuildCompoPic(const files::Document& document, const CompoPicChoice& choice,
                           const BuildSurroundings& with) {
-  std::optional<ToolCommand> emulator;
-  const BuildOutcome outcome = OutcomeOf(with, [&] { emulator = BuildOrCleanUp(BuildJob(document, choice, with)); });
-  return {outcome, emulator};
+  BuildResult result{};
+  result.outcome = OutcomeOf(with, [&] {
+    const BuildJob job(document, choice, with);
+    result.emulator = BuildOrCleanUp(job);
+    if (!choice.ViaCodenet) result.made = job.BesidePicture(choice.MakePrg ? ".prg" : ".d64");
+  });
+  return result;
 }
 
 BuildOutcome ShowInEmulator(const ToolCommand& emulator, const BuildSurroundings& with) {

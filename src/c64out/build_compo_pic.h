@@ -1,6 +1,7 @@
 // From the picture in memory to a program that shows it on a C64.
 #pragma once
 
+#include <filesystem>
 #include <optional>
 
 #include "c64out/build_job.h"
@@ -13,6 +14,7 @@ enum class BuildOutcome { kDone, kStopped, kFailed, kGivenUp };
 struct BuildResult {
   BuildOutcome outcome;
   std::optional<ToolCommand> emulator;  // what is to be shown next, once other builds may begin
+  std::filesystem::path made;           // the file beside the picture; empty where there is none
 };
 
 // Builds what `choice` asks for out of `document`, which has a file: a PRG or a D64 beside the picture, or a transfer

@@ -1,5 +1,6 @@
 #include "editing/circle_tool.h"
 
+#include "editing/preferences.h"
 #include "editing/shapes.h"
 
 namespace kelvo::editing {
@@ -28,14 +29,19 @@ bool CircleTool::Cancel() {
 
 bool CircleTool::Tick() {
   if (!radius_) return false;
-  const Points points = DrawCircle(*centre_, *radius_);
+  const Points points = Outline(*radius_);
   BeginAfresh();
   plotter_.Plot(points, pens_.left);
   return true;
 }
 
 Points CircleTool::Preview(model::PixelPoint pointer) const {
-  return centre_ ? DrawCircle(*centre_, radius_.value_or(CircleRadius(*centre_, pointer))) : Points();
+  return centre_ ? Outline(radius_.value_or(CircleRadius(*centre_, pointer))) : Points();
+}
+
+Points CircleTool::Outline(int radius) const {
+  return DrawCircle(*centre_, radius,
+                    IsOn(settings_, kCloseCircles) ? CircleOutline::kClosed : CircleOutline::kSampled);
 }
 
 }  // namespace kelvo::editing

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string_view>
 
+#include "app/settings_store.h"
 #include "editing/plotter.h"
 #include "editing/tool.h"
 #include "editing/undo_step.h"
@@ -13,7 +14,8 @@ namespace kelvo::editing {
 // A press only records; the next tick draws, with the left pen.
 class CircleTool final : public Tool {
  public:
-  CircleTool(Plotter& plotter, const Pens& pens, UndoStep& undo) : plotter_(plotter), pens_(pens), undo_(undo) {}
+  CircleTool(Plotter& plotter, const Pens& pens, UndoStep& undo, const app::SettingsStore& settings)
+      : plotter_(plotter), pens_(pens), undo_(undo), settings_(settings) {}
 
   std::string_view Prompt() const override { return centre_ ? "SET RADIUS POINT" : "SET CENTER POINT"; }
   PressResult Press(const PointerEvent& event) override;
@@ -23,10 +25,12 @@ class CircleTool final : public Tool {
 
  private:
   void BeginAfresh();
+  Points Outline(int radius) const;
 
   Plotter& plotter_;
   const Pens& pens_;
   UndoStep& undo_;
+  const app::SettingsStore& settings_;
   std::optional<model::PixelPoint> centre_;
   std::optional<int> radius_;
 };

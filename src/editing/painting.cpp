@@ -16,7 +16,7 @@ class Painting::BusyScope {
 
 Painting::Painting(model::PictureImage& picture, const PaintingPorts& ports)
     : undo_(picture, ports.views),
-      plotter_(picture, ports.views, ports.settings, ports.messages),
+      plotter_(picture, ports.views, ports.settings, ports.messages, ports.status),
       fill_(picture, ports.views, ports.events) {
   const ToolParts parts{picture, ports, pens_, undo_, plotter_, fill_, buffer_};
   for (const ToolRow& row : ToolTable()) tools_.push_back(row.make(parts));
@@ -56,8 +56,12 @@ bool Painting::Tick() {
   return Active().Tick();
 }
 
+bool Painting::CancelShape() {
+  return !busy_ && Active().Cancel();
+}
+
 void Painting::Escape() {
-  if (!busy_ && !Active().Cancel()) ChooseTool(ToolId::kDraw);
+  if (!CancelShape()) ChooseTool(ToolId::kDraw);
 }
 
 void Painting::Undo() {

@@ -36,7 +36,9 @@ class Painting {
   // True when a shape was drawn.
   bool Tick();
 
-  // Takes back an unfinished shape, whose tool stays chosen; where there is none, returns to Draw.
+  // Takes back an unfinished shape, whose tool stays chosen. False when there is none.
+  bool CancelShape();
+  // The same; where there is none, returns to Draw.
   void Escape();
   void Undo();
   // Another picture is in memory: nothing of the old one is left to undo or to finish.
@@ -48,6 +50,7 @@ class Painting {
   bool IsBusy() const { return busy_; }
 
   Pens& PenColours() { return pens_; }
+  const Pens& PenColours() const { return pens_; }
   const UndoStep& UndoData() const { return undo_; }
   const model::DetachedCell& CopyBuffer() const { return buffer_; }
 

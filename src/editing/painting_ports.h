@@ -11,8 +11,9 @@ namespace kelvo::editing {
 
 struct PaintingPorts {
   model::PictureViews& views;
-  const app::SettingsStore& settings;
+  app::SettingsStore& settings;
   app::Messages& messages;
+  app::StatusLine& status;
   app::ProcessEvents& events;
   app::WaitPointer& pointer;
   const app::ErrorLog& log;

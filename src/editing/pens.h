@@ -22,4 +22,7 @@ struct Pens {
 // keys nothing.
 std::optional<model::C64Colour> PenForKey(char key);
 
+// The key that gives a colour, in upper case.
+char KeyForPen(model::C64Colour colour);
+
 }  // namespace kelvo::editing

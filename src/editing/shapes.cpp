@@ -16,6 +16,11 @@ int Round(double value) {
   return static_cast<int>(std::nearbyint(value));
 }
 
+// The rows from a circle's centre to its outline in the column `dx` beside it, 0..radius.
+int HeightOfCircle(int radius, int dx) {
+  return 2 * Round(std::sqrt(radius * radius - dx * dx) + 0.1);
+}
+
 }  // namespace
 
 Points DrawLine(model::PixelPoint from, model::PixelPoint to) {
@@ -44,15 +49,21 @@ int CircleRadius(model::PixelPoint centre, model::PixelPoint point) {
   return Round(std::sqrt(down * down + across * across));
 }
 
-Points DrawCircle(model::PixelPoint centre, int radius) {
+Points DrawCircle(model::PixelPoint centre, int radius, CircleOutline outline) {
   Points points;
   for (int dx = -radius; dx <= radius; ++dx) {
     const int x = centre.x + dx;
     if (x < 1 || x > model::PictureImage::kWidth) continue;
-    const int height = 2 * Round(std::sqrt(radius * radius - dx * dx) + 0.1);
+    const int height = HeightOfCircle(radius, dx);
     const int below = centre.y + height, above = centre.y - height;
     if (below >= 1 && below <= model::PictureImage::kHeight) points.push_back({x, below});
     points.push_back({x, above});
+    if (outline == CircleOutline::kSampled || dx == 0) continue;
+    // Up to the row before that of the next column inwards, so that the two touch by their corners.
+    for (int rise = height + 1; rise < HeightOfCircle(radius, std::abs(dx) - 1); ++rise) {
+      points.push_back({x, centre.y + rise});
+      points.push_back({x, centre.y - rise});
+    }
   }
   return points;
 }

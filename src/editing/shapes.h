@@ -21,9 +21,13 @@ Points PathBetween(model::PixelPoint from, model::PixelPoint to);
 // The radius, in pixel columns, of a circle around `centre` through `point`. Halves round to the even neighbour.
 int CircleRadius(model::PixelPoint centre, model::PixelPoint point);
 
-// The points of a circle, column by column. It is sampled by columns alone on purpose, so that the outline has gaps
-// where it runs steeply. Columns outside the picture are left out; a point above it may be among the points and is not
-// plotted.
-Points DrawCircle(model::PixelPoint centre, int radius);
+enum class CircleOutline {
+  kSampled,  // by columns alone, on purpose: it has gaps where it runs steeply
+  kClosed,   // the same points, and those that close the gaps: a fill inside stays inside
+};
+
+// The points of a circle, column by column. Columns outside the picture are left out; a point above or below it may be
+// among the points and is not plotted.
+Points DrawCircle(model::PixelPoint centre, int radius, CircleOutline outline = CircleOutline::kSampled);
 
 }  // namespace kelvo::editing

@@ -24,7 +24,7 @@ Made MakeLine(const ToolParts& p) {
   return std::make_unique<LineTool>(kind, p.plotter, p.pens, p.undo);
 }
 Made MakeCircle(const ToolParts& p) {
-  return std::make_unique<CircleTool>(p.plotter, p.pens, p.undo);
+  return std::make_unique<CircleTool>(p.plotter, p.pens, p.undo, p.ports.settings);
 }
 Made MakeMouseCopy(const ToolParts& p) {
   return std::make_unique<MouseCopyTool>(p.picture, p.ports.views, p.undo, p.copy_buffer);

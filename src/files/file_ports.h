@@ -19,8 +19,8 @@ struct ChosenFile {
 class FileDialogs {
  public:
   virtual ~FileDialogs() = default;
-  // "Select file" with OfferedFormats(), starting in `folder`.
-  virtual std::optional<ChosenFile> SelectFile(const std::filesystem::path& folder) = 0;
+  // "Select file" with OfferedFormats(), starting in `folder` with the filter of `type`.
+  virtual std::optional<ChosenFile> SelectFile(const std::filesystem::path& folder, FormatType type) = 0;
   // "Save Kelvo-file", proposing `path`. A file of just the answer's name may be replaced: the dialog has asked.
   virtual std::optional<std::filesystem::path> SaveAs(const std::filesystem::path& path) = 0;
 };
@@ -34,8 +34,6 @@ class FileDisplay {
   virtual void PictureReplaced() = 0;
   // The picture was saved: its file holds just what is in memory.
   virtual void PictureSaved() = 0;
-  // A word for the status bar.
-  virtual void Say(std::string_view word) = 0;
 };
 
 }  // namespace kelvo::files

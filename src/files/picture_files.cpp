@@ -29,20 +29,33 @@ fs::path WithExtension(fs::path path) {
   return path;
 }
 
-// What a file that a person did not choose with a filter is read as.
-FormatType TypeOf(const fs::path& path) {
+// 0 for a file that is not there.
+std::uintmax_t SizeOf(const fs::path& path) {
   std::error_code error;
   const std::uintmax_t size = fs::file_size(path, error);
-  return TypeOfFile(app::TextFromPath(path), error ? 0 : size);
+  return error ? 0 : size;
+}
+
+// What a file that a person did not choose with a filter is read as.
+FormatType TypeOf(const fs::path& path) {
+  return TypeOfFile(app::TextFromPath(path), SizeOf(path));
+}
+
+// What a file is read as whose filter may be another format's.
+FormatType FittingTypeOf(const fs::path& path, FormatType chosen) {
+  return FittingType(chosen, app::TextFromPath(path), SizeOf(path));
 }
 
 }  // namespace
 
 bool PictureFiles::Open() {
-  const auto chosen = with_.dialogs.SelectFile(FolderForDialogs());
+  const int last_filter =
+      app::ReadNumber(with_.settings, kFileFilter, kOwnType, static_cast<int>(OfferedFormats().size()));
+  const auto chosen = with_.dialogs.SelectFile(FolderForDialogs(), last_filter);
   if (!chosen) return false;
   with_.settings.Write(kFilePath, app::TextFromPath(chosen->path.parent_path()));
-  return OpenAs(chosen->path, chosen->type, OnFailure::kMessageBox);
+  with_.settings.Write(kFileFilter, std::to_string(chosen->type));
+  return OpenAs(chosen->path, FittingTypeOf(chosen->path, chosen->type), OnFailure::kMessageBox);
 }
 
 bool PictureFiles::OpenPicture(const fs::path& path, OnFailure on_failure) {
@@ -76,8 +89,10 @@ std::optional<Document> PictureFiles::Read(const fs::path& path, FormatType type
         read = {.picture = picture, .kept = picture, .file = SetFileParameters(path), .on_disk = std::move(bytes)};
       },
       [&](const std::exception& error) {
-        const bool wrong_size = dynamic_cast<const FormatError*>(&error) != nullptr;
-        if (wrong_size && !FormatOf(type).size_message.empty()) return with_.messages.Inform(error.what());
+        const auto* wrong_size = dynamic_cast<const FormatError*>(&error);
+        if (wrong_size != nullptr && !FormatOf(type).size_message.empty()) {
+          return with_.messages.InformWithMore(error.what(), wrong_size->Sizes());
+        }
         const bool is_unknown = dynamic_cast<const UnknownPicture*>(&error) != nullptr;
         TellFailedLoad(path, (is_unknown ? NameOfPath(path) + ": " : "") + error.what(), on_failure);
       });
@@ -88,7 +103,7 @@ void PictureFiles::TellOtherReading(FormatType type, const app::Bytes& bytes, mo
   const PictureFormat& format = FormatOf(type);
   if (!format.Takes(bytes.size()) || !ReadsDifferently(format, bytes, background_before)) return;
   const bool is_exact = ReadingBy(with_.settings) == Reading::kExact;
-  with_.display.Say("This file looks otherwise " + std::string(is_exact ? "without" : "with") +
+  with_.status.Tell("This file looks otherwise " + std::string(is_exact ? "without" : "with") +
                     " File > Read files exactly");
 }
 
@@ -171,6 +186,8 @@ bool PictureFiles::Write(const fs::path& path) {
   if (!saved) return false;
   with_.display.PictureSaved();
   with_.display.ShowFile(document_.file);
+  with_.status.Tell("Saved " + app::TextFromPath(document_.file.CurrentFilePath) + ", " +
+                    std::to_string(document_.on_disk.size()) + " bytes");
   if (!trouble.empty()) {
     with_.log.Write("MDIFormMenu_SaveBitmap: " + trouble);
     with_.messages.Warn("The picture is saved, but its backup could not be made.\n" + trouble);
@@ -229,7 +246,11 @@ bool PictureFiles::MayThrowAwayPicture() {
   if (!document_.HasUnsavedWork()) return true;
   bool may = true;
   app::Guarded(
-      with_.log, "MDIFormMenu_KeepRescueCopy", [&] { KeepRescueCopy(document_, with_.folders, with_.clock); },
+      with_.log, "MDIFormMenu_KeepRescueCopy",
+      [&] {
+        const fs::path kept = KeepRescueCopy(document_, with_.folders, with_.clock);
+        with_.status.Warn("Unsaved work was kept in BACKUP as " + app::TextFromPath(kept.filename()));
+      },
       [&](const std::exception& error) {
         may = with_.messages.Ask("The unsaved picture could not be kept in the BACKUP folder.\n" +
                                  std::string(error.what()) + "\nThrow it away?");

@@ -22,6 +22,7 @@ struct FileSurroundings : app::Surroundings {
   FileDialogs& dialogs;
   FileDisplay& display;
   model::PictureViews& views;
+  app::StatusLine& status;
 };
 
 // How a load that failed is told, besides its line in the prompt.

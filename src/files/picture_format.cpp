@@ -81,12 +81,19 @@ C64Colour ReadBackground(const PictureFormat& format, std::span<const std::uint8
   return format.background_at ? C64Colour::FromNumber(file[*format.background_at]).value_or(before) : before;
 }
 
+std::string SizesText(const PictureFormat& format, std::uintmax_t size) {
+  std::string right = std::to_string(format.file_size);
+  if (format.other_size != format.file_size) right += " or " + std::to_string(format.other_size);
+  return "A file of this type has " + right + " bytes, this one has " + std::to_string(size) + ".";
+}
+
 }  // namespace
 
 FormatError::FormatError(const PictureFormat& format, std::uintmax_t size)
     : std::runtime_error(format.size_message.empty() ? "a picture file has " + std::to_string(format.file_size) +
                                                            " bytes, this one has " + std::to_string(size)
-                                                     : std::string(format.size_message)) {}
+                                                     : std::string(format.size_message)),
+      sizes_(SizesText(format, size)) {}
 
 const PictureFormat& FormatOf(FormatType type) {
   return type > 0 && type < static_cast<int>(kFormats.size()) ? kFormats[static_cast<std::size_t>(type)] : kFormats[0];
@@ -102,6 +109,13 @@ FormatType TypeOfFile(std::string_view path, std::uintmax_t size) {
     if (extension == known) return type;
   }
   return size == FormatOf(kKoaType).file_size ? kKoaType : kGeneralType;
+}
+
+FormatType FittingType(FormatType chosen, std::string_view path, std::uintmax_t size) {
+  for (const FormatType type : {chosen, TypeOfFile(path, size), kOwnType, kKoaType}) {
+    if (type == kByContentType || FormatOf(type).Takes(size)) return type;
+  }
+  return chosen;
 }
 
 PictureImage Decode(const PictureFormat& format, std::span<const std::uint8_t> bytes, C64Colour background_before,

@@ -50,10 +50,20 @@ std::span<const PictureFormat> OfferedFormats();
 // else by size.
 FormatType TypeOfFile(std::string_view path, std::uintmax_t size);
 
+// `chosen` where it takes a file of `size` bytes, as kByContentType always does; else the type that the file is by its
+// name and size. `chosen` too where no type takes it.
+FormatType FittingType(FormatType chosen, std::string_view path, std::uintmax_t size);
+
 // A file of a size that its type does not take. The message is the type's own, or one that tells the sizes.
 class FormatError : public std::runtime_error {
  public:
   FormatError(const PictureFormat& format, std::uintmax_t size);
+
+  // The size that is right and the one that the file has, in English.
+  const std::string& Sizes() const { return sizes_; }
+
+ private:
+  std::string sizes_;
 };
 
 // As documented, the last bitmap byte is never read, on purpose, and is 255 after reading; so is the last spare byte of

@@ -11,6 +11,7 @@
 namespace kelvo::files {
 
 inline constexpr app::Setting kFilePath{"Settings", "FilePath", ""};
+inline constexpr app::Setting kFileFilter{"Settings", "FileFilter", "1"};  // the position of the open dialog's last one
 
 // The name that a picture is saved under: `path` itself when it ends in ".kvp", else `path` with its last four
 // characters replaced by ".kvp", whatever they are, on purpose: "pic.txt" becomes "pic.kvp", and "picture" "pic.kvp"

@@ -4,9 +4,24 @@
 #include <cmath>
 
 #include "model/full_view.h"
+#include "model/picture_image.h"
 #include "model/pixel_place.h"
 
 namespace kelvo::model {
+
+void ZoomArea::SetRoom(int width, int height) {
+  room_width_ = width;
+  room_height_ = height;
+  MoveTo(origin_x_, origin_y_);
+}
+
+int ZoomArea::CellsWide() const {
+  return std::clamp(room_width_ / (8 * magnification_), 1, PictureImage::kCellsWide);
+}
+
+int ZoomArea::CellsHigh() const {
+  return std::clamp(room_height_ / (8 * magnification_), 1, PictureImage::kCellsHigh);
+}
 
 void ZoomArea::SetMagnification(int magnification) {
   magnification_ = magnification == 8 ? 8 : 4;
@@ -22,8 +37,7 @@ void ZoomArea::SetMagnificationAround(int magnification, int surface_x, int surf
 }
 
 void ZoomArea::CentreOn(int col, int row) {
-  const int cells_before = Is8X() ? 5 : 10;
-  MoveTo((col - cells_before) * 8, (row - cells_before) * 8);
+  MoveTo((col - (CellsWide() + 1) / 2) * 8, (row - (CellsHigh() + 2) / 2) * 8);
 }
 
 void ZoomArea::MoveTo(int origin_x, int origin_y) {
@@ -52,6 +66,18 @@ void ZoomArea::Move(ZoomMove move, ZoomStep step) {
     case ZoomMove::kRowEnd:
       return MoveTo(kFullViewWidth, origin_y_);
   }
+}
+
+void ZoomArea::Reveal(int x, int y) {
+  // The origin that shows the cell at the far edge, at the near edge, or the one that is.
+  const auto reveal = [](int cell_begin, int origin, int visible) {
+    return std::clamp(origin, cell_begin + 8 - visible / 8 * 8, cell_begin);
+  };
+  MoveTo(reveal((x - 1) * 2 / 8 * 8, origin_x_, VisibleWidth()), reveal((y - 1) / 8 * 8, origin_y_, VisibleHeight()));
+}
+
+PixelPoint ZoomArea::Middle() const {
+  return {(origin_x_ + VisibleWidth() / 2) / 2 + 1, origin_y_ + VisibleHeight() / 2 + 1};
 }
 
 bool ZoomArea::ShowsPixel(int x, int y) const {

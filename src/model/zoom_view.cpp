@@ -75,8 +75,17 @@ void PutZoomPixel(const PictureImage& picture, int x, int y, const ZoomArea& are
   surface.Fill({at.x, at.y + (place.position == 1 ? 0 : 1), 1, at.height - (place.position == 1 ? 0 : 1)}, box.left);
 }
 
+std::array<Rect, 4> ZoomBorderSides(const Surface& surface) {
+  constexpr int kBorder = ZoomArea::kBorder;
+  const int width = surface.Width(), height = surface.Height(), between = height - 2 * kBorder;
+  return {{{0, 0, width, kBorder},
+           {0, height - kBorder, width, kBorder},
+           {0, kBorder, kBorder, between},
+           {width - kBorder, kBorder, kBorder, between}}};
+}
+
 void DrawZoomBorder(C64Colour colour, Surface& surface) {
-  for (const Rect& side : kZoomBorder) surface.Fill(side, SurfaceColour(colour));
+  for (const Rect& side : ZoomBorderSides(surface)) surface.Fill(side, SurfaceColour(colour));
 }
 
 }  // namespace kelvo::model

@@ -9,19 +9,15 @@
 
 namespace kelvo::model {
 
+// The surface that an area takes at first.
 inline constexpr int kZoomSurfaceWidth = ZoomArea::kWidth + 2 * ZoomArea::kBorder;
 inline constexpr int kZoomSurfaceHeight = ZoomArea::kHeight + 2 * ZoomArea::kBorder;
 
 // The border's sides: above and below over the whole width, left and right between those.
-inline constexpr std::array<Rect, 4> kZoomBorder{{
-    {0, 0, kZoomSurfaceWidth, ZoomArea::kBorder},
-    {0, kZoomSurfaceHeight - ZoomArea::kBorder, kZoomSurfaceWidth, ZoomArea::kBorder},
-    {0, ZoomArea::kBorder, ZoomArea::kBorder, ZoomArea::kHeight},
-    {kZoomSurfaceWidth - ZoomArea::kBorder, ZoomArea::kBorder, ZoomArea::kBorder, ZoomArea::kHeight},
-}};
+std::array<Rect, 4> ZoomBorderSides(const Surface& surface);
 
 // Cells are parted by lines in the grid colour along their top and left edges; at 8:1 their pixels are parted by
-// fainter ones. All procedures draw into a surface of kZoomSurfaceWidth x kZoomSurfaceHeight.
+// fainter ones. All procedures draw into a surface of the area's SurfaceWidth() x SurfaceHeight().
 struct ZoomGrid {
   C64Colour colour;
 };

@@ -1,5 +1,6 @@
 #include "optimise/background_colour.h"
 
+#include <bit>
 #include <cstdint>
 
 #include "model/pixel_colour.h"
@@ -23,18 +24,29 @@ constexpr std::uint8_t WithoutPair(std::uint8_t byte, BitPair pair) {
 
 }  // namespace
 
-void OptimizeChar(model::PictureImage& picture, int index) {
-  if (index < 0) return;
+int OptimizeChar(model::PictureImage& picture, int index) {
+  if (index < 0) return 0;
+  int pixels = 0;
   const int cell = model::CellOfByte(index + 1);
   std::uint8_t* bytes = &picture.Bitmap.at(static_cast<std::size_t>(index + 1));
   for (const BitPair slot : model::kOwnSlots) {
     if (model::ColourInCell(picture, cell, slot) != picture.BackgroundColour) continue;
-    for (int line = 0; line < 8; ++line) bytes[line] = WithoutPair(bytes[line], slot);
+    for (int line = 0; line < 8; ++line) {
+      pixels += std::popcount(PairsEqual(bytes[line], slot));
+      bytes[line] = WithoutPair(bytes[line], slot);
+    }
   }
+  return pixels;
 }
 
-void OptimizeBackgroundColor(model::PictureImage& picture, app::Progress& progress, const ShowCell& show) {
-  SweepCells(progress, show, [&](const model::PixelPlace& place) { OptimizeChar(picture, place.byte - 8); });
+Optimized OptimizeBackgroundColor(model::PictureImage& picture, app::Progress& progress, const ShowCell& show) {
+  Optimized done;
+  SweepCells(progress, show, [&](const model::PixelPlace& place) {
+    const int pixels = OptimizeChar(picture, place.byte - 8);
+    done.pixels += pixels;
+    if (pixels > 0) ++done.cells;
+  });
+  return done;
 }
 
 }  // namespace kelvo::optimise

@@ -1,14 +1,12 @@
 #include "sprites/sprite_text.h"
 
 #include "app/number_text.h"
-#include "model/bit_pair.h"
 
 namespace kelvo::sprites {
 namespace {
 
 using model::BitPair;
 
-constexpr std::array kPairOfList{BitPair::k01, BitPair::k11, BitPair::k10};
 constexpr std::size_t kBytes = kSpritePixels / 4;
 
 struct Layout {

@@ -3,10 +3,12 @@
 #include <exception>
 
 #include "ui/widgets/icons.h"
+#include "ui/widgets/kelvo_style.h"
 
 namespace kelvo::ui {
 
 KelvoApplication::KelvoApplication(int& argc, char** argv) : QApplication(argc, argv) {
+  setStyle(new KelvoStyle);
   setWindowIcon(IconNamed("kelvo"));
 }
 

@@ -5,7 +5,6 @@
 #include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QMdiArea>
 #include <QMenuBar>
 #include <QMimeData>
@@ -21,16 +20,17 @@
 #include "model/palette.h"
 #include "ui/desks/animation_desk.h"
 #include "ui/desks/build_desk.h"
+#include "ui/desks/cell_use_desk.h"
 #include "ui/desks/export_desk.h"
 #include "ui/desks/history_desk.h"
 #include "ui/desks/painting_desk.h"
 #include "ui/desks/palette_desk.h"
 #include "ui/desks/picture_windows.h"
 #include "ui/desks/recovery_desk.h"
+#include "ui/desks/window_desk.h"
 #include "ui/menu_table.h"
 #include "ui/ports/frame_ports.h"
 #include "ui/ports/qt_text.h"
-#include "ui/widgets/child_window.h"
 #include "ui/widgets/choice_menu.h"
 #include "ui/widgets/image_drag.h"
 #include "ui/widgets/settings_dialog.h"
@@ -40,17 +40,14 @@
 #include "ui/windows/frm_command.h"
 #include "ui/windows/frm_fullscreen.h"
 #include "ui/windows/frm_history.h"
+#include "ui/windows/frm_what_if.h"
 #include "ui/windows/screenshot.h"
 
 namespace kelvo::ui {
 namespace {
 
-constexpr int kTimerMilliseconds = 100, kWordMilliseconds = 5000, kWarningMilliseconds = 30000;
-constexpr QSize kFirstSize(1016, 720);
+constexpr int kTimerMilliseconds = 100;
 constexpr app::Setting kCtrlZStepsBack{"Preferences", "CtrlZStepsBack", "0"};
-// Those that Escape leaves.
-constexpr std::array kSideWindows{ChildWindowId::kColors, ChildWindowId::kPens, ChildWindowId::kCharData,
-                                  ChildWindowId::kPrompt, ChildWindowId::kHistory};
 
 model::C64Colour ColourNumber(int number) {
   return model::C64Colour::FromNumber(number).value_or(model::C64Colour());
@@ -83,7 +80,6 @@ MainFrame::MainFrame(const app::ProgramFolders& folders, app::SettingsStore& set
       settings_(settings),
       clock_(clock),
       log_(folders_.ErrorLogFile(), clock),
-      area_(new QMdiArea(this)),
       full_view_(new frmBMPView(document_.picture, this)),
       colors_(new frmColors(this)),
       char_data_(new frmCharData(document_.picture, this)),
@@ -92,30 +88,30 @@ MainFrame::MainFrame(const app::ProgramFolders& folders, app::SettingsStore& set
       pens_(new frmPens(this)),
       Toolbar1_(new PaintToolBar(this)),
       menu_(*this),
-      panels_(statusBar()),
-      building_(new QLabel("Building... (Escape stops)", this)),
+      panels_(new StatusPanels(statusBar())),
       Timer1_(new QTimer(this)),
+      windows_(std::make_unique<WindowDesk>(*this, *new QMdiArea(this), *zoom_, *full_view_, *panels_, settings)),
       ports_(std::make_unique<FramePorts>(this)),
       views_(std::make_unique<PictureWindows>(*full_view_, *zoom_)),
-      files_(document_, {Surroundings(), ports_->pointer, ports_->dialogs, *this, *views_}),
+      files_(document_, {Surroundings(), ports_->pointer, ports_->dialogs, *this, *views_, *panels_}),
       desk_(std::make_unique<PaintingDesk>(
-          document_, editing::PaintingPorts{*views_, settings, ports_->messages, ports_->events, ports_->pointer, log_},
+          document_,
+          editing::PaintingPorts{*views_, settings, ports_->messages, *panels_, ports_->events, ports_->pointer, log_},
           PaintingWindows{*full_view_, *zoom_, *colors_, *pens_, *char_data_, *Toolbar1_})),
-      animation_(std::make_unique<AnimationDesk>(PictureSurroundings(), *this, *full_view_, *zoom_)),
-      builds_(std::make_unique<BuildDesk>(PictureSurroundings(), ports_->tools, this)),
+      cell_use_(std::make_unique<CellUseDesk>(document_, *full_view_, *zoom_, *colors_)),
+      animation_(std::make_unique<AnimationDesk>(PictureSurroundings(), *this, *windows_, *full_view_, *zoom_)),
+      builds_(std::make_unique<BuildDesk>(PictureSurroundings(), *panels_, ports_->tools, this)),
       recovery_(std::make_unique<RecoveryDesk>(PictureSurroundings(), slot_)),
       history_(std::make_unique<HistoryDesk>(PictureSurroundings(), *desk_, StepsFile(folders_, slot_))),
       palette_(std::make_unique<PaletteDesk>(Surroundings(), menu_.Menu(kPaletteMenu), this)),
       exports_(std::make_unique<ExportDesk>(PictureSurroundings(), *palette_, this)) {
   setObjectName("MDIFormMenu");
-  area_->setObjectName("mdiArea");
-  setCentralWidget(area_);
-  resize(kFirstSize);
   setAcceptDrops(true);
   addToolBar(Toolbar1_);
   MakeChildren();
   MakeChoiceMenus();
   MakeRecentMenu();
+  menu_.Menu(kToolsMenu)->addActions(Toolbar1_->Tools());
   ConnectDesk();
   ConnectAnimation();
   ConnectBuilds();
@@ -123,12 +119,9 @@ MainFrame::MainFrame(const app::ProgramFolders& folders, app::SettingsStore& set
   ConnectPalette();
   Timer1_->setObjectName("Timer1");
   connect(Timer1_, &QTimer::timeout, this, &MainFrame::Timer1_Timer);
-  connect(recovery_.get(), &RecoveryDesk::Word, this,
-          [this](const QString& word) { statusBar()->showMessage(word, kWarningMilliseconds); });
+  connect(recovery_.get(), &RecoveryDesk::Word, this, [this](const QString& word) { panels_->Warn(FromQt(word)); });
   connect(&ports_->file_watch, &FileWatch::Touched, this, [this] {
-    if (files_.IsChangedElsewhere()) {
-      statusBar()->showMessage("The file was changed elsewhere: Reload?", kWarningMilliseconds);
-    }
+    if (files_.IsChangedElsewhere()) panels_->Warn("The file was changed elsewhere: Reload?");
   });
 }
 
@@ -155,44 +148,25 @@ void MainFrame::PictureSaved() {
   history_->PictureSaved();
 }
 
-void MainFrame::Say(std::string_view word) {
-  statusBar()->showMessage(ToQt(word), kWordMilliseconds);
-}
-
 void MainFrame::MakeChildren() {
   steps_ = new frmHistory(history_->Steps(), this);
-  AddChild(ChildWindowId::kFullView, full_view_, {668, 0});
-  AddChild(ChildWindowId::kColors, colors_, {668, 235});
-  AddChild(ChildWindowId::kPens, pens_, {668, 340});
-  AddChild(ChildWindowId::kCharData, char_data_, {668, 415});
-  AddChild(ChildWindowId::kPrompt, command_, {668, 415}, false);
-  AddChild(ChildWindowId::kZoom, zoom_, {0, 0});
-  AddChild(ChildWindowId::kHistory, steps_, {668, 415}, false);
+  windows_->Add(ChildWindowId::kFullView, full_view_);
+  windows_->Add(ChildWindowId::kColors, colors_);
+  windows_->Add(ChildWindowId::kPens, pens_);
+  windows_->Add(ChildWindowId::kCharData, char_data_);
+  windows_->Add(ChildWindowId::kPrompt, command_);
+  windows_->Add(ChildWindowId::kZoom, zoom_);
+  windows_->Add(ChildWindowId::kHistory, steps_);
+  connect(windows_.get(), &WindowDesk::Changed, this, &MainFrame::RefreshMenus);
   connect(full_view_, &frmBMPView::ZoomAreaChosen, zoom_, &frmZoom::CentreOn);
   connect(zoom_, &frmZoom::AreaChanged, this, [this] { full_view_->ShowZoomArea(zoom_->Area()); });
-  connect(zoom_, &frmZoom::MagnificationChanged, this, &MainFrame::RefreshMenus);
+  connect(zoom_, &frmZoom::MagnificationChanged, this, &MainFrame::ShowZoom);
   connect(command_, &frmCommand::CommandSubmitted, this, &MainFrame::ProcessCommand);
-  connect(command_, &frmCommand::FocusGivenBack, this, &MainFrame::GiveFocusToPicture);
-}
-
-void MainFrame::AddChild(ChildWindowId id, QWidget* form, QPoint place, bool is_shown) {
-  auto* child = new ChildWindow(form);
-  area_->addSubWindow(child);
-  child->setAttribute(Qt::WA_DeleteOnClose, false);
-  connect(child, &ChildWindow::ClosedByUser, this, &MainFrame::RefreshMenus);
-  children_[static_cast<std::size_t>(id)] = {child, place, is_shown};
+  connect(command_, &frmCommand::FocusGivenBack, windows_.get(), &WindowDesk::GiveFocusToPicture);
 }
 
 void MainFrame::ArrangeWindows() {
-  ui::ArrangeWindows(children_);
-  animation_->ArrangeWindow();
-  RefreshMenus();
-  GiveFocusToPicture();
-}
-
-void MainFrame::GiveFocusToPicture() {
-  area_->setActiveSubWindow(children_[static_cast<std::size_t>(ChildWindowId::kZoom)].window);
-  zoom_->setFocus();
+  windows_->Arrange(animation_->FrameWindow());
 }
 
 void MainFrame::MakeChoiceMenus() {
@@ -204,6 +178,8 @@ void MainFrame::MakeChoiceMenus() {
   connect(border_menu_, &ChoiceMenu::Chosen, this,
           [this](int index) { zoom_->SetBorder(static_cast<model::ZoomBorder>(index)); });
   border_menu_->Check(static_cast<int>(model::ZoomBorder::kNone));
+  scale_menu_ = new ChoiceMenu(menu_.Menu(kFullViewMenu), {"&1:1", "&2:1", "&3:1"});
+  connect(scale_menu_, &ChoiceMenu::Chosen, this, [this](int index) { windows_->SetFullViewScale(index + 1); });
 }
 
 void MainFrame::MakeRecentMenu() {
@@ -223,7 +199,9 @@ void MainFrame::MakeRecentMenu() {
 void MainFrame::ConnectDesk() {
   connect(desk_.get(), &PaintingDesk::StateChanged, this, &MainFrame::ShowPaintingState);
   connect(desk_.get(), &PaintingDesk::PointerAt, this,
-          [this](const QString& text) { panels_.Show(StatusPanel::kPointer, text); });
+          [this](const QString& text) { panels_->Show(StatusPanel::kPointer, text); });
+  // It is emitted after each action too, at most once a display frame.
+  connect(desk_.get(), &PaintingDesk::PointerAt, this, [this] { cell_use_->Refresh(); });
   connect(desk_.get(), &PaintingDesk::BackgroundChosen, this,
           [this](model::C64Colour colour) { SetBackgroundColour(colour.Number()); });
 }
@@ -231,22 +209,20 @@ void MainFrame::ConnectDesk() {
 void MainFrame::ConnectAnimation() {
   connect(animation_.get(), &AnimationDesk::CheckMarkChanged, this, &MainFrame::RefreshMenus);
   connect(animation_.get(), &AnimationDesk::StatusChanged, this,
-          [this](const QString& text) { panels_.Show(StatusPanel::kAnimation, text); });
-  connect(animation_.get(), &AnimationDesk::Word, this,
-          [this](const QString& word) { statusBar()->showMessage(word, kWordMilliseconds); });
+          [this](const QString& text) { panels_->Show(StatusPanel::kAnimation, text); });
+  connect(animation_.get(), &AnimationDesk::Word, this, [this](const QString& word) { panels_->Tell(FromQt(word)); });
   connect(animation_.get(), &AnimationDesk::KeyReleased, this, [this](QKeyEvent* event) {
     if (event->key() != Qt::Key_Escape || builds_->IsBuilding()) return keyReleaseEvent(event);
     activateWindow();
-    GiveFocusToPicture();
+    windows_->GiveFocusToPicture();
   });
 }
 
 void MainFrame::ConnectBuilds() {
-  building_->setObjectName("pnlBuilding");
-  building_->hide();
-  statusBar()->addPermanentWidget(building_);
   connect(builds_.get(), &BuildDesk::StateChanged, this, &MainFrame::ShowBuilding);
-  connect(builds_.get(), &BuildDesk::Ended, this, &MainFrame::BuildEnded);
+  // The prompt is the build log: it comes forward when there is something to read in it. The keyboard stays where it
+  // is.
+  connect(builds_.get(), &BuildDesk::Failed, this, [this] { windows_->ShowBehind(ChildWindowId::kPrompt); });
 }
 
 void MainFrame::ConnectHistory() {
@@ -271,18 +247,8 @@ void MainFrame::ConnectPalette() {
 }
 
 void MainFrame::ShowBuilding() {
-  building_->setVisible(builds_->IsBuilding());
+  panels_->SetBuilding(builds_->IsBuilding());
   RefreshMenus();
-}
-
-// The prompt is the build log: it comes forward when there is something to read in it. The keyboard stays where it is.
-void MainFrame::BuildEnded(c64out::BuildOutcome outcome) {
-  constexpr std::array kWords{"Build complete", "Build stopped", "Build failed", "Build failed"};
-  statusBar()->showMessage(kWords.at(static_cast<std::size_t>(outcome)), kWordMilliseconds);
-  if (outcome != c64out::BuildOutcome::kFailed || IsWindowShown(ChildWindowId::kPrompt)) return;
-  QMdiSubWindow* active = area_->activeSubWindow();
-  ToggleWindow(ChildWindowId::kPrompt);
-  if (active != nullptr) area_->setActiveSubWindow(active);
 }
 
 void MainFrame::ProcessCommand(const QString& line) {
@@ -297,9 +263,9 @@ void MainFrame::ProcessCommand(const QString& line) {
 }
 
 void MainFrame::ShowPaintingState() {
-  panels_.Show(StatusPanel::kTool, ToQt(desk_->Painting().Prompt()));
+  panels_->Show(StatusPanel::kTool, ToQt(desk_->Painting().Prompt()));
   const bool fills_blocks = desk_->Painting().ChosenTool() == editing::ToolId::kBlockFill;
-  panels_.Show(StatusPanel::kBlockFill, fills_blocks ? "BF=ON" : "BF=OFF");
+  panels_->Show(StatusPanel::kBlockFill, fills_blocks ? "BF=ON" : "BF=OFF");
   menu_.Refresh();
 }
 
@@ -315,8 +281,7 @@ void MainFrame::StartUp() {
   std::error_code ignored;
   std::filesystem::remove(folders_.Snapshot(), ignored);  // so that the first save makes no backup
   views_->PictureChanged();
-  ArrangeWindows();
-  RestorePlaces(settings_, *this, children_);
+  windows_->Begin();
   RefreshMenus();
 }
 
@@ -343,16 +308,6 @@ void MainFrame::SetBackgroundColour(int number) {
 void MainFrame::SetGridColor(int number) {
   zoom_->SetGridColor(ColourNumber(number));
   grid_menu_->Check(number);
-}
-
-void MainFrame::ToggleWindow(ChildWindowId id) {
-  QMdiSubWindow* child = children_[static_cast<std::size_t>(id)].window;
-  child->setVisible(!IsWindowShown(id));
-  if (IsWindowShown(id)) area_->setActiveSubWindow(child);
-}
-
-bool MainFrame::IsWindowShown(ChildWindowId id) const {
-  return !children_[static_cast<std::size_t>(id)].window->isHidden();
 }
 
 void MainFrame::ShowAbout() {
@@ -394,7 +349,7 @@ void MainFrame::SaveScreenshot() {
 
 void MainFrame::ShowFile(const files::CurrentFile& file) {
   setWindowTitle(ToQt(files::WindowTitle(file)));
-  panels_.Show(StatusPanel::kFile, ToQt(files::StatusName(file)));
+  panels_->Show(StatusPanel::kFile, ToQt(files::StatusName(file)));
   animation_->FileChanged();
   ports_->file_watch.Follow(QtFromPath(file.CurrentFilePath));
   RefreshMenus();
@@ -404,6 +359,8 @@ void MainFrame::ShowPreferences() {
   SettingsDialog dialog(settings_, "frmPreferences", "Preferences", this);
   dialog.AddCheckBox(editing::k4thColReplaces, "&4th char color replaces selected color");
   dialog.AddCheckBox(editing::kReplaceLeastUsedColWhenFilling, "&Replace least used color when filling");
+  dialog.AddCheckBox(editing::kCloseCircles, "&Close circles where they run steeply");
+  dialog.AddCheckBox(editing::kTellRefusalsInStatusBar, "&Tell refusals of full cells in the status bar");
   dialog.AddNumber(files::kKeepBackupsDays, files::kMostBackupDays, "Days that every &backup is kept:", "for ever",
                    "Of the days before those the last backup of each picture stays");
   dialog.AddCheckBox(kCtrlZStepsBack, "Ctrl+&Z steps back and Ctrl+Y forward");
@@ -427,12 +384,25 @@ bool MainFrame::IsOn(const app::Setting& setting) const {
   return app::ReadNumber(settings_, setting, 0, 1) == 1;
 }
 
+void MainFrame::ShowWhatIf() {
+  frmWhatIf dialog(document_.picture, this);
+  connect(&dialog, &frmWhatIf::Tried, this, &MainFrame::SetBackgroundColour);
+  dialog.exec();
+}
+
 void MainFrame::RefreshMenus() {
   background_menu_->Check(document_.picture.BackgroundColour.Number());
+  scale_menu_->Check(full_view_->Scale() - 1);
   menu_.Refresh();
 }
 
+void MainFrame::ShowZoom() {
+  panels_->Show(StatusPanel::kZoom, QString("Zoom %1:1").arg(zoom_->Area().Magnification()));
+  RefreshMenus();
+}
+
 void MainFrame::Timer1_Timer() {
+  panels_->ShowUnsaved(document_.HasUnsavedWork());
   desk_->Tick();
   history_->Settle();
   zoom_->TickBorder();
@@ -441,19 +411,15 @@ void MainFrame::Timer1_Timer() {
 
 void MainFrame::keyReleaseEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Escape && builds_->IsBuilding()) return builds_->Stop();
-  if (event->key() == Qt::Key_Escape && IsInSideWindow(focusWidget())) return GiveFocusToPicture();
+  if (event->key() == Qt::Key_Escape && windows_->IsInSideWindow(focusWidget())) {
+    return windows_->GiveFocusToPicture();
+  }
   const bool is_arrow = event->key() >= Qt::Key_Left && event->key() <= Qt::Key_Down;
   if (is_arrow && qobject_cast<QAbstractButton*>(focusWidget()) != nullptr) return;  // it led from button to button
   // Ctrl+R with Ctrl let go first is still Ctrl+R, not the pen of R.
   const Qt::KeyboardModifiers modifiers = event->modifiers() | ports_->keys.HeldAtPress(event->key());
-  if (!desk_->HandleKeyUp(event->key(), modifiers)) QMainWindow::keyReleaseEvent(event);
-}
-
-bool MainFrame::IsInSideWindow(const QWidget* widget) const {
-  return std::any_of(kSideWindows.begin(), kSideWindows.end(), [&](ChildWindowId id) {
-    const QMdiSubWindow* window = children_[static_cast<std::size_t>(id)].window;
-    return window == widget || window->isAncestorOf(widget);  // one without a field of its own has the focus itself
-  });
+  if (desk_->HandleKeyUp(event->key(), modifiers) || menu_.HandleKeyUp(event->key(), modifiers)) return;
+  QMainWindow::keyReleaseEvent(event);
 }
 
 void MainFrame::changeEvent(QEvent* event) {
@@ -475,7 +441,7 @@ void MainFrame::closeEvent(QCloseEvent* event) {
   if (!files_.MayClose()) return event->ignore();
   settings_.Write(kGridColor, std::to_string(zoom_->GridColor().Number()));
   settings_.Write(kMagnification, std::to_string(zoom_->Area().Magnification()));
-  KeepPlaces(settings_, *this, children_);
+  windows_->Keep();
   animation_->UnloadFrameWindow();
   StopTools();
   Timer1_->stop();  // a tick would keep the work that was given up

@@ -2,25 +2,21 @@
 #pragma once
 
 #include <QMainWindow>
-#include <array>
 #include <memory>
 
 #include "app/error_log.h"
 #include "app/program_folders.h"
-#include "c64out/build_compo_pic.h"
 #include "files/picture_files.h"
 #include "ui/main_menu.h"
 #include "ui/ports/program_slot.h"
 #include "ui/widgets/prompt_lines.h"
 #include "ui/widgets/status_panels.h"
-#include "ui/windows/window_places.h"
-
-class QMdiArea;
 
 namespace kelvo::ui {
 
 class AnimationDesk;
 class BuildDesk;
+class CellUseDesk;
 class ChoiceMenu;
 class ExportDesk;
 class HistoryDesk;
@@ -38,10 +34,8 @@ class frmCommand;
 class frmHistory;
 class frmPens;
 class frmZoom;
+class WindowDesk;
 struct FramePorts;
-
-enum class ChildWindowId { kFullView, kColors, kCharData, kPrompt, kZoom, kPens, kHistory };
-inline constexpr std::size_t kChildWindows = 7;
 
 class MainFrame : public QMainWindow, private files::FileDisplay {
   Q_OBJECT
@@ -79,6 +73,7 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   bool IsOn(const app::Setting& setting) const;
 
   void ShowPreferences();
+  void ShowWhatIf();
   void ShowAbout();
   void mnuFullscreenView_Click();
   void SaveScreenshot();
@@ -86,6 +81,8 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   void ShowCodenetGui();
   void ArrangeWindows();
 
+  CellUseDesk& CellUse() { return *cell_use_; }
+  const CellUseDesk& CellUse() const { return *cell_use_; }
   BuildDesk& Builds() { return *builds_; }
   const BuildDesk& Builds() const { return *builds_; }
   AnimationDesk& Animation() { return *animation_; }
@@ -94,8 +91,9 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   bool HasLastCommand() const { return !last_command_.isEmpty(); }
   void RepeatLastCommand() { ProcessCommand(last_command_); }
 
-  void ToggleWindow(ChildWindowId id);
-  bool IsWindowShown(ChildWindowId id) const;
+  WindowDesk& Windows() { return *windows_; }
+  const WindowDesk& Windows() const { return *windows_; }
+  const frmBMPView& FullView() const { return *full_view_; }
 
   const app::ErrorLog& Log() const { return log_; }
 
@@ -112,8 +110,6 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   void ShowFile(const files::CurrentFile& file) override;
   void PictureReplaced() override;
   void PictureSaved() override;
-  void Say(std::string_view word) override;
-  void AddChild(ChildWindowId id, QWidget* form, QPoint place, bool is_shown = true);
   void MakeChildren();
   void ConnectAnimation();
   void ConnectBuilds();
@@ -121,15 +117,13 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   void ConnectPalette();
   void ShowStepKeys();
   void ShowBuilding();
-  void BuildEnded(c64out::BuildOutcome outcome);
   void StopTools();
-  void GiveFocusToPicture();
-  bool IsInSideWindow(const QWidget* widget) const;
   void MakeChoiceMenus();
   void MakeRecentMenu();
   void ConnectDesk();
   void ShowPaintingState();
   void RefreshMenus();
+  void ShowZoom();
   void Timer1_Timer();
 
   ProgramSlot slot_;
@@ -142,7 +136,6 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   PromptLines prompt_;
   QString last_command_;
 
-  QMdiArea* area_;
   frmBMPView* full_view_;
   frmColors* colors_;
   frmCharData* char_data_;
@@ -151,19 +144,20 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   frmPens* pens_;
   frmHistory* steps_ = nullptr;
   PaintToolBar* Toolbar1_;
-  std::array<ChildPlace, kChildWindows> children_{};
   MainMenu menu_;
   ChoiceMenu* background_menu_ = nullptr;
   ChoiceMenu* grid_menu_ = nullptr;
   ChoiceMenu* border_menu_ = nullptr;
-  StatusPanels panels_;
-  QLabel* building_;  // to be seen while a build is at work
+  ChoiceMenu* scale_menu_ = nullptr;
+  StatusPanels* panels_;
   QTimer* Timer1_;
 
+  std::unique_ptr<WindowDesk> windows_;
   std::unique_ptr<FramePorts> ports_;
   std::unique_ptr<PictureWindows> views_;
   files::PictureFiles files_;
   std::unique_ptr<PaintingDesk> desk_;
+  std::unique_ptr<CellUseDesk> cell_use_;
   std::unique_ptr<AnimationDesk> animation_;
   std::unique_ptr<BuildDesk> builds_;
   std::unique_ptr<RecoveryDesk> recovery_;

@@ -1,6 +1,8 @@
 #include "ui/main_menu.h"
 
 #include <QMenuBar>
+#include <algorithm>
+#include <string_view>
 
 #include "ui/main_frame.h"
 #include "ui/menu_table.h"
@@ -8,6 +10,15 @@
 #include "ui/widgets/icons.h"
 
 namespace kelvo::ui {
+
+namespace {
+
+// A shortcut of a plain letter would take it from the prompt's line.
+bool IsLetter(std::string_view key) {
+  return key.size() == 1;
+}
+
+}  // namespace
 
 MainMenu::MainMenu(MainFrame& frame) : frame_(frame) {
   for (const MenuRow& row : Menus()) {
@@ -25,9 +36,10 @@ MainMenu::MainMenu(MainFrame& frame) : frame_(frame) {
     } else if (entry.text == nullptr) {
       menu->addMenu(menus_.value(entry.name));
     } else {
-      auto* action = new QAction(entry.text, &frame);
+      const bool by_letter = IsLetter(entry.key);
+      auto* action = new QAction(QString(entry.text) + (by_letter ? QString("\t") + entry.key : QString()), &frame);
       action->setObjectName(entry.name);
-      action->setShortcut(QKeySequence(entry.key));
+      if (!by_letter) action->setShortcut(QKeySequence(entry.key));
       action->setStatusTip(entry.tip);
       if (entry.icon != nullptr) action->setIcon(IconNamed(entry.icon));
       action->setCheckable(entry.is_checked != nullptr);
@@ -43,6 +55,16 @@ MainMenu::MainMenu(MainFrame& frame) : frame_(frame) {
 
 void MainMenu::SetKeys(const QString& name, const QString& keys) {
   actions_.value(name)->setShortcuts(QKeySequence::listFromString(keys));
+}
+
+bool MainMenu::HandleKeyUp(int key, Qt::KeyboardModifiers modifiers) const {
+  if (modifiers & ~(Qt::ShiftModifier | Qt::KeypadModifier)) return false;
+  const auto entries = MenuEntries();
+  const auto entry = std::find_if(entries.begin(), entries.end(), [key](const MenuEntry& row) {
+    return row.name != nullptr && IsLetter(row.key) && row.key[0] == key;
+  });
+  if (entry != entries.end()) actions_.value(entry->name)->trigger();
+  return entry != entries.end();
 }
 
 void MainMenu::Refresh() const {

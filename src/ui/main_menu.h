@@ -20,6 +20,9 @@ class MainMenu {
   // The keys of an entry, with "; " between them; none for an empty text.
   void SetKeys(const QString& name, const QString& keys);
 
+  // A letter was let go in the main window. True when it is an entry's key.
+  bool HandleKeyUp(int key, Qt::KeyboardModifiers modifiers) const;
+
   QMenu* Menu(const QString& name) const { return menus_.value(name); }
 
  private:

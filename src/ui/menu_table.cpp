@@ -6,9 +6,12 @@
 #include "files/load_picture.h"
 #include "ui/desks/animation_desk.h"
 #include "ui/desks/build_desk.h"
+#include "ui/desks/cell_use_desk.h"
 #include "ui/desks/export_desk.h"
 #include "ui/desks/history_desk.h"
 #include "ui/desks/painting_desk.h"
+#include "ui/desks/window_desk.h"
+#include "ui/help_pages.h"
 #include "ui/main_frame.h"
 
 namespace kelvo::ui {
@@ -19,10 +22,12 @@ constexpr MenuRow kMenus[] = {
     {kRecentMenu, "mnuFile", "Load r&ecent...", "Open this picture"},
     {"mnuLimPaint", nullptr, "&Paint", ""},
     {kBackgroundMenu, "mnuLimPaint", "&Background color", "Show this color wherever the picture's background shows"},
+    {kToolsMenu, nullptr, "&Tools", ""},
     {"mnuViewMenu", nullptr, "&Show", ""},
+    {kFullViewMenu, "mnuViewMenu", "Full &view scale", "How large the full view shows the picture"},
     {kGridMenu, "mnuViewMenu", "Zoom &grid", "Draw the grid of the zoom window in this color"},
     {kBorderMenu, "mnuViewMenu", "Zoom &border", "How the border of the zoom window looks"},
-    {kPaletteMenu, "mnuViewMenu", "Pa&lette", "Show everything in these colors"},
+    {kPaletteMenu, "mnuViewMenu", "Pale&tte", "Show everything in these colors"},
     {"mnuFunctions", nullptr, "F&unctions", ""},
     {"mnuAnim", nullptr, "&Animation", ""},
     {"mnuVICE", nullptr, "&VICE", ""},
@@ -34,8 +39,8 @@ template <ChildWindowId id>
 constexpr MenuEntry ShowEntry(const char* name, const char* text, const char* tip) {
   return {name,    "mnuViewMenu",
           text,    "",
-          tip,     [](MainFrame& f) { f.ToggleWindow(id); },
-          nullptr, [](const MainFrame& f) { return f.IsWindowShown(id); }};
+          tip,     [](MainFrame& f) { f.Windows().Toggle(id); },
+          nullptr, [](const MainFrame& f) { return f.Windows().IsShown(id); }};
 }
 
 template <const app::Setting& setting>
@@ -111,8 +116,12 @@ constexpr MenuEntry kEntries[] = {
      [](MainFrame& f) { f.History().StepForward(); }, [](const MainFrame& f) { return f.History().CanStepForward(); }},
     {"mnuCopyImage", "mnuLimPaint", "&Copy as image", "Ctrl+C", "Put the picture on the clipboard as an image",
      [](MainFrame& f) { f.Exports().CopyImage(); }},
+    {"mnuSwapPens", "mnuLimPaint", "&Swap pens", "X", "Each button takes the other's color",
+     [](MainFrame& f) { f.Desk().SwapPens(); }},
     Separator("mnuLimPaint"),
     Submenu(kBackgroundMenu, "mnuLimPaint"),
+    {"mnuWhatIf", "mnuLimPaint", "&What if the background were...", "",
+     "How many cells would gain room or clash with each background color", [](MainFrame& f) { f.ShowWhatIf(); }},
     {"mnuRepeatCommand", "mnuLimPaint", "&Repeat last command", "F3", "Give the last command of the prompt again",
      [](MainFrame& f) { f.RepeatLastCommand(); }, [](const MainFrame& f) { return f.HasLastCommand(); }},
     {"mnuPreferences", "mnuLimPaint", "&Preferences...", "", "How painting treats full cells",
@@ -128,9 +137,19 @@ constexpr MenuEntry kEntries[] = {
     Separator("mnuViewMenu"),
     ZoomEntry<4>("mnuZoom_4X", "Zoom &4:1", "Ctrl+4", "Show pixels four times as large"),
     ZoomEntry<8>("mnuZoom_8X", "Zoom &8:1", "Ctrl+8", "Show pixels eight times as large"),
+    {"mnuZoomLarge", "mnuViewMenu", "&Enlarge zoom window", "Ctrl+E", "Give the zoom window all room beside the others",
+     [](MainFrame& f) { f.Windows().ToggleLargeZoom(); }, nullptr,
+     [](const MainFrame& f) { return f.Windows().IsZoomLarge(); }},
+    {"mnuCellUse", "mnuViewMenu", "Ce&ll use", "", "Tint cells by how many colors of their own are free",
+     [](MainFrame& f) { f.CellUse().Toggle(); }, nullptr, [](const MainFrame& f) { return f.CellUse().IsShown(); }},
     Submenu(kGridMenu, "mnuViewMenu"),
     Submenu(kBorderMenu, "mnuViewMenu"),
     Submenu(kPaletteMenu, "mnuViewMenu"),
+    Separator("mnuViewMenu"),
+    Submenu(kFullViewMenu, "mnuViewMenu"),
+    {"mnuFullViewPal", "mnuViewMenu", "Pixels as on a PAL &screen", "",
+     "Show the full view in the proportions of a PAL screen", [](MainFrame& f) { f.Windows().TogglePal(); }, nullptr,
+     [](const MainFrame& f) { return f.FullView().IsPal(); }},
     Separator("mnuViewMenu"),
     {"mnuFullscreenView", "mnuViewMenu", "F&ullscreen view", "F11", "The picture alone, over the whole screen",
      [](MainFrame& f) { f.mnuFullscreenView_Click(); }, nullptr, nullptr, "fullscreen"},
@@ -174,6 +193,9 @@ constexpr MenuEntry kEntries[] = {
     {"mnuCodenetSettings", "mnuCodenet", "&Codenet settings...", "",
      "Where the C64 is, and the program's name on its disk", [](MainFrame& f) { f.Builds().ShowCodenetSettings(); }},
 
+    {"mnuGuide", "mnuHelp", "&Guide", "F1", "A tour of the program", [](MainFrame& f) { ShowGuide(f); }},
+    {"mnuKeys", "mnuHelp", "&Keys", "", "All keys on one page", [](MainFrame& f) { ShowKeys(f); }},
+    Separator("mnuHelp"),
     {"mnuAbout", "mnuHelp", "&About Kelvo", "", "What this program is", [](MainFrame& f) { f.ShowAbout(); }},
 };
 

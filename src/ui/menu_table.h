@@ -10,10 +10,12 @@ class MainFrame;
 
 // The menus that the main window fills.
 inline constexpr const char* kRecentMenu = "mnuRecent";
+inline constexpr const char* kToolsMenu = "mnuTools";
 inline constexpr const char* kBackgroundMenu = "mnuBG";
 inline constexpr const char* kGridMenu = "mnuGrid";
 inline constexpr const char* kBorderMenu = "mnuZB";
 inline constexpr const char* kPaletteMenu = "mnuPalette";
+inline constexpr const char* kFullViewMenu = "mnuFullViewScale";
 
 struct MenuRow {
   const char* name;    // objectName
@@ -27,7 +29,7 @@ struct MenuEntry {
   const char* name;
   const char* menu;
   const char* text;
-  const char* key;  // empty: no shortcut
+  const char* key;  // a shortcut, or a letter that acts when it is let go outside text fields; empty: none
   const char* tip;
   void (*run)(MainFrame&);
   bool (*can)(const MainFrame&) = nullptr;              // null: always

@@ -153,14 +153,22 @@ TEST(OptimizeBackground, KeepsTheLookAndLeavesNoOtherPairForTheBackground) {
     app::NoProgress none;
     std::vector<int> cells;
     const optimise::ShowCell show = [&](int cell) { cells.push_back(cell); };
-    optimise::OptimizeBackgroundColor(picture, none, show);
+    const optimise::Optimized done = optimise::OptimizeBackgroundColor(picture, none, show);
+    int changed = 0;
+    std::set<int> changed_cells;
     for (int y = 1; y <= 200; ++y) {
       for (int x = 1; x <= 160; ++x) {
         const model::PixelData pixel = model::GetPixelData(picture, x, y);
-        ASSERT_EQ(pixel.colour, model::GetPixelData(before, x, y).colour);
+        const model::PixelData was = model::GetPixelData(before, x, y);
+        ASSERT_EQ(pixel.colour, was.colour);
         ASSERT_EQ(pixel.pair == model::BitPair::k00, pixel.colour == picture.BackgroundColour);
+        if (pixel.pair == was.pair) continue;
+        ++changed;
+        changed_cells.insert(pixel.place.cell);
       }
     }
+    EXPECT_EQ(done.pixels, changed);
+    EXPECT_EQ(done.cells, static_cast<int>(changed_cells.size()));
     PictureImage expected = before;
     expected.Bitmap = picture.Bitmap;
     EXPECT_EQ(picture, expected);

@@ -2,12 +2,15 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 
 #include "editing/cell_slots.h"
+#include "editing/flood_fill.h"
 #include "editing/pixel_plot.h"
 #include "editing/set_data.h"
 #include "editing/shapes.h"
 #include "support/pictures.h"
+#include "support/program.h"
 
 namespace kelvo::editing {
 namespace {
@@ -17,6 +20,11 @@ using model::PictureImage;
 using support::Colour;
 using support::kAllSlots;
 using support::PictureWithCell;
+
+class NoEvents final : public app::ProcessEvents {
+ public:
+  void Process() override {}
+};
 
 constexpr int kCell = 42, kX = 5, kY = 9;  // cell 42 begins at x 5, y 9
 
@@ -163,6 +171,33 @@ TEST(Circle, SamplesColumnsInsideThePicture) {
   for (const model::PixelPoint& centre : {model::PixelPoint{2, 3}, {155, 195}}) {
     for (const model::PixelPoint& point : DrawCircle(centre, 20)) {
       EXPECT_TRUE(point.x >= 1 && point.x <= 160 && point.y <= 200) << point.x << ", " << point.y;
+    }
+  }
+}
+
+// With the real fill, of every radius that a press can give, in the middle and cut off by the picture's edges.
+TEST(Circle, ClosedKeepsAFillInside) {
+  support::RecordingViews views;
+  NoEvents events;
+  PictureImage picture;
+  FloodFill fill(picture, views, events);
+  for (const model::PixelPoint& centre : {model::PixelPoint{80, 100}, {3, 2}, {150, 199}}) {
+    for (int radius = 1; radius <= 189; ++radius) {
+      SCOPED_TRACE(testing::Message() << centre.x << ", " << centre.y << ": " << radius);
+      picture = {};
+      const Points closed = DrawCircle(centre, radius, CircleOutline::kClosed);
+      for (const auto& point : closed) PlotPixel(picture, point.x, point.y, Colour(1), FullCell::kRefuse);
+      for (const auto& point : DrawCircle(centre, radius)) {
+        ASSERT_NE(std::find(closed.begin(), closed.end(), point), closed.end());
+      }
+      fill.Fill(centre.x, centre.y, Colour(2), FullCellInFill::kKeep);
+      ASSERT_EQ(support::ColourAt(picture, centre.x, centre.y), 2);
+      for (int place = 0; place < 160 * 200; ++place) {
+        const int x = place % 160 + 1, y = place / 160 + 1, across = std::abs(x - centre.x);
+        if (support::ColourAt(picture, x, y) == 0) continue;
+        const double down = std::abs(y - centre.y) / 2.0;
+        ASSERT_LT(std::hypot(across, down), radius + 1.5) << x << ", " << y;
+      }
     }
   }
 }

@@ -72,7 +72,7 @@ class PaintingTest : public testing::Test, protected support::Program {
 
   PictureImage& picture = document.picture;
   Surroundings around;
-  Painting painting{picture, {views, settings, around, around, around, log}};
+  Painting painting{picture, {views, settings, around, status, around, around, log}};
 };
 
 TEST_F(PaintingTest, AFastStrokeHasNoHolesAndIsOneUndoStep) {
@@ -160,6 +160,22 @@ TEST_F(PaintingTest, ARefusalIsToldOncePerEventAndEndsNoMoreThanItMust) {
   painting.Tick();
   EXPECT_EQ(around.shown.size(), 6U);  // once for both full cells
   EXPECT_EQ(CountOf(5), 12);
+}
+
+TEST_F(PaintingTest, ARefusalIsToldWhereTheUserChose) {
+  settings.Write(k4thColReplaces, "0");
+  support::SetCell(picture, 41, support::kAllSlots, 1, 2, 3);
+  Click({1, 9});
+  around.ticks = true;  // in the second box
+  Click({1, 9});
+  EXPECT_EQ(around.shown.size(), 2U);
+  EXPECT_EQ(settings.Read(kTellRefusalsInStatusBar), "1");
+  Click({1, 9});
+  EXPECT_EQ(around.shown.size(), 2U);
+  EXPECT_EQ(status.words, support::Lines{"Not possible - all colors used"});
+  settings.Write(k4thColReplaces, "1");
+  Click({1, 9});
+  EXPECT_EQ(views.full_cells, "41- 41- 41- 41+ ");
 }
 
 TEST_F(PaintingTest, ShapesAreDrawnWithTheLeftPenAtTheTickAfterTheirLastPoint) {

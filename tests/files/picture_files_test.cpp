@@ -43,6 +43,28 @@ TEST_F(PictureFilesTest, OpeningByDialogTakesTheChosenTypeAndTellsEveryone) {
   EXPECT_FALSE(document.HasUnsavedWork());
 }
 
+TEST_F(PictureFilesTest, AFileOfAnotherFormatThanTheFilterIsReadAsWhatItIs) {
+  using Row = std::tuple<FormatType, const char*, std::size_t, FormatType>;
+  for (const auto& [filter, name, size, as] :
+       {Row{kOwnType, "a.koa", 10003, kKoaType}, Row{kOwnType, "a.prg", 10003, kKoaType},
+        Row{kKlaType, "a.kvp", 10057, kOwnType}, Row{kKoaType, "a.vid", 10050, kVidcom64Type},
+        Row{kVidcom64Type, "a.kvp", 10050, kVidcom64Type}}) {
+    SCOPED_TRACE(name);
+    const app::Bytes bytes = support::CountingBytes(size);
+    support::WriteFile(folder / name, bytes);
+    dialogs.open = ChosenFile{folder / name, filter};
+    const auto expected = Decode(FormatOf(as), bytes, document.picture.BackgroundColour);
+    EXPECT_TRUE(files.Open());
+    EXPECT_EQ(document.picture, expected);
+  }
+  EXPECT_EQ(dialogs.filters, (std::vector<FormatType>{1, 1, 1, 4, 3}));  // the one before is remembered
+  support::WriteFile(folder / "short.koa", support::CountingBytes(9000));
+  dialogs.open = ChosenFile{folder / "short.koa", kOwnType};
+  EXPECT_FALSE(files.Open());
+  EXPECT_EQ(messages.shown, Lines{"Felaktig filstorlek."});
+  EXPECT_EQ(messages.more, "A file of this type has 10050 or 10057 bytes, this one has 9000.");
+}
+
 TEST_F(PictureFilesTest, AFailedLoadChangesNothing) {
   files.OpenPicture(WriteKoala("good.koa"));
   const Document before = document;
@@ -84,22 +106,28 @@ TEST_F(PictureFilesTest, ReadsExactlyOnRequestAndSaysWhereThatMatters) {
     ASSERT_TRUE(files.OpenPicture(koala));
     EXPECT_EQ(document.picture.Bitmap[8000], last);
     EXPECT_EQ(document.picture.BackgroundColour.Number(), background);
-    EXPECT_TRUE(display.said.ends_with(word)) << display.said;
-    display.said.clear();
+    ASSERT_EQ(status.words.size(), 1U);
+    EXPECT_TRUE(status.words.back().ends_with(word)) << status.words.back();
+    status.words.clear();
   }
   document.picture.Bitmap[5] ^= 1;
   ASSERT_TRUE(files.Save());
   const app::Bytes saved = support::ReadFile(folder / "pic.kvp");
   ASSERT_TRUE(files.Reload());
   EXPECT_EQ(Encode(document.picture), saved);
-  EXPECT_FALSE(display.said.empty());
+  EXPECT_TRUE(status.words.back().ends_with("exactly")) << status.words.back();
 
   support::WriteText(folder / "pic.gg", "no picture");
   EXPECT_FALSE(files.OpenPicture(folder / "pic.gg"));
   EXPECT_TRUE(messages.shown.back().ends_with("it unpacks to less than a picture."));
   support::WriteFile(folder / "pic.gg", EncodeAs(FormatOf(kArtStudioType), document.picture));
-  EXPECT_TRUE(files.OpenPicture(folder / "pic.gg"));
-  EXPECT_EQ(document.picture.Bitmap[8000], bytes[8001]);
+  settings.Write(kReadFilesExactly, "0");
+  for (const auto& [name, filter] : {std::pair{"pic.gg", kOwnType}, {"pic.koa", kByContentType}}) {
+    files.New();
+    dialogs.open = ChosenFile{folder / name, filter};
+    EXPECT_TRUE(files.Open());
+    EXPECT_EQ(document.picture.Bitmap[8000], bytes[8001]) << name;
+  }
 }
 
 TEST_F(PictureFilesTest, SavingKeepsTheStateBeforeAsBackup) {
@@ -207,7 +235,7 @@ TEST_F(PictureFilesTest, ProgramsOnOneFolderBackUpTheirOwnPictures) {
   const app::ProgramFolders second_folders(folders.Root(), 2);
   Document second;
   PictureFiles second_files(
-      second, {{second_folders, settings, clock, log, messages, prompt}, pointer, dialogs, display, views});
+      second, {{second_folders, settings, clock, log, messages, prompt}, pointer, dialogs, display, views, status});
   support::WriteFile(folder / "b.kvp", app::Bytes(10050, 9));
   second_files.OpenPicture(Text("b.kvp"));
   EXPECT_TRUE(files.Save());

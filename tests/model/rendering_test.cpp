@@ -204,6 +204,33 @@ TEST(ZoomView, PointerOnTheBorderIsOnNoPixel) {
   EXPECT_EQ(area.Magnification(), 4);
 }
 
+// Scrolling ends where the picture does, whatever is visible; a click puts half of it before the cell.
+TEST(ZoomView, MoreRoomShowsMoreUpToTheWholePicture) {
+  struct Case {
+    int magnification, room_width, room_height;
+    int width, height;             // visible, in full-view pixels
+    int far_x, far_y, on_x, on_y;  // the origin at the far end, and after a click on cell 21, 13
+  };
+  for (const Case& c : {Case{4, 640, 576, 160, 144, 160, 56, 88, 24}, Case{8, 640, 576, 80, 72, 240, 128, 128, 64},
+                        Case{4, 999, 700, 248, 168, 72, 32, 40, 16}, Case{8, 999, 700, 120, 80, 200, 120, 104, 56},
+                        Case{4, 5000, 5000, 320, 200, 0, 0, 0, 0}, Case{8, 1, -9, 8, 8, 312, 192, 160, 96}}) {
+    ZoomArea area;
+    area.SetMagnification(c.magnification);
+    area.MoveTo(160, 56);
+    area.SetRoom(c.room_width, c.room_height);
+    EXPECT_EQ(std::tuple(area.VisibleWidth(), area.VisibleHeight()), std::tuple(c.width, c.height));
+    EXPECT_LE(area.ZoomOriginX() + area.VisibleWidth(), kFullViewWidth);
+    EXPECT_LE(area.ZoomOriginY() + area.VisibleHeight(), kFullViewHeight);
+    area.MoveTo(9999, 9999);
+    EXPECT_EQ(std::tuple(area.ZoomOriginX(), area.ZoomOriginY()), std::tuple(c.far_x, c.far_y));
+    area.CentreOn(21, 13);
+    EXPECT_EQ(std::tuple(area.ZoomOriginX(), area.ZoomOriginY()), std::tuple(c.on_x, c.on_y));
+    Surface surface(area.SurfaceWidth(), area.SurfaceHeight());
+    DrawCapturePic(support::RandomPicture(5), area, kGrid, surface);
+    EXPECT_EQ(surface.At(ZoomArea::kBorder, ZoomArea::kBorder + 1), SurfaceColour(kGrid.colour));
+  }
+}
+
 TEST(ZoomBorder, FlashesFromDarkToBrightAndBack) {
   ZoomBorderColour border;
   EXPECT_FALSE(border.Tick());

@@ -51,6 +51,14 @@ class FixedClock final : public app::Clock {
 class RecordingMessages : public app::Messages {
  public:
   void Inform(std::string_view text) override { shown.emplace_back(text); }
+  void InformWithMore(std::string_view text, std::string_view added) override {
+    Inform(text);
+    more = added;
+  }
+  bool InformWithChoice(std::string_view text, std::string_view) override {
+    Inform(text);
+    return ticks;
+  }
   void Warn(std::string_view text) override { shown.emplace_back(text); }
   void Tell(std::string_view text) override { shown.emplace_back(text); }
   bool Ask(std::string_view text) override {
@@ -62,8 +70,17 @@ class RecordingMessages : public app::Messages {
     return unsaved;
   }
   Lines shown;
+  std::string more;  // below the last text
+  bool ticks = false;
   bool yes = false;
   app::UnsavedAnswer unsaved = app::UnsavedAnswer::kCancel;
+};
+
+class RecordingStatus final : public app::StatusLine {
+ public:
+  void Tell(std::string_view text) override { words.emplace_back(text); }
+  void Warn(std::string_view text) override { words.emplace_back(text); }
+  Lines words;
 };
 
 class RecordingPrompt final : public app::PromptOutput {
@@ -77,9 +94,13 @@ class RecordingViews final : public model::PictureViews {
   void PixelChanged(int x, int y) override { pixels.push_back({x, y}); }
   void CellChanged(int cell) override { cells.push_back(cell); }
   void PictureChanged() override { ++pictures; }
+  void FullCellMet(int cell, model::FullCellFate fate) override {
+    full_cells += std::to_string(cell) + (fate == model::FullCellFate::kRecoloured ? "+ " : "- ");
+  }
   std::vector<std::pair<int, int>> pixels;
   std::vector<int> cells;
   int pictures = 0;
+  std::string full_cells;  // "7+ ": cell 7 was recoloured, "7- ": it was refused
 };
 
 class NoWaitPointer final : public app::WaitPointer {
@@ -90,7 +111,8 @@ class NoWaitPointer final : public app::WaitPointer {
 
 class PlannedDialogs final : public files::FileDialogs {
  public:
-  std::optional<files::ChosenFile> SelectFile(const std::filesystem::path& folder) override {
+  std::optional<files::ChosenFile> SelectFile(const std::filesystem::path& folder, files::FormatType type) override {
+    filters.push_back(type);
     folders.push_back(app::TextFromPath(folder));
     return open;
   }
@@ -101,6 +123,7 @@ class PlannedDialogs final : public files::FileDialogs {
   std::optional<files::ChosenFile> open;
   std::optional<std::string> save;
   Lines folders, proposals;
+  std::vector<files::FormatType> filters;
 };
 
 class RecordingDisplay final : public files::FileDisplay {
@@ -108,8 +131,7 @@ class RecordingDisplay final : public files::FileDisplay {
   void ShowFile(const files::CurrentFile& file) override { title = files::WindowTitle(file); }
   void PictureReplaced() override { ++replaced; }
   void PictureSaved() override { ++saved; }
-  void Say(std::string_view word) override { said = word; }
-  std::string title, said;
+  std::string title;
   int replaced = 0, saved = 0;
 };
 
@@ -129,9 +151,10 @@ struct Program {
   PlannedDialogs dialogs;
   RecordingDisplay display;
   RecordingViews views;
+  RecordingStatus status;
   files::Document document;
-  files::PictureFiles files{document,
-                            {{folders, settings, clock, log, messages, prompt}, pointer, dialogs, display, views}};
+  files::PictureFiles files{
+      document, {{folders, settings, clock, log, messages, prompt}, pointer, dialogs, display, views, status}};
   // What the parts of the program that work with the picture are given.
   files::PictureSurroundings surroundings{{folders, settings, clock, log, messages, prompt}, document, files};
 };

@@ -1,6 +1,9 @@
 // An animation made, walked through and played on the real main window.
 #include <QCloseEvent>
-#include <QStatusBar>
+#include <QDir>
+#include <QFileDialog>
+#include <QMdiSubWindow>
+#include <QScreen>
 
 #include "anim/anim_settings.h"
 #include "main_frame_fixture.h"
@@ -25,6 +28,17 @@ TEST_F(AnimationTest, FramesAreMadeVisitedSavedWhenLeftAndPlayed) {
   AnswerNext(QMessageBox::Ok);
   Action("mnuAnimMode")->trigger();
   EXPECT_EQ(box_text, "Animation folder must be specified");
+  InNextDialog([this](QDialog& dialog) {
+    InNextDialog<QFileDialog>([this](QFileDialog& chooser) {
+      chooser.setDirectory(ToQt(app::TextFromPath(frames)));
+      static_cast<QDialog&>(chooser).accept();
+    });
+    dialog.findChild<QAbstractButton*>("browseFolder")->click();
+    const QString path = dialog.findChild<QLineEdit*>("Folder")->text();
+    EXPECT_TRUE(path.endsWith(QString("frames") + QDir::separator())) << FromQt(path);
+    dialog.reject();
+  });
+  Action("mnuAnimProperties")->trigger();
   InNextDialog([path = ToQt(app::TextFromPath(frames) + "/")](QDialog& dialog) {
     FillIn(dialog, {{"Folder", path}, {"AnimPrefix", "  walk "}});
   });
@@ -54,6 +68,16 @@ TEST_F(AnimationTest, FramesAreMadeVisitedSavedWhenLeftAndPlayed) {
     seen.insert(Box("frmBMPView")->grab().toImage().pixel(100, 180));
     return seen.size() == 2;
   }));
+  Press("cmdPlayWindow");
+  Find("frmPlayer")->resize(700, 300);
+  seen.clear();
+  EXPECT_TRUE(QTest::qWaitFor([&] {
+    seen.insert(Find("frmPlayer")->grab().toImage().pixel(350, 290));
+    return seen.size() == 2;
+  }));
+  EXPECT_EQ(Find("frmPlayer")->grab().toImage().pixelColor(90, 150), QColor(Qt::black));  // beside the picture
+  QTest::keyClick(Find("frmPlayer"), Qt::Key_Escape);
+  EXPECT_EQ(Find<QAbstractButton>("cmdPlay")->text(), "&Stop");
   Press("cmdPlay");
   EXPECT_EQ(frame->Document().picture, before);
   EXPECT_EQ(Box("frmBMPView")->grab().toImage(), look);
@@ -76,7 +100,11 @@ TEST_F(AnimationTest, TheFrameWindowFollowsKeysFilesAndPlaces) {
   settings.Write(anim::kFolder, app::TextFromPath(frames) + "/");
   AnswerNext(QMessageBox::Yes);
   Action("mnuAnimMode")->trigger();
-  EXPECT_TRUE(frame->geometry().contains(Find("frmAnim")->geometry()));
+  EXPECT_TRUE(frame->screen()->geometry().contains(Find("frmAnim")->geometry()));
+  for (const auto* child : frame->findChildren<QMdiSubWindow*>()) {
+    const QRect place(child->mapToGlobal(QPoint()), child->size());
+    EXPECT_FALSE(place.intersects(Find("frmAnim")->geometry())) << FromQt(child->objectName());
+  }
   Find("frmAnim")->move(frame->pos() + QPoint(300, 200));
   const QPoint place = Find("frmAnim")->pos();
   Find("frmAnim")->close();
@@ -99,7 +127,7 @@ TEST_F(AnimationTest, TheFrameWindowFollowsKeysFilesAndPlaces) {
   EXPECT_EQ(Number(), "");
   remove_all(frames);
   Press("cmdPlay");
-  EXPECT_EQ(frame->statusBar()->currentMessage(), "THERE ARE NO FRAMES");
+  EXPECT_EQ(Panel("pnlWord"), "THERE ARE NO FRAMES");
   Find("frmAnim")->setGeometry(70, 90, 0, 0);
   frame->close();
   EXPECT_EQ(settings.values["Settings/frmAnimLeftPos"], "70");

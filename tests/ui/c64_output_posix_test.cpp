@@ -69,7 +69,9 @@ TEST_F(C64OutputTest, MakesAProgramThatShowsThePictureWhateverItsName) {
     Open(name + ".koa");
     Action("mnuCreatePRGCompopic")->trigger();
     EXPECT_EQ(PromptLines().last(), "--> PRG complete.");
-    ExpectShows(support::ReadFile(art / app::PathFromText(name + ".prg")));
+    const app::Bytes made = support::ReadFile(art / app::PathFromText(name + ".prg"));
+    EXPECT_TRUE(Panel("pnlWord").endsWith(QString(".prg, %1 bytes").arg(made.size()))) << FromQt(Panel("pnlWord"));
+    ExpectShows(made);
     EXPECT_EQ(std::distance(fs::directory_iterator(art), {}), 2);
     remove_all(art);
   }
@@ -85,6 +87,7 @@ TEST_F(C64OutputTest, PutsTheProgramOnADiskAndShowsItInVice) {
   Action("mnuCreatePRGCompopic")->trigger();
   Action("mnuPreviewCompopicInVICE")->trigger();
   EXPECT_EQ(PromptLines().last(), "--> Launching VICE.");
+  EXPECT_TRUE(Panel("pnlWord").endsWith("Name.d64, 174848 bytes"));
   const std::string image = app::TextFromPath(art / "My Picture With A Long Name.d64");
   EXPECT_EQ(support::ReadText(folder / "called"), "-autostart " + image + ":my picture with .prg\n");
   const fs::path extracted = folder / "extracted";
@@ -184,6 +187,8 @@ TEST_F(C64OutputTest, TwoProgramsDoNotBuildInEachOthersFiles) {
   support::WriteText(folders.System() / "bmpshow.prg", "the other's");
   Action("mnuCreatePRGCompopic")->trigger();
   EXPECT_EQ(PromptLines().last(), "--> [err 908]");
+  EXPECT_EQ(Panel("pnlWord"), "Build failed");
+  EXPECT_EQ(Find("pnlWord")->backgroundRole(), QPalette::ToolTipBase);  // a warning's
   EXPECT_EQ(support::ReadText(folders.System() / "bmpshow.prg"), "the other's");
   other.unlock();
   Find("frmCommand")->parentWidget()->hide();

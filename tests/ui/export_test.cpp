@@ -11,8 +11,6 @@
 namespace kelvo::ui {
 namespace {
 
-using model::PictureImage;
-
 class ExportTest : public MainFrameTest {
  protected:
   ExportTest() {
@@ -20,8 +18,6 @@ class ExportTest : public MainFrameTest {
     support::WriteFile(folder / "r.kvp", files::Encode(support::RandomPicture(5)));
     frame->Files().OpenPicture(folder / "r.kvp");
   }
-
-  const PictureImage& Picture() const { return frame->Document().picture; }
 
   // Exports through both dialogs; what the first one says of the format stays in `told`.
   app::Bytes Export(int format, const std::string& name) {
@@ -92,7 +88,7 @@ TEST_F(ExportTest, PngImagesHoldThePictureBitForBit) {
 }
 
 TEST_F(ExportTest, TheClipboardTakesThePictureAndTextFieldsKeepTheirCtrlC) {
-  QTest::keyClick(Box("frmZoom"), Qt::Key_C, Qt::ControlModifier);
+  Key(Qt::Key_C, Qt::ControlModifier);
   EXPECT_EQ(QGuiApplication::clipboard()->image().convertToFormat(QImage::Format_RGB32),
             frame->Exports().Image().convertToFormat(QImage::Format_RGB32));
   QLineEdit field(frame.get());

@@ -5,6 +5,7 @@
 #include "model/named_palettes.h"
 #include "support/pictures.h"
 #include "ui/desks/history_desk.h"
+#include "ui/desks/window_desk.h"
 #include "ui/windows/export_dialog.h"
 
 namespace kelvo::ui {
@@ -16,15 +17,11 @@ class HistoryWindowTest : public MainFrameTest {
  protected:
   HistoryWindowTest() { Start(); }
 
-  void Click(int x, int y) {
-    const model::Rect box = frame->Zoom().Area().PixelRect(x, y);
-    QTest::mouseClick(Box("frmZoom"), Qt::LeftButton, {}, {box.x + box.width / 2, box.y + box.height / 2});
-  }
+  void Click(int x, int y) { QTest::mouseClick(Box("frmZoom"), Qt::LeftButton, {}, At(x, y)); }
   void Paint(Qt::Key pen, int x, int y) {
-    QTest::keyClick(Box("frmZoom"), pen);
+    Key(pen);
     Click(x, y);
   }
-  const PictureImage& Picture() const { return frame->Document().picture; }
   history::History& Steps() { return frame->History().Steps(); }
   // As the history window shows them.
   QStringList Rows() const {
@@ -35,7 +32,7 @@ class HistoryWindowTest : public MainFrameTest {
   }
   void ClickRow(int row) {
     auto* list = Find<QListView>("lstSteps");
-    if (!frame->IsWindowShown(ChildWindowId::kHistory)) Action("mnuHistory")->trigger();
+    if (!frame->Windows().IsShown(ChildWindowId::kHistory)) Action("mnuHistory")->trigger();
     list->scrollTo(list->model()->index(row, 0));
     QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(list->model()->index(row, 0)).center());
   }
@@ -87,7 +84,7 @@ TEST_F(HistoryWindowTest, EveryActionIsAStepAndCanBeGoneTo) {
   }
   EXPECT_FALSE(Action("mnuStepBack")->isEnabled());
   for (std::size_t step = 1; step < shown.size(); ++step) {
-    QTest::keyClick(Box("frmZoom"), Qt::Key_Y, Qt::ControlModifier | Qt::AltModifier);
+    Key(Qt::Key_Y, Qt::ControlModifier | Qt::AltModifier);
     ASSERT_EQ(Picture(), shown[step]) << step;
   }
   EXPECT_FALSE(Action("mnuStepForward")->isEnabled());
@@ -119,7 +116,7 @@ TEST_F(HistoryWindowTest, ABranchStaysAndWorkThatAStepLeavesIsKeptOnce) {
 TEST_F(HistoryWindowTest, CtrlZStepsBackWhereThePreferenceSaysSo) {
   Paint(Qt::Key_6, 3, 3);
   Paint(Qt::Key_7, 4, 3);
-  QTest::keyClick(Box("frmZoom"), Qt::Key_Z, Qt::ControlModifier);
+  Key(Qt::Key_Z, Qt::ControlModifier);
   EXPECT_EQ(Steps().Count(), 4);  // Undo is a step itself
   InNextDialog([](const QDialog& dialog) {
     dialog.findChild<QCheckBox*>("CtrlZStepsBack")->setChecked(true);
@@ -128,9 +125,9 @@ TEST_F(HistoryWindowTest, CtrlZStepsBackWhereThePreferenceSaysSo) {
   Action("mnuPreferences")->trigger();
   frame->activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(frame.get()));
-  for (int press = 0; press < 2; ++press) QTest::keyClick(Box("frmZoom"), Qt::Key_Z, Qt::ControlModifier);
+  for (int press = 0; press < 2; ++press) Key(Qt::Key_Z, Qt::ControlModifier);
   EXPECT_EQ(Steps().Current(), 1);
-  QTest::keyClick(Box("frmZoom"), Qt::Key_Y, Qt::ControlModifier);
+  Key(Qt::Key_Y, Qt::ControlModifier);
   EXPECT_EQ(Steps().Current(), 2);
   EXPECT_EQ(Steps().Count(), 4);
 }

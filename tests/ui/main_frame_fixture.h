@@ -13,6 +13,7 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QSpinBox>
 #include <QTest>
 #include <QTimer>
@@ -30,6 +31,21 @@ namespace kelvo::ui {
 
 class MainFrameTest : public testing::Test {
  protected:
+  MainFrameTest() {
+    QObject::connect(&watch, &QTimer::timeout, [this] { CloseUnanswered(); });
+    watch.start(10000);
+  }
+  // A box that nobody answers fails the test and does not hold it up; those after it do not even get that time.
+  void CloseUnanswered() {
+    auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    if (box != nullptr && box == unanswered) {
+      ADD_FAILURE() << "Nobody answers " << FromQt(box->objectName() + box->windowTitle());
+      watch.start(0);
+      box->reject();
+    }
+    unanswered = box;
+  }
+
   void Start() { StartWith(settings); }
   void StartWith(app::SettingsStore& store) {
     frame = std::make_unique<MainFrame>(folders, store, clock);
@@ -46,6 +62,14 @@ class MainFrameTest : public testing::Test {
   }
   // The picture box of a child window.
   QWidget* Box(const char* form) const { return Find(form)->findChild<QWidget*>("picStd"); }
+  QWidget* Swatch(int colour) const { return Find(("swatch_" + std::to_string(colour)).c_str()); }
+  // The middle of a picture pixel's box in the zoom window, and a key that is pressed there.
+  QPoint At(int x, int y) const {
+    const model::Rect box = frame->Zoom().Area().PixelRect(x, y);
+    return {box.x + box.width / 2, box.y + box.height / 2};
+  }
+  void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) { QTest::keyClick(Box("frmZoom"), key, modifiers); }
+  const model::PictureImage& Picture() const { return frame->Document().picture; }
   QString Panel(const char* name) const { return Find<QLabel>(name)->text(); }
   QPoint ZoomOrigin() const { return {frame->Zoom().Area().ZoomOriginX(), frame->Zoom().Area().ZoomOriginY()}; }
 
@@ -99,6 +123,8 @@ class MainFrameTest : public testing::Test {
   support::FixedClock clock;
   std::unique_ptr<MainFrame> frame;
   QString box_text;
+  QTimer watch;
+  QPointer<QDialog> unanswered;
 };
 
 }  // namespace kelvo::ui

@@ -12,11 +12,6 @@ class PaintingWindowTest : public MainFrameTest {
  protected:
   PaintingWindowTest() { Start(); }
 
-  // The middle of a picture pixel's box in the zoom window.
-  QPoint At(int x, int y) const {
-    const model::Rect box = frame->Zoom().Area().PixelRect(x, y);
-    return {box.x + box.width / 2, box.y + box.height / 2};
-  }
   // The mouse goes through the window, so that Qt's own grabbing and blocking takes part.
   QPoint InWindow(int x, int y) const { return Box("frmZoom")->mapTo(frame.get(), At(x, y)); }
   void Press(int x, int y) { QTest::mousePress(frame->windowHandle(), Qt::LeftButton, {}, InWindow(x, y)); }
@@ -25,7 +20,6 @@ class PaintingWindowTest : public MainFrameTest {
   void Click(int x, int y, Qt::MouseButton button = Qt::LeftButton) {
     QTest::mouseClick(frame->windowHandle(), button, {}, InWindow(x, y));
   }
-  void Key(Qt::Key key) { QTest::keyClick(Box("frmZoom"), key); }
   // By the keyboard, so that the mouse may be held.
   void CloseNextBox(bool let_go) {
     InNextDialog<QMessageBox>([this, let_go](QMessageBox& box) {
@@ -38,9 +32,7 @@ class PaintingWindowTest : public MainFrameTest {
     return QTest::qWaitFor([&] { return Panel("pnlTool") == prompt; });
   }
   QString Bytes() const { return Find<QLabel>("lblBytes")->text(); }
-  const model::PictureImage& Picture() const { return frame->Document().picture; }
   int Colour(int x, int y) const { return support::ColourAt(Picture(), x, y); }
-  QWidget* Swatch(int colour) const { return Find(("swatch_" + std::to_string(colour)).c_str()); }
 };
 
 TEST_F(PaintingWindowTest, ToolsPaintWithTheMouseAndAreUndone) {
@@ -147,6 +139,28 @@ TEST_F(PaintingWindowTest, AFullCellIsRefusedWhereThePreferenceSaysSo) {
   EXPECT_EQ(Colour(7, 1), 0);
 }
 
+TEST_F(PaintingWindowTest, ARefusalFlashesAndCanDoWithoutItsBox) {
+  settings.Write(editing::k4thColReplaces, "0");
+  for (int pen = 1; pen <= 3; ++pen) {
+    Key(static_cast<Qt::Key>(Qt::Key_1 + pen));
+    Click(pen, 1);
+  }
+  Key(Qt::Key_5);
+  const auto shown = [this] { return Box("frmZoom")->grab().toImage(); };
+  MoveTo(4, 1);
+  const QImage calm = shown();
+  InNextDialog<QMessageBox>([](QMessageBox& box) {
+    EXPECT_EQ(box.checkBox()->text(), "Tell it in the status bar from now on");
+    box.checkBox()->click();
+    QTest::keyClick(&box, Qt::Key_Return);
+  });
+  Click(4, 1);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return shown() == calm; }));
+  Click(4, 1);
+  EXPECT_NE(shown(), calm);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return shown() == calm; }));
+}
+
 TEST_F(PaintingWindowTest, PensAndBackgroundAreChosenInTheColoursWindow) {
   QTest::mouseClick(Swatch(7), Qt::LeftButton);
   QTest::mouseClick(Swatch(8), Qt::RightButton);
@@ -176,6 +190,59 @@ TEST_F(PaintingWindowTest, PensAndBackgroundAreChosenInTheColoursWindow) {
   EXPECT_TRUE(Swatch(12)->accessibleName().startsWith("left pen"));
   Key(Qt::Key_8);
   EXPECT_TRUE(Swatch(7)->accessibleName().startsWith("left pen"));
+}
+
+TEST_F(PaintingWindowTest, AltTakesTheColourUnderThePointerAndXSwapsThePens) {
+  Key(Qt::Key_6);
+  Click(9, 1);
+  Key(Qt::Key_8);
+  Click(9, 2);
+  const model::PictureImage before = Picture();
+  const auto alt_click = [](QWidget* box, Qt::MouseButton button, QPoint at) {
+    QTest::mousePress(box, button, Qt::AltModifier, at);
+    MoveMouse(box, at + QPoint(40, 90), button);
+    QTest::mouseRelease(box, button, Qt::AltModifier, at + QPoint(40, 90));
+  };
+  alt_click(Box("frmZoom"), Qt::LeftButton, At(9, 1));
+  alt_click(Box("frmZoom"), Qt::RightButton, At(9, 2));
+  const auto pens = [&pens = frame->Desk().Painting().PenColours()] {
+    return std::pair(pens.left.Number(), pens.right.Number());
+  };
+  EXPECT_EQ(pens(), std::pair(5, 7));
+  Key(Qt::Key_X);
+  EXPECT_EQ(pens(), std::pair(7, 5));
+  alt_click(Box("frmBMPView"), Qt::RightButton, {17, 1});
+  alt_click(Box("frmBMPView"), Qt::LeftButton, {17, 0});
+  EXPECT_EQ(pens(), std::pair(5, 7));
+  EXPECT_EQ(Picture(), before);
+  EXPECT_EQ(ZoomOrigin(), QPoint(0, 0));  // the full view was not dragged
+}
+
+TEST_F(PaintingWindowTest, ABackgroundIsTriedAndCellUseIsShown) {
+  Key(Qt::Key_8);
+  for (int x = 1; x <= 4; ++x) Click(x, 1);
+  const QImage plain = Box("frmBMPView")->grab().toImage(), zoomed = Box("frmZoom")->grab().toImage();
+  Action("mnuCellUse")->trigger();
+  EXPECT_NE(Box("frmBMPView")->grab().toImage(), plain);
+  EXPECT_NE(Box("frmZoom")->grab().toImage(), zoomed);
+  EXPECT_TRUE(Swatch(7)->accessibleName().endsWith(", in 1 cell"));
+  Click(5, 1);
+  EXPECT_TRUE(Swatch(7)->accessibleName().endsWith(", in 2 cells"));
+  Click(5, 1, Qt::RightButton);
+  Action("mnuCellUse")->trigger();
+  EXPECT_EQ(Box("frmBMPView")->grab().toImage(), plain);
+  EXPECT_FALSE(Swatch(7)->accessibleName().contains("cells"));
+
+  InNextDialog([](QDialog& dialog) {
+    const auto number = [&dialog](const char* label) { return dialog.findChild<QLabel*>(label)->text(); };
+    EXPECT_EQ(number("lblClash_7"), "1");
+    dialog.findChild<QAbstractButton*>("cmdTry_7")->click();
+    EXPECT_EQ(number("lblGain_7"), "as it is");
+    EXPECT_EQ(number("lblClash_0"), "0");
+    dialog.reject();
+  });
+  Action("mnuWhatIf")->trigger();
+  EXPECT_EQ(Colour(100, 100), 7);
 }
 
 }  // namespace

@@ -1,17 +1,33 @@
 #include <gtest/gtest.h>
 
+#include <QFile>
 #include <QLoggingCategory>
 #include <QSettings>
 #include <QTemporaryDir>
 
 #include "ui/application.h"
 
+namespace {
+
+// A display that has room for the main window's first size, which Qt's own offscreen one has not.
+void UseScreen(const QString& file) {
+  QFile screen(file);
+  if (!screen.open(QIODevice::WriteOnly)) return;
+  screen.write(R"({"screens": [{"name": "one", "x": 0, "y": 0, "width": 1280, "height": 1024, "logicalDpi": 96,
+                                "logicalBaseDpi": 96, "dpr": 1}]})");
+  qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + QFile::encodeName(file));
+}
+
+}  // namespace
+
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
-  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  QLoggingCategory::setFilterRules("qt.qpa.*=false");
   // No test may touch the settings of whoever runs it.
   const QTemporaryDir settings;
+  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") || qgetenv("QT_QPA_PLATFORM") == "offscreen") {
+    UseScreen(settings.filePath("screen.json"));
+  }
+  QLoggingCategory::setFilterRules("qt.qpa.*=false");
   QSettings::setDefaultFormat(QSettings::IniFormat);
   QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settings.path());
   kelvo::ui::KelvoApplication application(argc, argv);

@@ -3,15 +3,19 @@
 #include <QImageReader>
 #include <QLineEdit>
 #include <QMdiSubWindow>
+#include <QStatusTipEvent>
+#include <QTextBrowser>
 #include <QWheelEvent>
 
 #include "editing/painting.h"
+#include "editing/tool_table.h"
 #include "main_frame_fixture.h"
 #include "model/palette.h"
 #include "ui/menu_table.h"
 #include "ui/ports/qt_file_dialogs.h"
 #include "ui/widgets/icons.h"
 #include "ui/windows/screenshot.h"
+#include "ui/windows/window_layout.h"
 
 namespace kelvo::ui {
 namespace {
@@ -104,6 +108,83 @@ TEST_F(WorkplaceTest, KeysWheelDragAndClickMoveTheZoomArea) {
   EXPECT_EQ(frame->Document().picture, model::PictureImage());
 }
 
+TEST_F(WorkplaceTest, TheColumnKeepsItsWidthWhateverColoursItNames) {
+  for (int colour = 0; colour < model::C64Colour::kCount; ++colour) {
+    frame->SetBackgroundColour(colour);
+    QApplication::processEvents();
+    EXPECT_EQ(Child("frmCharData")->width(), Child("frmColors")->width()) << colour;
+  }
+}
+
+TEST_F(WorkplaceTest, AnEnlargedZoomWindowShowsMoreAndPaintsUnderThePointer) {
+  frame->resize(1270, 900);
+  QTest::qWait(50);
+  Action("mnuZoomLarge")->trigger();
+  const model::ZoomArea& area = frame->Zoom().Area();
+  EXPECT_TRUE(Action("mnuZoomLarge")->isChecked());
+  EXPECT_GT(area.VisibleWidth(), 200);
+  EXPECT_EQ(area.VisibleHeight(), 192);
+  const int x = area.VisibleWidth() / 2, y = area.VisibleHeight();  // the last pixel that is shown
+  const model::Rect box = area.PixelRect(x, y);
+  QTest::mouseClick(Box("frmZoom"), Qt::LeftButton, {}, {box.x + 1, box.y + 1});
+  EXPECT_EQ(model::GetPixelData(frame->Document().picture, x, y).colour.Number(), 1);
+  EXPECT_EQ(Box("frmZoom")->grab().toImage().pixel(box.x + 4, box.y + 2), 0xFFFFFFFFU);
+  Action("mnuZoomLarge")->trigger();
+  EXPECT_EQ(QSize(area.VisibleWidth(), area.VisibleHeight()), QSize(160, 144));
+}
+
+TEST_F(WorkplaceTest, AMagnifiedFullViewStaysSharpAndPointsAtTheRightPixel) {
+  frame->Files().OpenPicture(WriteKoala("p.koa"));
+  for (const int scale : {1, 2, 3}) {
+    for (int pal = 0; pal < 2; ++pal) {
+      Action(("mnuFullViewScale_" + std::to_string(scale - 1)).c_str())->trigger();
+      if (pal == 1) Action("mnuFullViewPal")->trigger();
+      QWidget* box = Box("frmBMPView");
+      const QImage shown = box->grab().toImage();
+      EXPECT_NEAR(shown.height(), 202 * scale / (pal == 1 ? 0.936 : 1.0), 1);
+      for (const QPoint at : {QPoint(31, 7), QPoint(160, 100), QPoint(319, 199)}) {
+        const double high = shown.height() / 202.0;
+        const QPoint middle(at.x() * scale + scale / 2, static_cast<int>((at.y() + 0.5) * high));
+        const auto pixel = model::GetPixelData(frame->Document().picture, at.x() / 2 + 1, at.y() + 1);
+        EXPECT_EQ(shown.pixel(middle), model::SurfaceColour(pixel.colour));
+        MoveMouse(box, middle, Qt::NoButton);
+        EXPECT_TRUE(
+            Find("frmBMPView")
+                ->windowTitle()
+                .startsWith(QString(" Full view (%1:1) x=%2, y=%3,").arg(scale).arg(at.x() + 1).arg(at.y() + 1)));
+      }
+      for (int y = 0; y < shown.height(); ++y) {
+        for (int x = 0; x < shown.width(); ++x) {
+          const auto colours = model::kSurfaceColours;
+          const QRgb mark = shown.pixel(x, y);
+          ASSERT_TRUE(std::count(colours.begin(), colours.end(), mark) > 0) << x << ' ' << y;
+        }
+      }
+      if (pal == 1) Action("mnuFullViewPal")->trigger();
+    }
+  }
+}
+
+TEST_F(WorkplaceTest, TheStatusBarTellsHintsResultsAndUnsavedWork) {
+  frame->Files().SaveTo(folder / "pic.kvp");
+  EXPECT_TRUE(Panel("pnlWord").endsWith("pic.kvp, 10050 bytes"));
+  const auto is_unsaved = [this] { return Find("mrkUnsaved")->accessibleName() == "Unsaved work"; };
+  EXPECT_FALSE(is_unsaved());
+  frame->SetBackgroundColour(5);
+  EXPECT_TRUE(QTest::qWaitFor(is_unsaved));
+  frame->Files().New();
+  EXPECT_EQ(Panel("pnlWord"), "Unsaved work was kept in BACKUP as pic.kvp_2602030907_unsaved.kvp");
+  for (const MenuEntry& entry : MenuEntries()) {  // the longest hint too
+    if (entry.name == nullptr || entry.text == nullptr) continue;
+    QStatusTipEvent hint(entry.tip);
+    QApplication::sendEvent(frame.get(), &hint);
+    EXPECT_EQ(Panel("pnlWord"), entry.tip);
+  }
+  QStatusTipEvent none("");
+  QApplication::sendEvent(frame.get(), &none);
+  EXPECT_TRUE(Panel("pnlWord").startsWith("Unsaved work was kept"));
+}
+
 TEST_F(WorkplaceTest, AKeyThatAMenuTookDoesNothingInTheWindow) {
   QMenu* menu = Menu("mnuViewMenu");
   menu->popup({});
@@ -150,7 +231,7 @@ TEST_F(WorkplaceTest, PlacesAreRememberedAndNonsenseIsNot) {
   EXPECT_EQ(Child("frmColors")->pos(), QPoint(120, 90));
   EXPECT_FALSE(Action("mnuView_2")->isChecked());
   EXPECT_LT(Child("frmPens")->x(), 2000);
-  EXPECT_EQ(Child("frmZoom")->pos(), QPoint(0, 0));
+  EXPECT_EQ(Child("frmZoom")->pos(), QPoint(kWindowGap, kWindowGap));
   EXPECT_GE(frame->x(), -100);
   Action("mnuArrange")->trigger();
   EXPECT_NE(Child("frmColors")->pos(), QPoint(120, 90));
@@ -179,6 +260,21 @@ TEST_F(WorkplaceTest, ScreenshotsAreSmallAndHaveTheFormatAndSizeChosen) {
     EXPECT_TRUE(path.endsWith("jpg") || saved == picture.scaled(saved.size()));
   }
   EXPECT_THROW(SaveScreenshot(picture, "/gone/shot.png", 1), std::runtime_error);
+}
+
+TEST_F(WorkplaceTest, HelpShowsEveryKeyAndTheGuide) {
+  Action("mnuKeys")->trigger();
+  const QString page = Find<QTextBrowser>("frmKeys")->toPlainText();
+  for (const MenuEntry& entry : MenuEntries()) {
+    EXPECT_TRUE(*entry.key == 0 || page.contains(QString(entry.tip))) << entry.name;
+  }
+  for (const editing::ToolRow& tool : editing::ToolTable()) EXPECT_TRUE(page.contains(ToQt(tool.caption)));
+  EXPECT_EQ(page.count("Left pen: "), 16);
+  for (int time = 0; time < 2; ++time) Action("mnuGuide")->trigger();
+  EXPECT_EQ(frame->findChildren<QTextBrowser*>("frmGuide").size(), 1);
+  auto* guide = Find<QTextBrowser>("frmGuide");
+  EXPECT_TRUE(guide->toPlainText().startsWith("A tour of Kelvo"));
+  EXPECT_FALSE(guide->loadResource(QTextDocument::ImageResource, QUrl("images/kelvo.png")).value<QImage>().isNull());
 }
 
 TEST_F(WorkplaceTest, EveryIconIsThereForMenusAndToolBars) {

@@ -6,25 +6,27 @@
 #include "anim/anim_settings.h"
 #include "files/load_picture.h"
 #include "ui/ports/qt_text.h"
-#include "ui/widgets/settings_dialog.h"
+#include "ui/windows/frm_anim_properties.h"
 #include "ui/windows/window_places.h"
 
 namespace kelvo::ui {
 
-AnimationDesk::AnimationDesk(const files::PictureSurroundings& with, QMainWindow& frame, frmBMPView& full_view,
-                             frmZoom& zoom)
-    : with_(with), frame_(frame), full_view_(full_view), zoom_(zoom), mode_(with, *this), navigation_(with) {
+AnimationDesk::AnimationDesk(const files::PictureSurroundings& with, QMainWindow& frame, WindowDesk& windows,
+                             frmBMPView& full_view, frmZoom& zoom)
+    : with_(with),
+      frame_(frame),
+      windows_(windows),
+      full_view_(full_view),
+      zoom_(zoom),
+      mode_(with, *this),
+      navigation_(with) {
   turn_.setSingleShot(true);
   turn_.setTimerType(Qt::PreciseTimer);
   connect(&turn_, &QTimer::timeout, this, &AnimationDesk::PlayTurn);
 }
 
 void AnimationDesk::ShowProperties() {
-  SettingsDialog dialog(with_.settings, "frmAnimProperties", "Animation properties", &frame_);
-  dialog.AddText(anim::kFolder, "Animation &folder",
-                 "It is the beginning of every frame's path, so it ends in a separator");
-  dialog.AddText(anim::kAnimPrefix, "Animation &prefix", "Frames are named prefix, four digits, .kvp");
-  dialog.exec();
+  frmAnimProperties(with_.settings, &frame_).exec();
   if (frame_window_ != nullptr) ShowFrame();
 }
 
@@ -44,7 +46,7 @@ void AnimationDesk::ShowFrameWindow() {
 
 void AnimationDesk::MakeFrameWindow() {
   frame_window_ = new frmAnim(&frame_);
-  PlaceFloating(*frame_window_, ReadFrameWindowPlace(with_.settings), frame_);
+  windows_.Floating().Place(*frame_window_, ReadFrameWindowPlace(with_.settings));
   frame_window_->SetPlayRate(anim::ReadPlayRate(with_.settings));
   frame_window_->SetOnionSkin(anim::ReadOnionSkin(with_.settings));
   connect(frame_window_, &frmAnim::MoveAsked, this, [this](anim::FrameMove move) {
@@ -54,6 +56,7 @@ void AnimationDesk::MakeFrameWindow() {
   connect(frame_window_, &frmAnim::NumberTyped, this,
           [this](const QString& number) { Move([&] { return navigation_.GoTo(FromQt(number)); }); });
   connect(frame_window_, &frmAnim::PlayAsked, this, &AnimationDesk::TogglePlay);
+  connect(frame_window_, &frmAnim::PlayWindowAsked, this, &AnimationDesk::ShowPlayWindow);
   connect(frame_window_, &frmAnim::PlayRateChanged, this, [this](int rate) {
     anim::KeepPlayRate(with_.settings, rate);
     if (player_) StartPlay();
@@ -65,16 +68,13 @@ void AnimationDesk::MakeFrameWindow() {
   connect(frame_window_, &frmAnim::KeyReleased, this, &AnimationDesk::KeyReleased);
   connect(frame_window_, &frmAnim::Closed, this, [this](QPoint at) {
     StopPlay();
+    delete play_window_;
     frame_window_->disconnect(this);  // until it is deleted it may be closed again
     std::exchange(frame_window_, nullptr)->deleteLater();
     zoom_.SetOnionSkin(std::nullopt);
     KeepFrameWindowPlace(with_.settings, at);
     mode_.FrameWindowUnloaded();
   });
-}
-
-void AnimationDesk::ArrangeWindow() {
-  if (frame_window_ != nullptr) ArrangeFloating(*frame_window_, frame_);
 }
 
 void AnimationDesk::UnloadFrameWindow() {
@@ -101,6 +101,19 @@ void AnimationDesk::ShowFrame() {
 
 void AnimationDesk::ShowOnionSkin() {
   zoom_.SetOnionSkin(anim::ReadOnionSkin(with_.settings) ? navigation_.PictureBefore() : std::nullopt);
+}
+
+// The frames play in it as well, from now on; it stays when they stop.
+void AnimationDesk::ShowPlayWindow() {
+  if (play_window_ == nullptr) play_window_ = new frmPlayer(&frame_);
+  play_window_->show();
+  play_window_->raise();
+  if (!player_) StartPlay();
+}
+
+void AnimationDesk::ShowTurn(const model::PictureImage& picture) {
+  full_view_.ShowPreview(&picture);
+  if (play_window_ != nullptr) play_window_->ShowPicture(picture);
 }
 
 void AnimationDesk::TogglePlay() {
@@ -131,7 +144,7 @@ void AnimationDesk::StopPlay() {
 
 void AnimationDesk::PlayTurn() {
   const auto now = [this] { return anim::FramePlayer::Milliseconds(playing_since_.elapsed()); };
-  if (const model::PictureImage* picture = player_->Due(now())) full_view_.ShowPreview(picture);
+  if (const model::PictureImage* picture = player_->Due(now())) ShowTurn(*picture);
   player_->ReadAhead();
   turn_.start(player_->UntilNext(now()));
 }

@@ -5,6 +5,7 @@
 #include <QElapsedTimer>
 #include <QMainWindow>
 #include <QObject>
+#include <QPointer>
 #include <QTimer>
 #include <functional>
 #include <optional>
@@ -12,8 +13,10 @@
 #include "anim/anim_mode.h"
 #include "anim/frame_navigation.h"
 #include "anim/frame_player.h"
+#include "ui/desks/window_desk.h"
 #include "ui/windows/frm_anim.h"
 #include "ui/windows/frm_bmp_view.h"
+#include "ui/windows/frm_player.h"
 #include "ui/windows/frm_zoom.h"
 
 namespace kelvo::ui {
@@ -22,13 +25,14 @@ class AnimationDesk : public QObject, private anim::AnimDisplay {
   Q_OBJECT
 
  public:
-  AnimationDesk(const files::PictureSurroundings& with, QMainWindow& frame, frmBMPView& full_view, frmZoom& zoom);
+  AnimationDesk(const files::PictureSurroundings& with, QMainWindow& frame, WindowDesk& windows, frmBMPView& full_view,
+                frmZoom& zoom);
 
   anim::AnimMode& Mode() { return mode_; }
   const anim::AnimMode& Mode() const { return mode_; }
   void ShowProperties();
-  // Puts the frame window, if there is one, where it belongs by default.
-  void ArrangeWindow();
+  // Null while the mode is off.
+  QWidget* FrameWindow() const { return frame_window_; }
   // Closes the frame window, if there is one; its place is kept.
   void UnloadFrameWindow() override;
   // The current file, or what is in it, may be another one now.
@@ -49,6 +53,8 @@ class AnimationDesk : public QObject, private anim::AnimDisplay {
   void Move(const std::function<std::string()>& move);
   void ShowFrame();
   void ShowOnionSkin();
+  void ShowPlayWindow();
+  void ShowTurn(const model::PictureImage& picture);
   void TogglePlay();
   void StartPlay();
   void StopPlay();
@@ -56,12 +62,14 @@ class AnimationDesk : public QObject, private anim::AnimDisplay {
 
   files::PictureSurroundings with_;
   QMainWindow& frame_;
+  WindowDesk& windows_;
   frmBMPView& full_view_;
   frmZoom& zoom_;
   anim::AnimMode mode_;
   anim::FrameNavigation navigation_;
   frmAnim* frame_window_ = nullptr;
-  bool is_moving_ = false;  // from frame to frame: the files that are opened and saved are those of the move
+  QPointer<frmPlayer> play_window_;  // it deletes itself when it closes
+  bool is_moving_ = false;           // from frame to frame: the files that are opened and saved are those of the move
 
   std::optional<anim::FramePlayer> player_;
   QElapsedTimer playing_since_;

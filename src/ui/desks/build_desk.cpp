@@ -1,10 +1,12 @@
 #include "ui/desks/build_desk.h"
 
 #include <QLockFile>
+#include <string>
 #include <utility>
 
 #include "app/path_text.h"
 #include "app/text.h"
+#include "app/whole_file.h"
 #include "c64out/output_settings.h"
 #include "c64out/vice_folder.h"
 #include "ui/ports/qt_text.h"
@@ -13,8 +15,9 @@
 
 namespace kelvo::ui {
 
-BuildDesk::BuildDesk(const files::PictureSurroundings& with, QtToolRunner& runner, QWidget* window)
-    : with_(with), window_(window), runner_(runner) {
+BuildDesk::BuildDesk(const files::PictureSurroundings& with, app::StatusLine& status, QtToolRunner& runner,
+                     QWidget* window)
+    : with_(with), status_(status), window_(window), runner_(runner) {
   connect(&runner_, &QtToolRunner::StateChanged, this, &BuildDesk::StateChanged);
 }
 
@@ -38,7 +41,23 @@ void BuildDesk::Run(const c64out::CompoPicChoice& choice) {
   if (result.emulator) result.outcome = c64out::ShowInEmulator(*result.emulator, ForBuilds());
   is_running_ = false;
   emit StateChanged();
-  emit Ended(result.outcome);
+  TellEnd(result);
+}
+
+void BuildDesk::TellEnd(const c64out::BuildResult& result) {
+  switch (result.outcome) {
+    case c64out::BuildOutcome::kDone:
+      if (result.made.empty()) return status_.Tell("Build complete");
+      return status_.Tell("Made " + app::TextFromPath(result.made) + ", " + std::to_string(app::FileSize(result.made)) +
+                          " bytes");
+    case c64out::BuildOutcome::kStopped:
+      return status_.Tell("Build stopped");
+    case c64out::BuildOutcome::kFailed:
+      emit Failed();
+      [[fallthrough]];
+    case c64out::BuildOutcome::kGivenUp:
+      return status_.Warn("Build failed");
+  }
 }
 
 // Programs on one program folder build in the same work files. The picture may change while tools are at work: the
@@ -49,7 +68,7 @@ c64out::BuildResult BuildDesk::BuildAlone(const c64out::CompoPicChoice& choice) 
   if (!lock.tryLock(0) && lock.error() == QLockFile::LockFailedError) {
     with_.prompt.CommandPromptList("--> Another Kelvo is building in the same program folder.");
     with_.prompt.CommandPromptList("--> [err 908]");
-    return {c64out::BuildOutcome::kFailed, {}};
+    return {c64out::BuildOutcome::kFailed, {}, {}};
   }
   const files::Document picture = with_.document;
   return c64out::BuildCompoPic(picture, choice, ForBuilds());

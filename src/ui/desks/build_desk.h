@@ -14,7 +14,7 @@ class BuildDesk : public QObject {
   Q_OBJECT
 
  public:
-  BuildDesk(const files::PictureSurroundings& with, QtToolRunner& runner, QWidget* window);
+  BuildDesk(const files::PictureSurroundings& with, app::StatusLine& status, QtToolRunner& runner, QWidget* window);
 
   // Passed over while a build or a transfer is at work. A picture that has no file is saved under a name first. While
   // the emulator is waited for another build may begin: it is left running then.
@@ -38,15 +38,17 @@ class BuildDesk : public QObject {
  signals:
   // What can be chosen may have changed.
   void StateChanged();
-  // Where a build failed, its lines in the prompt say why.
-  void Ended(c64out::BuildOutcome outcome);
+  // Lines in the prompt say why.
+  void Failed();
 
  private:
   void Run(const c64out::CompoPicChoice& choice);
   c64out::BuildResult BuildAlone(const c64out::CompoPicChoice& choice);
+  void TellEnd(const c64out::BuildResult& result);
   c64out::BuildSurroundings ForBuilds() const;
 
   files::PictureSurroundings with_;
+  app::StatusLine& status_;
   QWidget* window_;
   QtToolRunner& runner_;
   bool is_running_ = false, is_vice_ready_ = false;

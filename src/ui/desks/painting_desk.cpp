@@ -1,30 +1,24 @@
 #include "ui/desks/painting_desk.h"
 
 #include <algorithm>
-#include <array>
-#include <utility>
+#include <string>
 
 #include "editing/pens.h"
 #include "model/pixel_place.h"
 #include "optimise/background_colour.h"
 #include "optimise/eor_vectors.h"
+#include "ui/desks/zoom_keys.h"
+#include "ui/ports/qt_text.h"
 
 namespace kelvo::ui {
 namespace {
 
-constexpr std::array<std::pair<int, model::ZoomMove>, 8> kZoomKeys{{
-    {Qt::Key_Left, model::ZoomMove::kLeft},
-    {Qt::Key_Right, model::ZoomMove::kRight},
-    {Qt::Key_Up, model::ZoomMove::kUp},
-    {Qt::Key_Down, model::ZoomMove::kDown},
-    {Qt::Key_PageUp, model::ZoomMove::kPageUp},
-    {Qt::Key_PageDown, model::ZoomMove::kPageDown},
-    {Qt::Key_Home, model::ZoomMove::kRowStart},
-    {Qt::Key_End, model::ZoomMove::kRowEnd},
-}};
-
 Qt::MouseButton QtButton(editing::Button button) {
   return button == editing::Button::kLeft ? Qt::LeftButton : Qt::RightButton;
+}
+
+editing::Button PenOf(Qt::MouseButton button) {
+  return button == Qt::LeftButton ? editing::Button::kLeft : editing::Button::kRight;
 }
 
 char LetterOf(int key) {
@@ -38,10 +32,13 @@ PaintingDesk::PaintingDesk(files::Document& document, const editing::PaintingPor
     : document_(document),
       windows_(windows),
       painting_(document.picture, ports),
+      keyboard_(windows.zoom),
       messages_(ports.messages),
+      status_(ports.status),
       views_(ports.views) {
   ConnectZoom();
   ConnectPens();
+  ConnectKeyboard();
   pointer_pause_.setSingleShot(true);
   pointer_pause_.setInterval(kDisplayFrameMilliseconds);
   connect(&pointer_pause_, &QTimer::timeout, this, [this] {
@@ -52,13 +49,29 @@ PaintingDesk::PaintingDesk(files::Document& document, const editing::PaintingPor
 }
 
 void PaintingDesk::ConnectZoom() {
-  connect(&windows_.zoom, &frmZoom::Pressed, this, &PaintingDesk::Press);
-  connect(&windows_.zoom, &frmZoom::Moved, this, &PaintingDesk::Move);
-  connect(&windows_.zoom, &frmZoom::Released, this, [this](Qt::MouseButton button) {
-    const auto stroke = painting_.StrokeButton();
-    if (stroke && QtButton(*stroke) == button) painting_.Release();
-    ActionDone();
+  connect(&windows_.zoom, &frmZoom::Pressed, this,
+          [this](QPoint at, Qt::MouseButton button, Qt::KeyboardModifiers modifiers) {
+            const auto point = windows_.zoom.Area().VisiblePixelAt(at.x(), at.y());
+            if (!point || (button != Qt::LeftButton && button != Qt::RightButton)) return;
+            modifiers.testFlag(Qt::AltModifier) ? Pick(*point, button) : Press(*point, button);
+          });
+  connect(&windows_.zoom, &frmZoom::Moved, this, &PaintingDesk::MoveMouse);
+  connect(&windows_.zoom, &frmZoom::Released, this, &PaintingDesk::Release);
+  connect(&windows_.full_view, &frmBMPView::ColourAsked, this, &PaintingDesk::Pick);
+}
+
+void PaintingDesk::ConnectKeyboard() {
+  connect(&keyboard_, &KeyboardHand::Pressed, this, &PaintingDesk::Press);
+  connect(&keyboard_, &KeyboardHand::Released, this, &PaintingDesk::Release);
+  connect(&keyboard_, &KeyboardHand::ColourAsked, this, &PaintingDesk::Pick);
+  connect(&keyboard_, &KeyboardHand::Moved, this, [this](model::PixelPoint at, bool held) {
+    PointAt(at);
+    TellCursor();  // before what the move may tell
+    if (held) painting_.Move(at, true);
+    TellCursor();
+    ShowPreview(at);
   });
+  connect(&keyboard_, &KeyboardHand::CursorGone, this, [this] { TellCursor({}); });
 }
 
 void PaintingDesk::ConnectPens() {
@@ -67,21 +80,32 @@ void PaintingDesk::ConnectPens() {
   connect(&windows_.colors, &frmColors::BackgroundChosen, this, &PaintingDesk::BackgroundChosen);
   connect(&windows_.pens, &frmPens::LeftPenChosen, this, &PaintingDesk::SetLeftPen);
   connect(&windows_.pens, &frmPens::RightPenChosen, this, &PaintingDesk::SetRightPen);
-  connect(&windows_.pens, &frmPens::SwapAsked, this, [this] {
-    painting_.PenColours().Swap();
-    ShowColours();
-  });
+  connect(&windows_.pens, &frmPens::SwapAsked, this, &PaintingDesk::SwapPens);
 }
 
-void PaintingDesk::Press(QPoint at, Qt::MouseButton button) {
-  const auto point = windows_.zoom.Area().VisiblePixelAt(at.x(), at.y());
-  if (!point || (button != Qt::LeftButton && button != Qt::RightButton)) return;
-  PointAt(*point);
-  painting_.Press({*point, button == Qt::LeftButton ? editing::Button::kLeft : editing::Button::kRight});
+void PaintingDesk::Press(model::PixelPoint at, Qt::MouseButton button) {
+  PointAt(at);
+  painting_.Press({at, PenOf(button)});
   ActionDone();
 }
 
-void PaintingDesk::Move(QPoint at, Qt::MouseButtons buttons) {
+void PaintingDesk::Release(Qt::MouseButton button) {
+  const auto stroke = painting_.StrokeButton();
+  if (stroke && QtButton(*stroke) == button) painting_.Release();
+  ActionDone();
+}
+
+void PaintingDesk::Pick(model::PixelPoint at, Qt::MouseButton button) {
+  const model::C64Colour colour = model::GetPixelData(document_.picture, at.x, at.y).colour;
+  PenOf(button) == editing::Button::kLeft ? SetLeftPen(colour) : SetRightPen(colour);
+}
+
+void PaintingDesk::SwapPens() {
+  painting_.PenColours().Swap();
+  ShowColours();
+}
+
+void PaintingDesk::MoveMouse(QPoint at, Qt::MouseButtons buttons) {
   windows_.full_view.ShowPlainCaption();
   const model::PixelPoint point = windows_.zoom.Area().PixelAt(at.x(), at.y());
   const auto stroke = painting_.StrokeButton();
@@ -97,6 +121,7 @@ void PaintingDesk::ShowPreview(model::PixelPoint pointer) {
 // A hand moves the pointer up to a thousand times a second; what shows it follows once a display frame.
 void PaintingDesk::PointAt(model::PixelPoint at) {
   pointer_ = at;
+  keyboard_.SetStart(at);
   if (pointer_pause_.isActive()) return;
   ShowPointer();
   pointer_pause_.start();
@@ -108,6 +133,22 @@ void PaintingDesk::ShowPointer() {
   windows_.char_data.Show(place);
   windows_.colors.ShowCell(model::ColoursOfCell(document_.picture, place.cell));
   emit PointerAt(QString("x=%1 y=%2 col=%3 row=%4").arg(pointer_.x).arg(pointer_.y).arg(place.column).arg(place.row));
+  TellCursor();
+}
+
+void PaintingDesk::TellCursor() {
+  if (!keyboard_.IsShown()) return;
+  const model::PixelPoint at = keyboard_.At();
+  const model::C64Colour colour = model::GetPixelData(document_.picture, at.x, at.y).colour;
+  TellCursor(QString("x=%1 y=%2 %3").arg(at.x).arg(at.y).arg(PlainColourName(colour)));
+}
+
+// Nothing: it was put away.
+void PaintingDesk::TellCursor(const QString& text) {
+  if (text == told_) return;
+  told_ = text;
+  windows_.zoom.TellCursor(text);
+  status_.Tell(FromQt(text));
 }
 
 void PaintingDesk::ActionDone() {
@@ -135,8 +176,7 @@ void PaintingDesk::Tick() {
 
 bool PaintingDesk::HandleKeyUp(int key, Qt::KeyboardModifiers modifiers) {
   if (key == Qt::Key_Escape) {
-    painting_.Escape();
-    ActionDone();
+    Escape();
     return true;
   }
   if (MoveZoomArea(key, modifiers)) return true;
@@ -153,11 +193,19 @@ bool PaintingDesk::HandleKeyUp(int key, Qt::KeyboardModifiers modifiers) {
   return true;
 }
 
+// An unfinished shape goes first, then the keyboard's cursor, then the tool.
+void PaintingDesk::Escape() {
+  const bool took_shape_back = painting_.CancelShape();
+  if (!took_shape_back && keyboard_.IsShown()) return keyboard_.PutAway();
+  if (!took_shape_back) painting_.Escape();
+  ActionDone();
+}
+
 bool PaintingDesk::MoveZoomArea(int key, Qt::KeyboardModifiers modifiers) {
-  const auto* row = std::find_if(kZoomKeys.begin(), kZoomKeys.end(), [key](const auto& r) { return r.first == key; });
+  const auto* row = std::find_if(kZoomKeys.begin(), kZoomKeys.end(), [key](const ZoomKey& r) { return r.key == key; });
   if (row == kZoomKeys.end()) return false;
   const bool far = modifiers.testFlag(Qt::ControlModifier);
-  windows_.zoom.Move(row->second, far ? model::ZoomStep::kScreen : model::ZoomStep::kCell);
+  windows_.zoom.Move(row->move, far ? model::ZoomStep::kScreen : model::ZoomStep::kCell);
   return true;
 }
 
@@ -181,10 +229,11 @@ void PaintingDesk::ShowCellOfPass(int cell) {
 
 void PaintingDesk::OptimizeBackgroundColor() {
   views_.ActionBegins("Optimize background color");
-  optimise::OptimizeBackgroundColor(document_.picture, windows_.full_view.Progress(),
-                                    [this](int cell) { ShowCellOfPass(cell); });
+  const optimise::Optimized done = optimise::OptimizeBackgroundColor(document_.picture, windows_.full_view.Progress(),
+                                                                     [this](int cell) { ShowCellOfPass(cell); });
   windows_.char_data.Show(model::LookUpPixel(pointer_.x, pointer_.y));
   views_.PictureChanged();
+  status_.Tell("Optimized: " + std::to_string(done.pixels) + " pixels in " + std::to_string(done.cells) + " cells");
 }
 
 void PaintingDesk::OptimizeForEORVector() {

@@ -7,6 +7,7 @@
 
 #include "editing/painting.h"
 #include "files/document.h"
+#include "ui/desks/keyboard_hand.h"
 #include "ui/ports/display_frame.h"
 #include "ui/widgets/paint_tool_bar.h"
 #include "ui/windows/frm_bmp_view.h"
@@ -34,6 +35,7 @@ class PaintingDesk : public QObject {
 
   const editing::Painting& Painting() const { return painting_; }
   void ChooseTool(editing::ToolId tool);
+  void SwapPens();
   void Undo();
   void Tick();
 
@@ -64,10 +66,16 @@ class PaintingDesk : public QObject {
  private:
   void ConnectZoom();
   void ConnectPens();
-  void Press(QPoint at, Qt::MouseButton button);
-  void Move(QPoint at, Qt::MouseButtons buttons);
+  void ConnectKeyboard();
+  void Press(model::PixelPoint at, Qt::MouseButton button);
+  void MoveMouse(QPoint at, Qt::MouseButtons buttons);
+  void Release(Qt::MouseButton button);
+  void Pick(model::PixelPoint at, Qt::MouseButton button);
+  void Escape();
   void PointAt(model::PixelPoint at);
   void ShowPointer();
+  void TellCursor();
+  void TellCursor(const QString& text);
   void ShowPreview(model::PixelPoint pointer);
   void SetLeftPen(model::C64Colour colour);
   void SetRightPen(model::C64Colour colour);
@@ -78,9 +86,12 @@ class PaintingDesk : public QObject {
   files::Document& document_;
   PaintingWindows windows_;
   editing::Painting painting_;
+  KeyboardHand keyboard_;
+  QString told_;               // of its cursor
   model::PixelPoint pointer_;  // where the pointer was last over the picture
   model::PixelPoint shown_pointer_;
   app::Messages& messages_;
+  app::StatusLine& status_;
   model::PictureViews& views_;
   QTimer pointer_pause_;  // runs for a display frame after the pointer was shown
   DisplayFrame pass_;     // since a whole-picture pass showed a cell

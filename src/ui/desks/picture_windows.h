@@ -27,6 +27,7 @@ class PictureWindows final : public model::PictureViews {
   void PixelChanged(int x, int y) override;
   void CellChanged(int cell) override;
   void PictureChanged() override;
+  void FullCellMet(int cell, model::FullCellFate fate) override { zoom_.FlashCell(cell, fate); }
 
  private:
   frmBMPView& full_view_;

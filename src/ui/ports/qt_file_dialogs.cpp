@@ -28,9 +28,11 @@ QString StillThere(const QString& path) {
   return place.exists() ? place.absoluteFilePath() : QDir::homePath();
 }
 
-std::optional<files::ChosenFile> QtFileDialogs::SelectFile(const std::filesystem::path& folder) {
+std::optional<files::ChosenFile> QtFileDialogs::SelectFile(const std::filesystem::path& folder,
+                                                           files::FormatType type) {
   QFileDialog dialog(parent_, "Select file", StillThere(QtFromPath(folder)), OpenFilter());
   dialog.setFileMode(QFileDialog::ExistingFile);
+  dialog.selectNameFilter(dialog.nameFilters().value(type - 1));
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
   const auto filter = dialog.nameFilters().indexOf(dialog.selectedNameFilter());
   return files::ChosenFile{PathFromQt(dialog.selectedFiles().first()), static_cast<int>(filter) + 1};

@@ -17,7 +17,7 @@ class QtFileDialogs final : public files::FileDialogs {
  public:
   explicit QtFileDialogs(QWidget* parent) : parent_(parent) {}
 
-  std::optional<files::ChosenFile> SelectFile(const std::filesystem::path& folder) override;
+  std::optional<files::ChosenFile> SelectFile(const std::filesystem::path& folder, files::FormatType type) override;
   std::optional<std::filesystem::path> SaveAs(const std::filesystem::path& path) override;
 
  private:

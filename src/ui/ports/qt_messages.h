@@ -13,6 +13,8 @@ class QtMessages final : public app::Messages {
   explicit QtMessages(QWidget* parent) : parent_(parent) {}
 
   void Inform(std::string_view text) override;
+  void InformWithMore(std::string_view text, std::string_view more) override;
+  bool InformWithChoice(std::string_view text, std::string_view choice) override;
   void Warn(std::string_view text) override;
   void Tell(std::string_view text) override;
   bool Ask(std::string_view text) override;

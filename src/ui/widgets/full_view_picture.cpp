@@ -2,6 +2,9 @@
 
 #include <QPainter>
 
+#include "model/full_view.h"
+#include "ui/widgets/cell_use_tint.h"
+
 namespace kelvo::ui {
 namespace {
 
@@ -18,7 +21,16 @@ void FullViewPicture::Mark(const model::Rect& area) {
   Refresh();
 }
 
+void FullViewPicture::ShowCellUse(const model::PictureImage* picture) {
+  cell_use_ = picture;
+  Refresh();
+}
+
 void FullViewPicture::PaintOverlay(QPainter& painter) {
+  for (int cell = 1; cell_use_ != nullptr && cell <= model::PictureImage::kCells; ++cell) {
+    const model::Rect at = model::FullViewCellRect(cell);
+    PaintCellUse(painter, *cell_use_, cell, {at.x, at.y, at.width, at.height});
+  }
   // White dashes on black: to be seen on every picture.
   const QRect rim(mark_.x, mark_.y, mark_.width - 1, mark_.height - 1);
   painter.setPen(QPen(Qt::black, 1));

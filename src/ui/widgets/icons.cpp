@@ -2,7 +2,14 @@
 
 #include <QDir>
 
+#include "model/palette.h"
+
 namespace kelvo::ui {
+namespace {
+
+constexpr int kColourSide = 14;
+
+}  // namespace
 
 QIcon IconNamed(const QString& name) {
   const QDir sizes(":/icons");
@@ -12,6 +19,12 @@ QIcon IconNamed(const QString& name) {
     icon.addPixmap(QPixmap(sizes.filePath(size + '/' + name + ".png"), "PNG"));
   }
   return icon;
+}
+
+QIcon ColourIcon(model::C64Colour colour) {
+  QPixmap square(kColourSide, kColourSide);
+  square.fill(QColor::fromRgb(model::SurfaceColour(colour)));
+  return square;
 }
 
 }  // namespace kelvo::ui

@@ -17,6 +17,8 @@ class PaintToolBar : public QToolBar {
  public:
   explicit PaintToolBar(QWidget* parent);
 
+  // The tools' actions, for a menu too.
+  QList<QAction*> Tools() const { return tools_->actions(); }
   void ShowTool(editing::ToolId tool);
   void ShowCopy(const model::DetachedCell& cell, model::C64Colour background);
 

@@ -13,12 +13,15 @@ namespace {
 
 constexpr int kWheelStep = 120;  // eighths of a degree
 
+// The surface's own pixels, not a copy.
+QImage ImageOf(model::Surface& surface) {
+  return {reinterpret_cast<const uchar*>(surface.Row(0)), surface.Width(), surface.Height(), QImage::Format_RGB32};
+}
+
 }  // namespace
 
 SurfaceView::SurfaceView(model::Surface& surface, int unit, QWidget* parent)
-    : QWidget(parent),
-      image_(reinterpret_cast<const uchar*>(surface.Row(0)), surface.Width(), surface.Height(), QImage::Format_RGB32),
-      unit_(unit) {
+    : QWidget(parent), image_(ImageOf(surface)), unit_(unit) {
   setAttribute(Qt::WA_OpaquePaintEvent);
   setMouseTracking(true);
   setFocusPolicy(Qt::StrongFocus);
@@ -30,12 +33,26 @@ double SurfaceView::ScaleOn(double device, int unit) {
 }
 
 void SurfaceView::TakeScale() {
-  scale_ = ScaleOn(devicePixelRatioF(), unit_);
+  scale_x_ = factor_ * ScaleOn(devicePixelRatioF(), unit_ * factor_);
+  scale_y_ = scale_x_ * stretch_;
   setFixedSize(SurfaceView::sizeHint());
 }
 
+void SurfaceView::Magnify(int factor, double stretch) {
+  factor_ = factor;
+  stretch_ = stretch;
+  TakeScale();
+  update();
+}
+
+void SurfaceView::ShowSurface(model::Surface& surface) {
+  image_ = ImageOf(surface);
+  TakeScale();
+  update();
+}
+
 QSize SurfaceView::sizeHint() const {
-  const QSizeF size = QSizeF(image_.size()) * scale_;
+  const QSizeF size(image_.width() * scale_x_, image_.height() * scale_y_);
   return {static_cast<int>(std::ceil(size.width())), static_cast<int>(std::ceil(size.height()))};
 }
 
@@ -51,21 +68,21 @@ void SurfaceView::Refresh() {
 }
 
 QPoint SurfaceView::SurfacePoint(const QPointF& place) const {
-  return {static_cast<int>(std::floor(place.x() / scale_)), static_cast<int>(std::floor(place.y() / scale_))};
+  return {static_cast<int>(std::floor(place.x() / scale_x_)), static_cast<int>(std::floor(place.y() / scale_y_))};
 }
 
 QRectF SurfaceView::WidgetRect(const model::Rect& area) const {
-  return {area.x * scale_, area.y * scale_, area.width * scale_, area.height * scale_};
+  return {area.x * scale_x_, area.y * scale_y_, area.width * scale_x_, area.height * scale_y_};
 }
 
 void SurfaceView::paintEvent(QPaintEvent* event) {
   waiting_ = {};
   QPainter painter(this);
-  if (scale_ == 1.0 && devicePixelRatioF() == 1.0) {
+  if (scale_x_ == 1.0 && scale_y_ == 1.0 && devicePixelRatioF() == 1.0) {
     for (const QRect& part : event->region()) painter.drawImage(part, image_, part);
   } else {
     painter.fillRect(event->rect(), Qt::black);  // the fraction of a pixel that the widget is larger
-    painter.scale(scale_, scale_);
+    painter.scale(scale_x_, scale_y_);
     painter.drawImage(0, 0, image_);
   }
   PaintOverlay(painter);

@@ -18,6 +18,14 @@ class SurfaceView : public QWidget {
  public:
   SurfaceView(model::Surface& surface, int unit, QWidget* parent);
 
+  // Shows a surface pixel `factor` times as large (1 or more), and `stretch` times as high as that. Whatever the
+  // stretch, every row is a whole number of device pixels high, some one more than others: nothing is blurred.
+  void Magnify(int factor, double stretch);
+  // Shows another surface, which outlives the view.
+  void ShowSurface(model::Surface& surface);
+  // The widget pixels that a surface pixel takes across.
+  double Scale() const { return scale_x_; }
+
   // The widget pixels that a surface pixel takes on a display with `device` pixels for each of a widget (1 or more).
   static double ScaleOn(double device, int unit);
 
@@ -60,7 +68,8 @@ class SurfaceView : public QWidget {
 
   QImage image_;  // the surface's own pixels, not a copy
   int unit_;
-  double scale_ = 1.0;
+  int factor_ = 1;
+  double stretch_ = 1.0, scale_x_ = 1.0, scale_y_ = 1.0;
   Qt::MouseButtons held_;
   QPoint wheel_;   // what was turned and did not make a whole step yet
   QRect waiting_;  // what is to be painted next: one rectangle, so that a fill's many pixels cost Qt one update

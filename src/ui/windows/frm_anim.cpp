@@ -18,9 +18,9 @@ struct ButtonRow {
 
 // "Previous" stands twice: the second one leads back to the frame that was shown before.
 constexpr std::array<ButtonRow, 4> kButtons{{
-    {anim::FrameMove::kPrevious, "Previous", "The frame before this one"},
+    {anim::FrameMove::kPrevious, "Previous", "One frame back in the row: the number before this one"},
     {anim::FrameMove::kNext, "Next", "The frame after this one; behind the last it offers to make one"},
-    {anim::FrameMove::kBack, "Previous", "Back to the frame that was shown before"},
+    {anim::FrameMove::kBack, "Previous", "Back to the frame that you saw before this one, whatever its number"},
     {anim::FrameMove::kFirst, "First", "The first frame"},
 }};
 
@@ -92,7 +92,12 @@ QWidget* frmAnim::MakePlayer() {
   rate_->setSuffix(" a second");
   connect(cmdPlay_, &QPushButton::clicked, this, &frmAnim::PlayAsked);
   connect(rate_, &QSpinBox::valueChanged, this, &frmAnim::PlayRateChanged);
-  return Row(this, {cmdPlay_, rate_, onion_skin_});
+  auto* window = new QPushButton("In a &window", this);
+  window->setObjectName("cmdPlayWindow");
+  window->setAutoDefault(false);
+  window->setToolTip("Play the frames in a window that can be made as large as you like");
+  connect(window, &QPushButton::clicked, this, &frmAnim::PlayWindowAsked);
+  return Row(this, {cmdPlay_, window, rate_, onion_skin_});
 }
 
 void frmAnim::ShowFrame(const QString& current, int count) {

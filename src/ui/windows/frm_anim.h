@@ -30,6 +30,7 @@ class frmAnim : public QWidget {
   void MoveAsked(anim::FrameMove move);
   void NumberTyped(const QString& number);
   void PlayAsked();
+  void PlayWindowAsked();
   void PlayRateChanged(int rate);
   void OnionSkinChanged(bool on);
   // A key was let go that neither the number fields nor the buttons use.

@@ -3,23 +3,21 @@
 #include <QActionGroup>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QFormLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QMenuBar>
-#include <QPixmap>
 #include <QPushButton>
 #include <QStatusBar>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <stdexcept>
 
-#include "model/palette.h"
 #include "sprites/sprite_source.h"
 #include "sprites/sprite_view.h"
 #include "ui/ports/qt_file_dialogs.h"
 #include "ui/ports/qt_messages.h"
 #include "ui/ports/qt_text.h"
+#include "ui/widgets/icons.h"
 
 namespace kelvo::ui {
 namespace {
@@ -28,12 +26,6 @@ constexpr std::array kColourNames{"Black",   "White", "Red",  "Cyan",   "Purple"
                                   "L Brown", "Brown", "Pink", "D Grey", "M Grey", "L Green", "L Blue", "L Grey"};
 constexpr int kNone = -1;  // the key of "[none]"
 constexpr int kSpriteBox = 2;
-
-QIcon SwatchOf(int colour) {
-  QPixmap swatch(14, 14);
-  swatch.fill(QColor::fromRgb(model::SurfaceColour(*model::C64Colour::FromNumber(colour))));
-  return swatch;
-}
 
 }  // namespace
 
@@ -119,7 +111,7 @@ QWidget* frmBMP2SpriteMain::MakeSide() {
   column->addWidget(picSprite_);
   auto* colours = new QGroupBox("Colors", side);
   auto* form = new QFormLayout(colours);
-  for (int number = 1; number <= 3; ++number) form->addRow(QString("Color &%1").arg(number), MakeColourList(number));
+  for (int number = 1; number <= 3; ++number) AddColourList(form, number);
   column->addWidget(colours);
   auto* notation = new QGroupBox("Output", side);
   auto* options = new QHBoxLayout(notation);
@@ -137,16 +129,19 @@ QWidget* frmBMP2SpriteMain::MakeSide() {
   return side;
 }
 
-QComboBox* frmBMP2SpriteMain::MakeColourList(int number) {
+void frmBMP2SpriteMain::AddColourList(QFormLayout* form, int number) {
+  const auto index = static_cast<std::size_t>(number - 1);
+  const QString pair = '%' + ToQt(model::ToText(sprites::kPairOfList.at(index)));
   auto* list = new QComboBox(this);
   list->setObjectName(QString("cboCol%1").arg(number));
-  list->setAccessibleName(QString("Color %1").arg(number));
+  list->setAccessibleName(QString("Color %1, bit pair ").arg(number) + pair);
   for (int colour = 0; colour < model::C64Colour::kCount; ++colour) {
-    list->addItem(SwatchOf(colour), kColourNames[static_cast<std::size_t>(colour)], colour);
+    list->addItem(ColourIcon(*model::C64Colour::FromNumber(colour)), kColourNames[static_cast<std::size_t>(colour)],
+                  colour);
   }
   list->addItem("[none]", kNone);
-  cboCol_[static_cast<std::size_t>(number - 1)] = list;
-  return list;
+  cboCol_.at(index) = list;
+  form->addRow(QString("Color &%1 (").arg(number) + pair + ')', list);
 }
 
 void frmBMP2SpriteMain::AskForSource() {
@@ -160,6 +155,8 @@ void frmBMP2SpriteMain::AskForSource() {
 void frmBMP2SpriteMain::OpenSource(const QString& path) {
   try {
     ShowPicture(sprites::LoadSpriteSource(PathFromQt(path)));
+  } catch (const sprites::SourceSizeError& error) {
+    QtMessages(this).InformWithMore(error.what(), error.Sizes());
   } catch (const std::runtime_error& error) {
     QtMessages(this).Inform(error.what());
   }

@@ -3,6 +3,7 @@
 
 #include <QAction>
 #include <QComboBox>
+#include <QFormLayout>
 #include <QLabel>
 #include <QMainWindow>
 #include <QRadioButton>
@@ -34,7 +35,7 @@ class frmBMP2SpriteMain : public QMainWindow {
   void MakeMenus();
   QAction* AddSwitch(QMenu* menu, const char* name, const QString& text);
   QWidget* MakeSide();
-  QComboBox* MakeColourList(int number);
+  void AddColourList(QFormLayout* form, int number);
   void AskForSource();
   void ShowPicture(const model::PictureImage& picture);
   void PointAt(model::PixelPoint at);

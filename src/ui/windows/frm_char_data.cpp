@@ -15,6 +15,7 @@ namespace {
 
 constexpr std::array kSlots{model::BitPair::k00, model::BitPair::k01, model::BitPair::k10, model::BitPair::k11};
 constexpr int kCharBox = 4;
+constexpr int kWidestBytes = 120;
 
 QLabel* FixedPitchLabel(QWidget* parent, const QString& widest) {
   auto* label = new QLabel(widest, parent);
@@ -34,44 +35,61 @@ frmCharData::frmCharData(const model::PictureImage& picture, QWidget* parent)
       lblCell_(new QLabel(this)) {
   setObjectName("frmCharData");
   setWindowTitle(" Char data");
-  auto* grid = new QGridLayout(this);
-  grid->setContentsMargins(6, 4, 6, 4);
-  grid->setHorizontalSpacing(5);
-  grid->setVerticalSpacing(0);
   picStd_->setObjectName("picStd");
   picStd_->setAccessibleName("Cell picture");
   picStd_->setFocusPolicy(Qt::NoFocus);
-  grid->addWidget(lblCell_, 0, 0, 1, 3);
-  grid->addWidget(picStd_, 1, 0, 8, 1, Qt::AlignTop);
   lblBytes_->setObjectName("lblBytes");
-  grid->addWidget(lblBytes_, 1, 1, 8, 1, Qt::AlignTop);
-  MakeCellBox();
+  auto* bits = MakeBits();
+  auto* rows = MakeSlots();
+  auto* grid = new QGridLayout(this);
+  grid->setContentsMargins(4, 3, 4, 3);
+  grid->setHorizontalSpacing(6);
+  grid->setVerticalSpacing(1);
+  grid->addWidget(lblCell_, 0, 0, 1, 3);
+  grid->addWidget(picStd_, 1, 0, 2, 1, Qt::AlignTop);
+  grid->addWidget(lblBytes_, 1, 1, 3, 1, Qt::AlignTop);
+  // Letters too large for one row put the colors below the bytes.
+  const bool is_wide = lblBytes_->minimumWidth() > kWidestBytes;
+  grid->addLayout(rows, is_wide ? 4 : 1, is_wide ? 0 : 2, is_wide ? 1 : 2, is_wide ? 3 : 1, Qt::AlignTop);
+  grid->addLayout(bits, 3, is_wide ? 0 : 2, Qt::AlignBottom);
+  grid->setColumnStretch(2, 1);
+  grid->setRowStretch(2, 1);
   Show(model::LookUpPixel(1, 1));
 }
 
-void frmCharData::MakeCellBox() {
-  auto* grid = static_cast<QGridLayout*>(layout());
+QLayout* frmCharData::MakeBits() {
   auto* bits = new QHBoxLayout;
+  bits->setSpacing(6);
   for (std::size_t i = 0; i < lblBits_.size(); ++i) {
     lblBits_[i] = FixedPitchLabel(this, "00");
     lblBits_[i]->setObjectName(QString("lblBits_%1").arg(i + 1));
     bits->addWidget(lblBits_[i]);
   }
-  grid->addLayout(bits, 9, 0);
+  bits->addStretch();
+  return bits;
+}
+
+QLayout* frmCharData::MakeSlots() {
   auto* rows = new QGridLayout;
   rows->setHorizontalSpacing(4);
+  rows->setVerticalSpacing(2);
+  rows->setColumnStretch(1, 1);
   for (std::size_t i = 0; i < slots_.size(); ++i) {
     slots_[i] = {new SwatchButton(this), new QLabel(this), new QLabel(this)};
     slots_[i].swatch->setObjectName(QString("slot_%1").arg(ToQt(model::ToText(kSlots[i]))));
     slots_[i].swatch->setFocusPolicy(Qt::NoFocus);
     slots_[i].swatch->setFixedSize(18, 18);
-    slots_[i].name->setMinimumWidth(fontMetrics().horizontalAdvance("%00 Middle gray"));
+    slots_[i].name->setText("%00 " + WidestColourName(fontMetrics()));
+    slots_[i].name->setMinimumWidth(slots_[i].name->sizeHint().width());
+    slots_[i].count->setText("32");
+    slots_[i].count->setMinimumWidth(slots_[i].count->sizeHint().width());
+    slots_[i].count->setAlignment(Qt::AlignRight);
     const int row = static_cast<int>(i);
     rows->addWidget(slots_[i].swatch, row, 0);
     rows->addWidget(slots_[i].name, row, 1);
-    rows->addWidget(slots_[i].count, row, 2, Qt::AlignRight);
+    rows->addWidget(slots_[i].count, row, 2);
   }
-  grid->addLayout(rows, 1, 2, 8, 1, Qt::AlignTop);
+  return rows;
 }
 
 void frmCharData::Show(const model::PixelPlace& place) {

@@ -32,7 +32,8 @@ class frmCharData : public QWidget {
     QLabel* name;
     QLabel* count;
   };
-  void MakeCellBox();
+  QLayout* MakeBits();
+  QLayout* MakeSlots();
   void ShowBytes();
   void ShowSlots();
   void ShowBitPairs();

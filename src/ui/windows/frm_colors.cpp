@@ -4,6 +4,8 @@
 #include <QStringList>
 #include <tuple>
 
+#include "editing/pens.h"
+
 namespace kelvo::ui {
 namespace {
 
@@ -24,13 +26,14 @@ frmColors::frmColors(QWidget* parent) : QWidget(parent) {
   setObjectName("frmColors");
   setWindowTitle(" Colors");
   auto* grid = new QGridLayout(this);
-  grid->setContentsMargins(6, 6, 6, 6);
-  grid->setSpacing(3);
-  grid->setColumnMinimumWidth(kColumns, 3);
+  grid->setContentsMargins(4, 4, 4, 4);
+  grid->setSpacing(2);
+  grid->setColumnMinimumWidth(kColumns, 2);
   for (int number = 0; number < model::C64Colour::kCount; ++number) {
     auto* swatch = new SwatchButton(this);
     const model::C64Colour colour = *model::C64Colour::FromNumber(number);
     swatch->setObjectName(QString("swatch_%1").arg(number));
+    swatch->SetKey(QChar(editing::KeyForPen(colour)));
     swatch->setAccessibleDescription(kHint);
     swatch->setStatusTip(kHint);
     grid->addWidget(swatch, number / kColumns, number % kColumns);
@@ -62,6 +65,12 @@ void frmColors::ShowCell(const model::CellColours& cell) {
   if (cell_ == cell) return;
   cell_ = cell;
   ShowMarks();
+}
+
+void frmColors::ShowCellCounts(const std::optional<std::array<int, model::C64Colour::kCount>>& cells) {
+  for (std::size_t number = 0; number < swatches_.size(); ++number) {
+    swatches_.at(number)->ShowCells(cells ? std::optional(cells->at(number)) : std::nullopt);
+  }
 }
 
 void frmColors::Choose(model::C64Colour colour, Qt::MouseButton button, Qt::KeyboardModifiers modifiers) {

@@ -25,6 +25,9 @@ class frmColors : public QWidget {
   // Marks the own colours of the cell under the pointer.
   void ShowCell(const model::CellColours& cell);
 
+  // In how many cells each colour is, by its number; nothing: without these numbers.
+  void ShowCellCounts(const std::optional<std::array<int, model::C64Colour::kCount>>& cells);
+
  signals:
   void LeftPenChosen(model::C64Colour colour);
   void RightPenChosen(model::C64Colour colour);

@@ -18,6 +18,7 @@ frmCommand::frmCommand(PromptLines& lines, QWidget* parent)
   lstHistory_->setObjectName("lstHistory");
   lstHistory_->setAccessibleName("Replies");
   lstHistory_->setFont(font);
+  lstHistory_->setMinimumHeight(1);
   lstHistory_->setModel(&lines);
   lstHistory_->setEditTriggers(QAbstractItemView::NoEditTriggers);
   lstHistory_->setUniformItemSizes(true);
@@ -42,6 +43,12 @@ frmCommand::frmCommand(PromptLines& lines, QWidget* parent)
 
 QSize frmCommand::sizeHint() const {
   return {330, 130};
+}
+
+// Three replies above the line.
+QSize frmCommand::minimumSizeHint() const {
+  const QFontMetrics metrics(txtCommand_->font());
+  return {metrics.averageCharWidth() * 24, 3 * metrics.lineSpacing() + txtCommand_->sizeHint().height() + 8};
 }
 
 void frmCommand::keyReleaseEvent(QKeyEvent* event) {

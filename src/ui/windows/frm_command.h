@@ -16,6 +16,7 @@ class frmCommand : public QWidget {
   frmCommand(PromptLines& lines, QWidget* parent);
 
   QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
 
  signals:
   void CommandSubmitted(const QString& line);

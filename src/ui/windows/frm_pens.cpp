@@ -1,6 +1,6 @@
 #include "ui/windows/frm_pens.h"
 
-#include <QHBoxLayout>
+#include <QGridLayout>
 #include <QLabel>
 #include <QToolButton>
 
@@ -8,6 +8,8 @@
 
 namespace kelvo::ui {
 namespace {
+
+constexpr int kWidestNames = 230;
 
 // A click steps to the next colour, with Shift or the right button to the one before.
 model::C64Colour Step(model::C64Colour colour, Qt::MouseButton button, Qt::KeyboardModifiers modifiers) {
@@ -22,30 +24,42 @@ frmPens::PenRow frmPens::MakeRow(const char* object_name) {
   pen.swatch->setObjectName(object_name);
   pen.swatch->setAccessibleDescription("A click takes the next color, with Shift the one before.");
   pen.swatch->setStatusTip(pen.swatch->accessibleDescription());
-  pen.name->setMinimumWidth(pen.name->fontMetrics().horizontalAdvance("R: Middle gray "));
-  layout()->addWidget(pen.swatch);
-  layout()->addWidget(pen.name);
+  pen.swatch->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+  pen.name->setMinimumWidth(pen.name->fontMetrics().horizontalAdvance("R: " + WidestColourName(fontMetrics())));
   return pen;
 }
 
 frmPens::frmPens(QWidget* parent) : QWidget(parent) {
   setObjectName("frmPens");
   setWindowTitle(" Pens");
-  auto* row = new QHBoxLayout(this);
-  row->setContentsMargins(6, 6, 6, 6);
   left_ = MakeRow("LeftPen");
   right_ = MakeRow("RightPen");
   auto* swap = new QToolButton(this);
   swap->setObjectName("cmdSwap");
   swap->setIcon(IconNamed("swap"));
-  swap->setToolTip("Swap the pens");
+  swap->setToolTip("Swap the pens (key X)");
   swap->setAccessibleName("Swap the pens");
-  row->addWidget(swap);
+  LayOut(swap);
   connect(swap, &QToolButton::clicked, this, &frmPens::SwapAsked);
   connect(left_.swatch, &SwatchButton::Chosen, this,
           [this](auto button, auto keys) { emit LeftPenChosen(Step(left_.swatch->Colour(), button, keys)); });
   connect(right_.swatch, &SwatchButton::Chosen, this,
           [this](auto button, auto keys) { emit RightPenChosen(Step(right_.swatch->Colour(), button, keys)); });
+}
+
+// Beside one another; letters too large for that put them below one another.
+void frmPens::LayOut(QWidget* swap) {
+  auto* grid = new QGridLayout(this);
+  grid->setContentsMargins(4, 4, 4, 4);
+  const bool is_wide = 2 * left_.name->minimumWidth() > kWidestNames;
+  const int row = is_wide ? 1 : 0, column = is_wide ? 0 : 2;
+  grid->addWidget(left_.swatch, 0, 0);
+  grid->addWidget(left_.name, 0, 1);
+  grid->addWidget(right_.swatch, row, column);
+  grid->addWidget(right_.name, row, column + 1);
+  grid->addWidget(swap, 0, 4, row + 1, 1);
+  grid->setColumnStretch(1, 1);
+  grid->setColumnStretch(column + 1, 1);
 }
 
 void frmPens::ShowPens(model::C64Colour left, model::C64Colour right) {

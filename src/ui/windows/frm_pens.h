@@ -29,6 +29,7 @@ class frmPens : public QWidget {
     QLabel* name;
   };
   PenRow MakeRow(const char* object_name);
+  void LayOut(QWidget* swap);
 
   PenRow left_, right_;
 };

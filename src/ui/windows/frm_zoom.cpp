@@ -1,10 +1,20 @@
 #include "ui/windows/frm_zoom.h"
 
+#include <QPaintEvent>
+#include <QPainter>
+#include <cmath>
 #include <utility>
 
 #include "model/onion_skin.h"
 
 namespace kelvo::ui {
+namespace {
+
+// At 4:1.
+constexpr int kCellSide = 32, kFirstCellsWide = 20, kFirstCellsHigh = 18, kLeastCells = 6;
+
+}  // namespace
+
 frmZoom::frmZoom(const model::PictureImage& picture, QWidget* parent)
     : QWidget(parent),
       picture_(picture),
@@ -12,12 +22,62 @@ frmZoom::frmZoom(const model::PictureImage& picture, QWidget* parent)
       picStd_(new ZoomPicture(surface_, area_, this)) {
   setObjectName("frmZoom");
   picStd_->setObjectName("picStd");
-  picStd_->setAccessibleName("Zoom picture");
+  TellCursor({});
   picStd_->setAccessibleDescription("The part of the picture that is painted on.");
-  setFixedSize(picStd_->sizeHint());
   ConnectBox();
   SetMagnification(area_.Magnification());
   DrawBorder();
+}
+
+QSize frmZoom::SizeFor(int cells_wide, int cells_high) const {
+  const auto side = [this](int cells) {
+    return static_cast<int>(std::ceil((cells * kCellSide + 2 * model::ZoomArea::kBorder) * picStd_->Scale()));
+  };
+  return {side(cells_wide), side(cells_high)};
+}
+
+QSize frmZoom::sizeHint() const {
+  return SizeFor(kFirstCellsWide, kFirstCellsHigh);
+}
+
+QSize frmZoom::minimumSizeHint() const {
+  return SizeFor(kLeastCells, kLeastCells);
+}
+
+void frmZoom::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  FitRoom();
+}
+
+void frmZoom::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  FitRoom();  // the display's scale is known now
+}
+
+// What is left around whole cells.
+void frmZoom::paintEvent(QPaintEvent* event) {
+  QPainter(this).fillRect(event->rect(), Qt::black);
+}
+
+void frmZoom::FitRoom() {
+  const auto room = [this](int side) {
+    return static_cast<int>(std::floor(side / picStd_->Scale())) - 2 * model::ZoomArea::kBorder;
+  };
+  const model::ZoomArea before = area_;
+  area_.SetRoom(room(width()), room(height()));
+  FitSurface();
+  if (area_ == before) return;
+  DrawCapturePic();
+  emit AreaChanged();
+}
+
+void frmZoom::FitSurface() {
+  if (surface_.Width() != area_.SurfaceWidth() || surface_.Height() != area_.SurfaceHeight()) {
+    surface_ = model::Surface(area_.SurfaceWidth(), area_.SurfaceHeight());
+    picStd_->ShowSurface(surface_);
+    DrawBorder();
+  }
+  picStd_->move((width() - picStd_->width()) / 2, (height() - picStd_->height()) / 2);
 }
 
 template <typename Change>
@@ -30,10 +90,11 @@ void frmZoom::ChangeArea(Change&& change) {
 }
 
 void frmZoom::ConnectBox() {
-  connect(picStd_, &SurfaceView::Pressed, this, [this](QPoint at, Qt::MouseButton button) {
-    grip_ = at;
-    emit Pressed(at, button);
-  });
+  connect(picStd_, &SurfaceView::Pressed, this,
+          [this](QPoint at, Qt::MouseButton button, Qt::KeyboardModifiers modifiers) {
+            grip_ = at;
+            emit Pressed(at, button, modifiers);
+          });
   connect(picStd_, &SurfaceView::Moved, this, [this](QPoint at, Qt::MouseButtons held) {
     DragArea(at, held);
     emit Moved(at, held);
@@ -49,6 +110,7 @@ void frmZoom::SetMagnification(int magnification) {
 
 void frmZoom::MagnificationDone() {
   setWindowTitle(QString(" Zoom (%1:1)").arg(area_.Magnification()));
+  FitSurface();
   DrawCapturePic();
   emit AreaChanged();
   emit MagnificationChanged();
@@ -83,6 +145,14 @@ void frmZoom::Move(model::ZoomMove move, model::ZoomStep step) {
   ChangeArea([&] { area_.Move(move, step); });
 }
 
+void frmZoom::Reveal(model::PixelPoint at) {
+  ChangeArea([&] { area_.Reveal(at.x, at.y); });
+}
+
+void frmZoom::TellCursor(const QString& place) {
+  picStd_->setAccessibleName(place.isEmpty() ? "Zoom picture" : "Zoom picture, " + place);
+}
+
 void frmZoom::SetGridColor(model::C64Colour colour) {
   grid_.colour = colour;
   DrawCapturePic();
@@ -99,7 +169,7 @@ void frmZoom::TickBorder() {
 
 void frmZoom::DrawBorder() {
   model::DrawZoomBorder(border_.Colour(), surface_);
-  for (const model::Rect& side : model::kZoomBorder) picStd_->Refresh(side);
+  for (const model::Rect& side : model::ZoomBorderSides(surface_)) picStd_->Refresh(side);
 }
 
 void frmZoom::ShowPreview(editing::Points points, model::C64Colour colour) {

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "ui/ports/qt_text.h"
+#include "ui/windows/window_layout.h"
 
 namespace kelvo::ui {
 namespace {
@@ -28,10 +29,10 @@ bool IsOnADisplay(int coordinate) {
   return std::abs(std::int64_t{coordinate}) <= kFarthest;
 }
 
-// The setting of a window's place, by its objectName.
+// The setting of a window's place or size.
 class PlaceSetting {
  public:
-  explicit PlaceSetting(const QString& name) : key_(FromQt(name + "Place")) {}
+  explicit PlaceSetting(const QString& key) : key_(FromQt(key)) {}
   app::Setting Get() const { return {"Settings", key_, ""}; }
 
  private:
@@ -56,7 +57,45 @@ void KeepNumbers(app::SettingsStore& settings, const QString& name, std::initial
   settings.Write(PlaceSetting(name).Get(), FromQt(texts.join(',')));
 }
 
-// The window's title bar can be taken hold of inside `space`.
+// The frame that a window manager puts around a window whose own is not known yet.
+constexpr QMargins kLikelyFrame(6, 30, 6, 6);
+
+}  // namespace
+
+std::optional<KeptPlace> ReadPlace(const app::SettingsStore& settings, const QString& name) {
+  const auto numbers = ReadNumbers(settings, name + "Place", 3);
+  if (!numbers) return std::nullopt;
+  const auto sides = ReadNumbers(settings, name + "Size", 2);
+  return KeptPlace{{(*numbers)[0], (*numbers)[1]},
+                   (*numbers)[2] == 1,
+                   sides ? QSize(std::abs((*sides)[0]), std::abs((*sides)[1])) : QSize()};
+}
+
+void KeepPlace(app::SettingsStore& settings, const QString& name, const KeptPlace& place) {
+  KeepNumbers(settings, name + "Place", {place.at.x(), place.at.y(), place.is_shown ? 1 : 0});
+  if (place.size.isValid()) KeepNumbers(settings, name + "Size", {place.size.width(), place.size.height()});
+}
+
+QRect FreeArea(const QRect& place) {
+  const auto seen = [&place](const QScreen* screen) {
+    const QRect part = screen->availableGeometry() & place;
+    return part.width() * part.height();
+  };
+  const auto screens = QGuiApplication::screens();
+  const auto most = std::max_element(screens.begin(), screens.end(),
+                                     [&](const QScreen* one, const QScreen* other) { return seen(one) < seen(other); });
+  if (most == screens.end()) return {0, 0, 1024, 768};
+  const QScreen* screen = seen(*most) > 0 ? *most : screens.first();
+  return screen->availableGeometry();
+}
+
+void BringIntoReach(QWidget& window) {
+  const QRect space = FreeArea(window.geometry()).marginsRemoved(kLikelyFrame);
+  const QSize size = window.size().boundedTo(space.size());
+  const QRect there = IntoReach({window.geometry().topLeft(), size}, space);
+  if (there != window.geometry()) window.setGeometry(there);
+}
+
 bool CanBeTaken(const QRect& window, const QRect& space) {
   const QRect bar(window.left(), window.top(), window.width(), kTitleBar);
   const QRect seen = bar & space;
@@ -70,61 +109,23 @@ bool CanBeTakenOnAScreen(const QRect& window) {
 }
 
 void RestoreFrame(const app::SettingsStore& settings, QMainWindow& frame) {
-  const auto numbers = ReadNumbers(settings, frame.objectName(), 5);
+  frame.restoreState(
+      QByteArray::fromBase64(QByteArray::fromStdString(settings.Read(PlaceSetting("Toolbar1Place").Get()))));
+  const auto numbers = ReadNumbers(settings, frame.objectName() + "Place", 5);
   if (!numbers) return;
   const QRect place((*numbers)[0], (*numbers)[1], (*numbers)[2], (*numbers)[3]);
-  if (!CanBeTakenOnAScreen(place) || place.width() < 3 * kGrip || place.height() < 3 * kGrip) return;
-  // A window of a larger display, or of nonsense, would take more memory than there is.
-  const QSize most = QGuiApplication::primaryScreen()->virtualSize();
-  frame.setGeometry(QRect(place.topLeft(), place.size().boundedTo(most)));
+  if (place.width() < 3 * kGrip || place.height() < 3 * kGrip) return;
+  const QRect space = FreeArea(place).marginsRemoved(kLikelyFrame);
+  const QRect bounded(place.topLeft(), place.size().boundedTo(space.size()));
+  frame.setGeometry(CanBeTakenOnAScreen(place) && bounded == place ? place : IntoReach(bounded, space));
   if ((*numbers)[4] == 1) frame.setWindowState(Qt::WindowMaximized);
 }
 
-}  // namespace
-
-void ArrangeWindows(std::span<const ChildPlace> children) {
-  for (const ChildPlace& child : children) {
-    child.window->move(child.place);
-    child.window->setVisible(child.is_shown);
-  }
-}
-
-void PlaceFloating(QWidget& window, QPoint place, const QWidget& frame) {
-  const QRect content(place, window.sizeHint());
-  const bool is_near = IsOnADisplay(place.x()) && IsOnADisplay(place.y());
-  if (!is_near || !CanBeTakenOnAScreen(content.translated(0, -kTitleBar))) return ArrangeFloating(window, frame);
-  window.setGeometry(content);
-}
-
-void ArrangeFloating(QWidget& window, const QWidget& frame) {
-  const QSize size = window.sizeHint();
-  const QRect space = frame.geometry() & frame.screen()->availableGeometry();
-  const QPoint corner = space.bottomRight() - QPoint(size.width(), size.height()) - QPoint(kTitleBar, kTitleBar);
-  window.setGeometry(
-      QRect(QPoint(std::max(corner.x(), space.left()), std::max(corner.y(), space.top() + kTitleBar)), size));
-}
-
-void KeepPlaces(app::SettingsStore& settings, const QMainWindow& frame, std::span<const ChildPlace> children) {
+void KeepFrame(app::SettingsStore& settings, const QMainWindow& frame) {
   const QRect place = frame.normalGeometry();
-  KeepNumbers(settings, frame.objectName(),
+  KeepNumbers(settings, frame.objectName() + "Place",
               {place.x(), place.y(), place.width(), place.height(), frame.isMaximized() ? 1 : 0});
-  settings.Write(PlaceSetting("Toolbar1").Get(), frame.saveState().toBase64().toStdString());
-  for (const ChildPlace& child : children) {
-    const QPoint at = child.window->pos();
-    KeepNumbers(settings, child.window->objectName(), {at.x(), at.y(), child.window->isHidden() ? 0 : 1});
-  }
-}
-
-void RestorePlaces(const app::SettingsStore& settings, QMainWindow& frame, std::span<const ChildPlace> children) {
-  RestoreFrame(settings, frame);
-  frame.restoreState(QByteArray::fromBase64(QByteArray::fromStdString(settings.Read(PlaceSetting("Toolbar1").Get()))));
-  for (const ChildPlace& child : children) {
-    const auto numbers = ReadNumbers(settings, child.window->objectName(), 3);
-    if (!numbers) continue;
-    const QRect place(QPoint((*numbers)[0], (*numbers)[1]), child.window->sizeHint());
-    if (CanBeTaken(place, QRect(QPoint(), frame.size()))) child.window->move(place.topLeft());
-    child.window->setVisible((*numbers)[2] == 1);
-  }
+  settings.Write(PlaceSetting("Toolbar1Place").Get(), frame.saveState().toBase64().toStdString());
 }
 
 QPoint ReadFrameWindowPlace(const app::SettingsStore& settings) {

@@ -1,40 +1,45 @@
-// Where windows stand, kept between runs.
+// Where windows stood, kept between runs, and brought back into reach where the displays are others now.
 #pragma once
 
 #include <QMainWindow>
-#include <QMdiSubWindow>
 #include <QPoint>
-#include <span>
+#include <QRect>
+#include <optional>
 
 #include "app/settings_store.h"
 
 namespace kelvo::ui {
 
-// A child window with the place and the state it has when windows are arranged.
-struct ChildPlace {
-  QMdiSubWindow* window;
-  QPoint place;
+// What a window manager adds to a window's width and height, or somewhat more.
+inline constexpr QSize kAround(8, 36);
+
+// What was kept of a child window; `size` is empty for one of a fixed size.
+struct KeptPlace {
+  QPoint at;
   bool is_shown;
+  QSize size;
 };
 
-// Puts every child window where it belongs by default.
-void ArrangeWindows(std::span<const ChildPlace> children);
+std::optional<KeptPlace> ReadPlace(const app::SettingsStore& settings, const QString& name);
+void KeepPlace(app::SettingsStore& settings, const QString& name, const KeptPlace& place);
 
-// Puts the content of a window that floats over `frame` at `place` on the display, or where it is arranged when its
-// title bar could not be taken hold of there.
-void PlaceFloating(QWidget& window, QPoint place, const QWidget& frame);
+// The main window and its toolbar. Nonsense is not restored; a place of a display that is gone is brought into reach.
+void RestoreFrame(const app::SettingsStore& settings, QMainWindow& frame);
+void KeepFrame(app::SettingsStore& settings, const QMainWindow& frame);
 
-// Puts such a window into the lower right corner of `frame`, where it hides neither menus nor tools.
-void ArrangeFloating(QWidget& window, const QWidget& frame);
+// What a window can take of the display that shows most of `place`, or of the first one; never empty, not even where
+// there is no display.
+QRect FreeArea(const QRect& place);
+
+// Moves a window of the display's own into reach, and makes it no larger than its display.
+void BringIntoReach(QWidget& window);
+
+// The window's title bar can be taken hold of inside `space`, or on a display.
+bool CanBeTaken(const QRect& window, const QRect& space);
+bool CanBeTakenOnAScreen(const QRect& window);
 
 // Where the content of the frame window begins on the display, as it was kept. What is stored may be out of reach.
 QPoint ReadFrameWindowPlace(const app::SettingsStore& settings);
 void KeepFrameWindowPlace(app::SettingsStore& settings, QPoint place);
-
-// Stores the places of the main window, its toolbar and the child windows.
-void KeepPlaces(app::SettingsStore& settings, const QMainWindow& frame, std::span<const ChildPlace> children);
-
-// Puts all where they were. A place that no screen (for a child, the main window) shows any more is left alone.
-void RestorePlaces(const app::SettingsStore& settings, QMainWindow& frame, std::span<const ChildPlace> children);
 
 }  // namespace kelvo::ui

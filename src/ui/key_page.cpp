@@ -1,0 +1,71 @@
+#include "ui/key_page.h"
+
+#include <QKeySequence>
+#include <string_view>
+
+#include "editing/pens.h"
+#include "editing/tool_table.h"
+#include "ui/desks/keyboard_hand.h"
+#include "ui/desks/zoom_keys.h"
+#include "ui/menu_table.h"
+#include "ui/ports/qt_text.h"
+#include "ui/widgets/swatch_button.h"
+
+namespace kelvo::ui {
+namespace {
+
+QString Section(const QString& title, const QString& rows) {
+  return "<h3>" + title + "</h3><table cellspacing='0' cellpadding='3'>" + rows + "</table>";
+}
+
+QString Row(const QString& key, const QString& what) {
+  return "<tr><td width='150'><b>" + key.toHtmlEscaped() + "</b></td><td>" + what.toHtmlEscaped() + "</td></tr>";
+}
+
+QString MenuRows() {
+  QString rows;
+  for (const MenuEntry& entry : MenuEntries()) {
+    if (std::string_view(entry.key).empty()) continue;
+    rows += Row(QKeySequence(entry.key).toString(QKeySequence::NativeText),
+                QString(entry.text).remove('&').remove("...") + ": " + entry.tip);
+  }
+  return rows;
+}
+
+QString ToolRows() {
+  QString rows;
+  for (const editing::ToolRow& tool : editing::ToolTable()) rows += Row(QChar(tool.key), ToQt(tool.caption));
+  return rows + Row("Escape", "Take an unfinished shape back; else the keyboard's cursor goes, else Draw is chosen");
+}
+
+QString PenRows() {
+  QString rows;
+  for (int number = 0; number < model::C64Colour::kCount; ++number) {
+    const model::C64Colour colour = *model::C64Colour::FromNumber(number);
+    rows += Row(QChar(editing::KeyForPen(colour)), "Left pen: " + PlainColourName(colour));
+  }
+  return rows;
+}
+
+QString ScrollRows() {
+  QString rows;
+  for (const ZoomKey& row : kZoomKeys) {
+    rows += Row(QKeySequence(row.key).toString(QKeySequence::NativeText), row.what);
+  }
+  return rows;
+}
+
+QString KeyboardRows() {
+  QString rows;
+  for (const KeyboardHand::KeyRow& row : KeyboardHand::Keys()) rows += Row(row.keys, row.what);
+  return rows;
+}
+
+}  // namespace
+
+QString KeyPage() {
+  return Section("Menus", MenuRows()) + Section("Tools", ToolRows()) + Section("Pens", PenRows()) +
+         Section("Looking", ScrollRows()) + Section("Painting by keyboard, in the zoom window", KeyboardRows());
+}
+
+}  // namespace kelvo::ui
