@@ -83,7 +83,7 @@ QLayout* frmCharData::MakeSlots() {
     slots_[i].name->setMinimumWidth(slots_[i].name->sizeHint().width());
     slots_[i].count->setText("32");
     slots_[i].count->setMinimumWidth(slots_[i].count->sizeHint().width());
-    slots_[i].count->setAlignment(Qt::AlignRight);
+    slots_[i].count->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     const int row = static_cast<int>(i);
     rows->addWidget(slots_[i].swatch, row, 0);
     rows->addWidget(slots_[i].name, row, 1);
