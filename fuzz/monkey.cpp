@@ -1,6 +1,6 @@
 // Random hands on the real main window: nothing that they do may crash it, hang it, let a window show something else
-// than the picture in memory, or leave BACKUP in disorder. KELVO_MONKEY_EVENTS and KELVO_MONKEY_SEED say how long and
-// which.
+// than the picture in memory, change the picture without a step, or leave BACKUP in disorder. KELVO_MONKEY_EVENTS and
+// KELVO_MONKEY_SEED say how long and which.
 #include <QAbstractButton>
 #include <QDialog>
 #include <QDir>
@@ -14,6 +14,7 @@
 #include "model/full_view.h"
 #include "support/pictures.h"
 #include "support/platform.h"
+#include "ui/desks/history_desk.h"
 #include "ui/main_frame_fixture.h"
 #include "ui/windows/frm_bmp_view.h"
 
@@ -187,6 +188,14 @@ class Monkey : public MainFrameTest {
     }
   }
 
+  // Whoever changes the picture tells of it, so the current step is the picture.
+  void ExpectEveryChangeIsAStep() {
+    frame->Desk().LoseFocus();  // ends a stroke
+    frame->History().Settle();
+    auto& steps = frame->History().Steps();
+    EXPECT_EQ(steps.PictureAt(steps.Current()), frame->Document().picture);
+  }
+
   // Whatever lies in BACKUP is the user's alone, and whole.
   void ExpectBackupsAreInOrder() const {
     for (const auto& entry : std::filesystem::directory_iterator(folders.Backup())) {
@@ -214,6 +223,7 @@ TEST_F(Monkey, NeitherCrashesNorHangsNorConfusesTheViews) {
     DoAnything();
     if (event % kEventsBetweenChecks != 0) continue;
     ExpectTheViewShowsThePicture();
+    ExpectEveryChangeIsAStep();
     ExpectBackupsAreInOrder();
     if (frame->Document().picture != before) ++changes;
     before = frame->Document().picture;

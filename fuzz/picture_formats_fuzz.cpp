@@ -1,5 +1,7 @@
-// Picture files of every type: what is read is a picture, what is written is read again, other sizes are refused.
-#include "files/picture_format.h"
+// Picture files of every type: what is read is a picture, what is written is read again, other sizes are refused; and
+// files of any kind by their bytes, packed ones too.
+#include "files/packed_koala.h"
+#include "files/picture_content.h"
 #include "input.h"
 #include "model/pixel_colour.h"
 
@@ -42,7 +44,26 @@ void CheckWrittenAndRead(PictureImage picture) {
 
 void CheckTypes(const app::Bytes& bytes, const std::string& name) {
   const files::FormatType type = files::TypeOfFile(name, bytes.size());
-  Require(type >= files::kGeneralType && type <= files::kKlaType, "every name has a type");
+  Require(type >= files::kGeneralType && type <= files::kByContentType, "every name has a type");
+}
+
+// Whatever the bytes are: a picture, which every export carries whole, or an error.
+void CheckContent(const app::Bytes& bytes) {
+  try {
+    const PictureImage picture = files::DecodeAny(files::kByContentType, bytes, {}, files::Reading::kDocumented);
+    for (const files::FormatType type :
+         {files::kVidcom64Type, files::kKoaType, files::kArtStudioType, files::kPicasso64Type, files::kDrazPaintType}) {
+      const files::PictureFormat& format = files::FormatOf(type);
+      const app::Bytes written = files::EncodeAs(format, picture);
+      const PictureImage read = files::Decode(format, written, {}, files::Reading::kExact);
+      Require(SameUsed(read.Bitmap, picture.Bitmap, PictureImage::kBitmapBytes), "an export carries the bitmap");
+      Require(SameUsed(read.ScreenMemory, picture.ScreenMemory, PictureImage::kCells), "an export carries the screen");
+      Require(SameUsed(read.ColourMemory, picture.ColourMemory, PictureImage::kCells), "an export carries the colours");
+      Require(read.BackgroundColour == picture.BackgroundColour, "an export carries the background");
+    }
+  } catch (const files::UnknownPicture&) {
+    Require(bytes.size() != files::FormatOf(files::kKoaType).file_size, "a file of Koala's size is one");
+  }
 }
 
 }  // namespace
@@ -51,12 +72,14 @@ void CheckTypes(const app::Bytes& bytes, const std::string& name) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace kelvo;
   fuzz::Input input(data, size);
-  const files::PictureFormat& format = files::FormatOf(input.Below(6));  // one more than there are
+  const files::PictureFormat& format = files::FormatOf(input.Below(10));  // one more than there are
   const int length = input.Below(4);
   const auto before = model::C64Colour::FromByte(input.Byte());
   app::Bytes bytes = input.Rest();
   fuzz::CheckTypes(bytes, std::string(bytes.begin(), bytes.end()));
-  if (length > 0) bytes = fuzz::Stretched(bytes, length == 1 ? format.other_size : format.file_size);
+  fuzz::CheckContent(bytes);
+  if (length > 0 && format.file_size <= files::kMostPictureBytes)
+    bytes = fuzz::Stretched(bytes, length == 1 ? format.other_size : format.file_size);
   try {
     const model::PictureImage picture = files::Decode(format, bytes, before);
     fuzz::Require(format.Takes(bytes.size()), "only sizes of the type are taken");

@@ -1,5 +1,5 @@
-// Whatever stands in the settings and in stored paths, what is read from it is in range, and what is stored again reads
-// the same.
+// Whatever stands in the settings, in stored paths and in palette files, what is read from it is in range, and what is
+// stored again reads the same.
 #include <algorithm>
 
 #include "anim/anim_settings.h"
@@ -12,6 +12,7 @@
 #include "c64out/vice_folder.h"
 #include "editing/preferences.h"
 #include "files/current_file.h"
+#include "files/palette_file.h"
 #include "files/recent_files.h"
 #include "files/save_bitmap.h"
 #include "input.h"
@@ -123,12 +124,21 @@ void CheckPath(const std::string& path) {
   c64out::CheckViceFolder(path.substr(0, 200));
 }
 
+void CheckPalette(const std::string& text) {
+  try {
+    for (const std::uint32_t colour : files::ParseVpl(text)) Require(colour >> 24 == 0xFF, "every colour is opaque");
+  } catch (const files::PaletteError&) {
+    // no palette
+  }
+}
+
 }  // namespace
 }  // namespace kelvo::fuzz
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace kelvo;
   fuzz::Input input(data, size);
+  fuzz::CheckPalette({data, data + size});
   const std::string path = input.Line();
   const support::MapSettings settings = fuzz::Settings(input);
   fuzz::CheckPath(path);

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "app/text.h"
+#include "files/load_picture.h"
 
 namespace kelvo::anim {
 namespace {
@@ -85,7 +86,7 @@ void FrameNavigation::Refresh() {
 
 std::optional<model::PictureImage> FrameNavigation::PictureBefore() const {
   const auto before = row_.ReadableBefore(CurrentFrame().value_or(0));
-  return before ? ReadFrame(row_.Path(*before)) : std::nullopt;
+  return before ? ReadFrame(row_.Path(*before), files::ReadingBy(with_.settings)) : std::nullopt;
 }
 
 FrameNames FrameNavigation::Names() const {

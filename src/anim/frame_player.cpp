@@ -7,8 +7,8 @@
 
 namespace kelvo::anim {
 
-FramePlayer::FramePlayer(std::vector<std::filesystem::path> paths, int rate)
-    : paths_(std::move(paths)), rate_(std::clamp(rate, kSlowestRate, kFastestRate)) {}
+FramePlayer::FramePlayer(std::vector<std::filesystem::path> paths, int rate, files::Reading reading)
+    : paths_(std::move(paths)), rate_(std::clamp(rate, kSlowestRate, kFastestRate)), reading_(reading) {}
 
 const model::PictureImage* FramePlayer::Due(Milliseconds since_start) {
   const Turn turn = TurnAt(since_start);
@@ -36,7 +36,7 @@ void FramePlayer::Read(Turn turn) {
   const auto index = static_cast<std::size_t>(turn) % paths_.size();
   if (read_index_ == index) return;
   read_index_ = index;
-  read_ = ReadFrame(paths_[index]);
+  read_ = ReadFrame(paths_[index], reading_);
 }
 
 }  // namespace kelvo::anim

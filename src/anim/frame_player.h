@@ -7,6 +7,7 @@
 #include <optional>
 #include <vector>
 
+#include "files/picture_format.h"
 #include "model/picture_image.h"
 
 namespace kelvo::anim {
@@ -18,8 +19,8 @@ class FramePlayer {
  public:
   using Milliseconds = std::chrono::milliseconds;
 
-  // The frames in their order, and frames a second, kSlowestRate..kFastestRate.
-  FramePlayer(std::vector<std::filesystem::path> paths, int rate);
+  // The frames in their order, frames a second, kSlowestRate..kFastestRate, and how files are read.
+  FramePlayer(std::vector<std::filesystem::path> paths, int rate, files::Reading reading = files::Reading::kDocumented);
 
   bool IsEmpty() const { return paths_.empty(); }
 
@@ -41,6 +42,7 @@ class FramePlayer {
 
   std::vector<std::filesystem::path> paths_;
   int rate_;
+  files::Reading reading_;
   Turn shown_turn_ = -1;
   std::optional<std::size_t> read_index_;
   std::optional<model::PictureImage> read_;

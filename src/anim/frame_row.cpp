@@ -54,9 +54,9 @@ std::vector<fs::path> FrameRow::ReadablePaths() const {
   return paths;
 }
 
-std::optional<model::PictureImage> ReadFrame(const fs::path& path) {
+std::optional<model::PictureImage> ReadFrame(const fs::path& path, files::Reading reading) {
   try {
-    return files::LoadPicture(path, files::kOwnType, {});
+    return files::LoadPicture(path, files::kOwnType, {}, reading);
   } catch (const std::exception&) {
     return std::nullopt;
   }

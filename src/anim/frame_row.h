@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "anim/frame_names.h"
+#include "files/picture_format.h"
 #include "model/picture_image.h"
 
 namespace kelvo::anim {
@@ -35,6 +36,6 @@ class FrameRow {
 };
 
 // The picture in a frame's file; empty when it cannot be read.
-std::optional<model::PictureImage> ReadFrame(const std::filesystem::path& path);
+std::optional<model::PictureImage> ReadFrame(const std::filesystem::path& path, files::Reading reading);
 
 }  // namespace kelvo::anim

@@ -1,10 +1,23 @@
 #include "editing/undo_step.h"
 
+#include <cctype>
 #include <utility>
 
 namespace kelvo::editing {
+namespace {
+
+// "Draw" for "Undo draw".
+std::string NameOf(std::string_view caption) {
+  constexpr std::string_view kUndo = "Undo ";
+  std::string name(caption.substr(kUndo.size()));
+  name[0] = static_cast<char>(std::toupper(static_cast<unsigned char>(name[0])));
+  return name;
+}
+
+}  // namespace
 
 void UndoStep::SaveUndoData(std::string_view caption) {
+  views_.ActionBegins(NameOf(caption));
   earlier_ = std::move(last_);
   last_ = Step{picture_, std::string(caption)};
 }
@@ -18,8 +31,13 @@ void UndoStep::Forget() {
   earlier_.reset();
 }
 
+std::string UndoStep::ActionName() const {
+  return last_ ? NameOf(last_->caption) : std::string();
+}
+
 void UndoStep::Undo() {
   if (!CanUndo()) return;
+  views_.ActionBegins(last_->caption);
   picture_.Bitmap = last_->before.Bitmap;
   picture_.ColourMemory = last_->before.ColourMemory;
   picture_.ScreenMemory = last_->before.ScreenMemory;

@@ -15,7 +15,7 @@ class UndoStep {
  public:
   UndoStep(model::PictureImage& picture, model::PictureViews& views) : picture_(picture), views_(views) {}
 
-  // Takes the snapshot. `caption` names the action in the menu: "Undo draw".
+  // Takes the snapshot, and tells the views that an action begins. `caption` names it in the menu: "Undo draw".
   void SaveUndoData(std::string_view caption);
 
   // Puts the snapshot back; nothing when there is none.
@@ -29,6 +29,8 @@ class UndoStep {
 
   bool CanUndo() const { return last_.has_value(); }
   std::string Caption() const { return last_ ? last_->caption : "Undo"; }
+  // The last action by itself: "Draw". Empty when there is none.
+  std::string ActionName() const;
 
  private:
   struct Step {

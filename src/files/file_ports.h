@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <optional>
+#include <string_view>
 
 #include "files/current_file.h"
 #include "files/picture_format.h"
@@ -31,6 +32,8 @@ class FileDisplay {
   virtual void ShowFile(const CurrentFile& file) = 0;
   // Another picture took the place of the one in memory: what belonged to that one (its undo step) is void.
   virtual void PictureReplaced() = 0;
+  // The picture was saved: its file holds just what is in memory.
+  virtual void PictureSaved() = 0;
 };
 
 }  // namespace kelvo::files

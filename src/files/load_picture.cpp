@@ -1,16 +1,22 @@
 #include "files/load_picture.h"
 
+#include "files/picture_content.h"
+
 namespace kelvo::files {
 
+Reading ReadingBy(const app::SettingsStore& settings) {
+  return app::ReadNumber(settings, kReadFilesExactly, 0, 1) == 1 ? Reading::kExact : Reading::kDocumented;
+}
+
 app::Bytes ReadPictureFile(const std::filesystem::path& file, FormatType type) {
-  const PictureFormat& format = FormatOf(type);
   const std::uintmax_t size = app::FileSize(file);
-  if (!format.Takes(size)) throw FormatError(format, size);
+  if (size > kMostPictureBytes) throw FormatError(FormatOf(type), size);
   return app::ReadWholeFile(file, size);
 }
 
-model::PictureImage LoadPicture(const std::filesystem::path& file, FormatType type, model::C64Colour background) {
-  return Decode(FormatOf(type), ReadPictureFile(file, type), background);
+model::PictureImage LoadPicture(const std::filesystem::path& file, FormatType type, model::C64Colour background,
+                                Reading reading) {
+  return DecodeAny(type, ReadPictureFile(file, type), background, reading);
 }
 
 }  // namespace kelvo::files

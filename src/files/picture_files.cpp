@@ -7,7 +7,7 @@
 #include "app/whole_file.h"
 #include "files/backups.h"
 #include "files/load_picture.h"
-#include "files/picture_format.h"
+#include "files/picture_content.h"
 #include "files/recovery_copy.h"
 
 namespace kelvo::files {
@@ -67,7 +67,11 @@ bool PictureFiles::OpenAs(const fs::path& path, FormatType type, OnFailure on_fa
   const app::WaitScope wait(with_.pointer);
   auto read = Read(path, type, on_failure);
   if (!read || !MayThrowAwayPicture()) return false;
-  TakeOver(std::move(*read));
+  const bool is_reload = read->file.CurrentFilePath == document_.file.CurrentFilePath;
+  const std::string caption = (is_reload ? "Reload " : "Load ") + read->file.CurrentFileName;
+  const model::C64Colour background_before = document_.picture.BackgroundColour;
+  TakeOver(std::move(*read), caption);
+  TellOtherReading(type, document_.on_disk, background_before);
   with_.prompt.CommandPromptList("LOAD " + document_.file.CurrentFileName);
   app::Guarded(with_.log, "MDIFormMenu_OpenPicture",
                [&] { app::WriteOwnFile(with_.folders.Snapshot(), document_.on_disk); });
@@ -81,7 +85,7 @@ std::optional<Document> PictureFiles::Read(const fs::path& path, FormatType type
       with_.log, "MDIFormMenu_LoadPicture",
       [&] {
         app::Bytes bytes = ReadPictureFile(path, type);
-        const auto picture = Decode(FormatOf(type), bytes, document_.picture.BackgroundColour);
+        const auto picture = DecodeAny(type, bytes, document_.picture.BackgroundColour, ReadingBy(with_.settings));
         read = {.picture = picture, .kept = picture, .file = SetFileParameters(path), .on_disk = std::move(bytes)};
       },
       [&](const std::exception& error) {
@@ -89,9 +93,18 @@ std::optional<Document> PictureFiles::Read(const fs::path& path, FormatType type
         if (wrong_size != nullptr && !FormatOf(type).size_message.empty()) {
           return with_.messages.InformWithMore(error.what(), wrong_size->Sizes());
         }
-        TellFailedLoad(path, error.what(), on_failure);
+        const bool is_unknown = dynamic_cast<const UnknownPicture*>(&error) != nullptr;
+        TellFailedLoad(path, (is_unknown ? NameOfPath(path) + ": " : "") + error.what(), on_failure);
       });
   return read;
+}
+
+void PictureFiles::TellOtherReading(FormatType type, const app::Bytes& bytes, model::C64Colour background_before) {
+  const PictureFormat& format = FormatOf(type);
+  if (!format.Takes(bytes.size()) || !ReadsDifferently(format, bytes, background_before)) return;
+  const bool is_exact = ReadingBy(with_.settings) == Reading::kExact;
+  with_.status.Tell("This file looks otherwise " + std::string(is_exact ? "without" : "with") +
+                    " File > Read files exactly");
 }
 
 void PictureFiles::TellFailedLoad(const fs::path& path, const std::string& why, OnFailure on_failure) {
@@ -99,7 +112,12 @@ void PictureFiles::TellFailedLoad(const fs::path& path, const std::string& why, 
   if (on_failure == OnFailure::kMessageBox) with_.messages.Warn(why);
 }
 
-void PictureFiles::TakeOver(Document document) {
+void PictureFiles::TakeOver(Document document, const std::string& caption) {
+  with_.views.ActionBegins(caption);
+  Replace(std::move(document));
+}
+
+void PictureFiles::Replace(Document document) {
   document_ = std::move(document);
   with_.display.PictureReplaced();
   with_.display.ShowFile(document_.file);
@@ -166,6 +184,7 @@ bool PictureFiles::Write(const fs::path& path) {
         with_.messages.Warn("The picture was not saved.\n" + std::string(error.what()));
       });
   if (!saved) return false;
+  with_.display.PictureSaved();
   with_.display.ShowFile(document_.file);
   with_.status.Tell("Saved " + app::TextFromPath(document_.file.CurrentFilePath) + ", " +
                     std::to_string(document_.on_disk.size()) + " bytes");
@@ -179,7 +198,7 @@ bool PictureFiles::Write(const fs::path& path) {
 void PictureFiles::New() {
   if (!MayThrowAwayPicture()) return;
   const model::PictureImage empty{.BackgroundColour = document_.picture.BackgroundColour};
-  TakeOver({.picture = empty, .kept = empty, .file = {}});
+  TakeOver({.picture = empty, .kept = empty, .file = {}}, "New");
   with_.prompt.CommandPromptList("NEW");
 }
 
@@ -191,7 +210,18 @@ bool PictureFiles::Recover(const Document& rescued) {
       recovered.on_disk = app::ReadWholeFile(recovered.file.CurrentFilePath, app::kMostBytesToCopy);
     });
   }
-  TakeOver(std::move(recovered));
+  const std::string caption = "Recover " + StatusName(recovered.file);
+  TakeOver(std::move(recovered), caption);
+  return true;
+}
+
+bool PictureFiles::Return(const Document& state) {
+  const bool leaves_file = state.file.CurrentFilePath != document_.file.CurrentFilePath;
+  if (leaves_file && document_.HasUnsavedWork() && rescued_ != document_.picture) {
+    if (!MayThrowAwayPicture()) return false;
+    rescued_ = document_.picture;
+  }
+  Replace(state);
   return true;
 }
 

@@ -59,6 +59,10 @@ class PictureFiles {
   // Takes over unsaved work that outlived a crash, as unsaved work again. False when the picture in memory stays.
   bool Recover(const Document& rescued);
 
+  // Puts a state of the history in the picture's place. Unsaved work of another file is kept as a rescue copy first, as
+  // before a load; false when the picture stays.
+  bool Return(const Document& state);
+
   // True when the program may end: nothing is unsaved, or the user saved it or gave it up.
   bool MayClose();
 
@@ -75,9 +79,12 @@ class PictureFiles {
  private:
   bool OpenAs(const std::filesystem::path& path, FormatType type, OnFailure on_failure);
   std::optional<Document> Read(const std::filesystem::path& path, FormatType type, OnFailure on_failure);
+  // Where the other of the two readings would give another picture.
+  void TellOtherReading(FormatType type, const app::Bytes& bytes, model::C64Colour background_before);
   void TellFailedLoad(const std::filesystem::path& path, const std::string& why, OnFailure on_failure);
-  // The picture becomes that of `document`, with nothing left to save.
-  void TakeOver(Document document);
+  // The picture becomes that of `document`, by an action of that caption.
+  void TakeOver(Document document, const std::string& caption);
+  void Replace(Document document);
   bool MayThrowAwayPicture();
   bool MayReplace(const std::filesystem::path& path, const std::filesystem::path& chosen);
   bool Write(const std::filesystem::path& path);
@@ -85,6 +92,7 @@ class PictureFiles {
   Document& document_;
   FileSurroundings with_;
   RecentFiles recent_;
+  std::optional<model::PictureImage> rescued_;  // what was kept when a step was left last
 };
 
 // What works with the picture and its files; all of it outlives whoever holds this.

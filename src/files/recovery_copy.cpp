@@ -21,12 +21,13 @@ constexpr app::Flush kFlush = app::Flush::kLater;
 
 RecoveryFiles::RecoveryFiles(const std::filesystem::path& folder, int slot)
     : picture(folder / ("recovery_" + std::to_string(slot) + ".kvp")),
-      name(folder / ("recovery_" + std::to_string(slot) + ".txt")) {}
+      name(folder / ("recovery_" + std::to_string(slot) + ".txt")),
+      steps(folder / ("recovery_" + std::to_string(slot) + ".steps")) {}
 
 std::optional<Document> RecoveryFiles::Read() const {
   try {
     Document document;
-    document.picture = LoadPicture(picture, kOwnType, {});
+    document.picture = LoadPicture(picture, kOwnType, {}, Reading::kExact);
     const app::Bytes path = app::ReadWholeFile(name, kLongestPath);
     if (!path.empty()) document.file = SetFileParameters(app::PathFromText(std::string(path.begin(), path.end())));
     return document;
@@ -40,6 +41,11 @@ bool RecoveryFiles::Remove() const {
   std::filesystem::remove(picture, ignored);
   std::filesystem::remove(name, ignored);
   return !std::filesystem::exists(picture, ignored);
+}
+
+void RecoveryFiles::RemoveSteps() const {
+  std::error_code ignored;
+  std::filesystem::remove(steps, ignored);
 }
 
 void RecoveryCopy::Keep(Time now) {

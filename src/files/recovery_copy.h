@@ -14,16 +14,18 @@
 
 namespace kelvo::files {
 
-// Two files in a folder: the picture in the own format, and the path of the file it belongs to.
+// Files in a folder: the picture in the own format, the path of the file it belongs to, and the session's steps, which
+// whoever keeps a history writes.
 struct RecoveryFiles {
   // `slot` tells apart the programs that share the folder, from 1.
   RecoveryFiles(const std::filesystem::path& folder, int slot);
 
   // What is kept there; empty when there is nothing that can be read.
   std::optional<Document> Read() const;
-  bool Remove() const;  // true when the copy is gone
+  bool Remove() const;  // true when the copy is gone; the steps stay
+  void RemoveSteps() const;
 
-  std::filesystem::path picture, name;
+  std::filesystem::path picture, name, steps;
 };
 
 class RecoveryCopy {

@@ -37,8 +37,11 @@ inline constexpr std::array<PaletteEntry, C64Colour::kCount> kPalette{{
 // The display colour of colour `number`, packed as red + green * 256 + blue * 65536. Numbers outside 0..15 are black.
 std::uint32_t C64ColourToRgb(int number);
 
-constexpr std::array<std::uint32_t, C64Colour::kCount> MakeSurfaceColours() {
-  std::array<std::uint32_t, C64Colour::kCount> colours{};
+// Colours as pixels of a Surface, 0xFFRRGGBB, by colour number.
+using SurfaceColours = std::array<std::uint32_t, C64Colour::kCount>;
+
+constexpr SurfaceColours MakeSurfaceColours() {
+  SurfaceColours colours{};
   for (std::size_t number = 0; number < colours.size(); ++number) {
     const PaletteEntry& entry = kPalette[number];
     colours[number] = 0xFF000000U | std::uint32_t{entry.red} << 16 | std::uint32_t{entry.green} << 8 | entry.blue;
@@ -46,11 +49,20 @@ constexpr std::array<std::uint32_t, C64Colour::kCount> MakeSurfaceColours() {
   return colours;
 }
 
-// The same colours as pixels of a Surface, 0xFFRRGGBB, by colour number.
-inline constexpr std::array<std::uint32_t, C64Colour::kCount> kSurfaceColours = MakeSurfaceColours();
+inline constexpr SurfaceColours kSurfaceColours = MakeSurfaceColours();
 
-constexpr std::uint32_t SurfaceColour(C64Colour colour) {
-  return kSurfaceColours[static_cast<std::size_t>(colour.Number())];
+// The colours that everything is shown in: one palette for all windows, as a desktop has one. At first kSurfaceColours.
+class ShownPalette {
+ public:
+  static const SurfaceColours& Colours() { return colours_; }
+  static void Show(const SurfaceColours& colours) { colours_ = colours; }
+
+ private:
+  static inline SurfaceColours colours_ = kSurfaceColours;
+};
+
+inline std::uint32_t SurfaceColour(C64Colour colour) {
+  return ShownPalette::Colours()[static_cast<std::size_t>(colour.Number())];
 }
 
 // The name as menus show it, number first in hexadecimal: "00 Black" .. "0F Light gray".

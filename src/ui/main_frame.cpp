@@ -16,11 +16,15 @@
 #include "command/process_command.h"
 #include "editing/preferences.h"
 #include "files/backups.h"
+#include "files/recovery_copy.h"
 #include "model/palette.h"
 #include "ui/desks/animation_desk.h"
 #include "ui/desks/build_desk.h"
 #include "ui/desks/cell_use_desk.h"
+#include "ui/desks/export_desk.h"
+#include "ui/desks/history_desk.h"
 #include "ui/desks/painting_desk.h"
+#include "ui/desks/palette_desk.h"
 #include "ui/desks/picture_windows.h"
 #include "ui/desks/recovery_desk.h"
 #include "ui/desks/window_desk.h"
@@ -28,12 +32,14 @@
 #include "ui/ports/frame_ports.h"
 #include "ui/ports/qt_text.h"
 #include "ui/widgets/choice_menu.h"
+#include "ui/widgets/image_drag.h"
 #include "ui/widgets/settings_dialog.h"
 #include "ui/windows/frm_about.h"
 #include "ui/windows/frm_bmp2sprite_main.h"
 #include "ui/windows/frm_codenet_gui.h"
 #include "ui/windows/frm_command.h"
 #include "ui/windows/frm_fullscreen.h"
+#include "ui/windows/frm_history.h"
 #include "ui/windows/frm_what_if.h"
 #include "ui/windows/screenshot.h"
 
@@ -41,6 +47,8 @@ namespace kelvo::ui {
 namespace {
 
 constexpr int kTimerMilliseconds = 100;
+constexpr app::Setting kCtrlZStepsBack{"Preferences", "CtrlZStepsBack", "0"};
+
 model::C64Colour ColourNumber(int number) {
   return model::C64Colour::FromNumber(number).value_or(model::C64Colour());
 }
@@ -51,6 +59,11 @@ QStringList ColourCaptions() {
     captions << ToQt(model::ColourName(ColourNumber(number)));
   }
   return captions;
+}
+
+std::filesystem::path StepsFile(const app::ProgramFolders& folders, const ProgramSlot& slot) {
+  const auto number = slot.Number();
+  return number ? files::RecoveryFiles(folders.Backup(), *number).steps : std::filesystem::path();
 }
 
 // The folders as they are when the program first locks something there.
@@ -88,7 +101,10 @@ MainFrame::MainFrame(const app::ProgramFolders& folders, app::SettingsStore& set
       cell_use_(std::make_unique<CellUseDesk>(document_, *full_view_, *zoom_, *colors_)),
       animation_(std::make_unique<AnimationDesk>(PictureSurroundings(), *this, *windows_, *full_view_, *zoom_)),
       builds_(std::make_unique<BuildDesk>(PictureSurroundings(), *panels_, ports_->tools, this)),
-      recovery_(std::make_unique<RecoveryDesk>(PictureSurroundings(), slot_)) {
+      recovery_(std::make_unique<RecoveryDesk>(PictureSurroundings(), slot_)),
+      history_(std::make_unique<HistoryDesk>(PictureSurroundings(), *desk_, StepsFile(folders_, slot_))),
+      palette_(std::make_unique<PaletteDesk>(Surroundings(), menu_.Menu(kPaletteMenu), this)),
+      exports_(std::make_unique<ExportDesk>(PictureSurroundings(), *palette_, this)) {
   setObjectName("MDIFormMenu");
   setAcceptDrops(true);
   addToolBar(Toolbar1_);
@@ -99,6 +115,8 @@ MainFrame::MainFrame(const app::ProgramFolders& folders, app::SettingsStore& set
   ConnectDesk();
   ConnectAnimation();
   ConnectBuilds();
+  ConnectHistory();
+  ConnectPalette();
   Timer1_->setObjectName("Timer1");
   connect(Timer1_, &QTimer::timeout, this, &MainFrame::Timer1_Timer);
   connect(recovery_.get(), &RecoveryDesk::Word, this, [this](const QString& word) { panels_->Warn(FromQt(word)); });
@@ -122,16 +140,23 @@ bool MainFrame::OfferRecovery() {
 }
 
 void MainFrame::PictureReplaced() {
+  history_->PictureReplaced();
   desk_->PictureReplaced();
 }
 
+void MainFrame::PictureSaved() {
+  history_->PictureSaved();
+}
+
 void MainFrame::MakeChildren() {
+  steps_ = new frmHistory(history_->Steps(), this);
   windows_->Add(ChildWindowId::kFullView, full_view_);
   windows_->Add(ChildWindowId::kColors, colors_);
   windows_->Add(ChildWindowId::kPens, pens_);
   windows_->Add(ChildWindowId::kCharData, char_data_);
   windows_->Add(ChildWindowId::kPrompt, command_);
   windows_->Add(ChildWindowId::kZoom, zoom_);
+  windows_->Add(ChildWindowId::kHistory, steps_);
   connect(windows_.get(), &WindowDesk::Changed, this, &MainFrame::RefreshMenus);
   connect(full_view_, &frmBMPView::ZoomAreaChosen, zoom_, &frmZoom::CentreOn);
   connect(zoom_, &frmZoom::AreaChanged, this, [this] { full_view_->ShowZoomArea(zoom_->Area()); });
@@ -200,6 +225,27 @@ void MainFrame::ConnectBuilds() {
   connect(builds_.get(), &BuildDesk::Failed, this, [this] { windows_->ShowBehind(ChildWindowId::kPrompt); });
 }
 
+void MainFrame::ConnectHistory() {
+  views_->TellToo(*history_);
+  connect(desk_.get(), &PaintingDesk::StateChanged, history_.get(), &HistoryDesk::Settle);
+  connect(history_.get(), &HistoryDesk::StepsChanged, this, [this] {
+    steps_->Refresh();
+    menu_.Refresh();
+  });
+  connect(steps_, &frmHistory::StepChosen, history_.get(), &HistoryDesk::GoTo);
+  connect(recovery_.get(), &RecoveryDesk::StepsFound, history_.get(), &HistoryDesk::TakeUp);
+}
+
+void MainFrame::ConnectPalette() {
+  new ImageDrag(full_view_->findChild<QWidget*>("picStd"), [this] { return exports_->Image(); });
+  connect(palette_.get(), &PaletteDesk::Changed, this, [this] {
+    views_->PictureChanged();
+    desk_->ShowColours();
+    steps_->StartAfresh();
+    for (QWidget* widget : findChildren<QWidget*>()) widget->update();
+  });
+}
+
 void MainFrame::ShowBuilding() {
   panels_->SetBuilding(builds_->IsBuilding());
   RefreshMenus();
@@ -229,6 +275,8 @@ void MainFrame::StartUp() {
   SetGridColor(app::ReadNumber(settings_, kGridColor, 0, model::C64Colour::kCount - 1));
   Timer1_->start(kTimerMilliseconds);
   ShowFile(document_.file);
+  ShowStepKeys();
+  palette_->Restore();
   builds_->LookForVice();
   std::error_code ignored;
   std::filesystem::remove(folders_.Snapshot(), ignored);  // so that the first save makes no backup
@@ -250,6 +298,7 @@ void MainFrame::SetMagnification(int magnification) {
 }
 
 void MainFrame::SetBackgroundColour(int number) {
+  views_->ActionBegins("Background color");
   document_.picture.BackgroundColour = ColourNumber(number);
   background_menu_->Check(number);
   desk_->ShowColours();
@@ -314,7 +363,25 @@ void MainFrame::ShowPreferences() {
   dialog.AddCheckBox(editing::kTellRefusalsInStatusBar, "&Tell refusals of full cells in the status bar");
   dialog.AddNumber(files::kKeepBackupsDays, files::kMostBackupDays, "Days that every &backup is kept:", "for ever",
                    "Of the days before those the last backup of each picture stays");
+  dialog.AddCheckBox(kCtrlZStepsBack, "Ctrl+&Z steps back and Ctrl+Y forward");
   dialog.exec();
+  ShowStepKeys();
+}
+
+// Who expects it walks through the steps by Ctrl+Z and Ctrl+Y; Undo has no key then.
+void MainFrame::ShowStepKeys() {
+  const bool by_ctrl_z = IsOn(kCtrlZStepsBack);
+  menu_.SetKeys("mnuUndo", by_ctrl_z ? "" : "Ctrl+Z");
+  menu_.SetKeys("mnuStepBack", by_ctrl_z ? "Ctrl+Z; Ctrl+Alt+Z" : "Ctrl+Alt+Z");
+  menu_.SetKeys("mnuStepForward", by_ctrl_z ? "Ctrl+Y; Ctrl+Alt+Y" : "Ctrl+Alt+Y");
+}
+
+void MainFrame::ToggleSetting(const app::Setting& setting) {
+  settings_.Write(setting, IsOn(setting) ? "0" : "1");
+}
+
+bool MainFrame::IsOn(const app::Setting& setting) const {
+  return app::ReadNumber(settings_, setting, 0, 1) == 1;
 }
 
 void MainFrame::ShowWhatIf() {
@@ -337,6 +404,7 @@ void MainFrame::ShowZoom() {
 void MainFrame::Timer1_Timer() {
   panels_->ShowUnsaved(document_.HasUnsavedWork());
   desk_->Tick();
+  history_->Settle();
   zoom_->TickBorder();
   recovery_->Tick();
 }
@@ -378,6 +446,7 @@ void MainFrame::closeEvent(QCloseEvent* event) {
   StopTools();
   Timer1_->stop();  // a tick would keep the work that was given up
   recovery_->Remove();
+  history_->RemoveFile();
   event->accept();
 }
 

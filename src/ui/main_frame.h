@@ -18,6 +18,9 @@ class AnimationDesk;
 class BuildDesk;
 class CellUseDesk;
 class ChoiceMenu;
+class ExportDesk;
+class HistoryDesk;
+class PaletteDesk;
 class PaintingDesk;
 class PaintToolBar;
 class PictureWindows;
@@ -28,6 +31,7 @@ class frmCharData;
 class frmCodenetGUI;
 class frmColors;
 class frmCommand;
+class frmHistory;
 class frmPens;
 class frmZoom;
 class WindowDesk;
@@ -61,6 +65,12 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   void SetMagnification(int magnification);
   void SetBackgroundColour(int number);  // 0..15
   void SetGridColor(int number);         // 0..15
+
+  HistoryDesk& History() { return *history_; }
+  const HistoryDesk& History() const { return *history_; }
+  ExportDesk& Exports() { return *exports_; }
+  void ToggleSetting(const app::Setting& setting);
+  bool IsOn(const app::Setting& setting) const;
 
   void ShowPreferences();
   void ShowWhatIf();
@@ -99,9 +109,13 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   files::PictureSurroundings PictureSurroundings();
   void ShowFile(const files::CurrentFile& file) override;
   void PictureReplaced() override;
+  void PictureSaved() override;
   void MakeChildren();
   void ConnectAnimation();
   void ConnectBuilds();
+  void ConnectHistory();
+  void ConnectPalette();
+  void ShowStepKeys();
   void ShowBuilding();
   void StopTools();
   void MakeChoiceMenus();
@@ -128,6 +142,7 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   frmZoom* zoom_;
   frmCommand* command_;
   frmPens* pens_;
+  frmHistory* steps_ = nullptr;
   PaintToolBar* Toolbar1_;
   MainMenu menu_;
   ChoiceMenu* background_menu_ = nullptr;
@@ -146,6 +161,9 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   std::unique_ptr<AnimationDesk> animation_;
   std::unique_ptr<BuildDesk> builds_;
   std::unique_ptr<RecoveryDesk> recovery_;
+  std::unique_ptr<HistoryDesk> history_;
+  std::unique_ptr<PaletteDesk> palette_;
+  std::unique_ptr<ExportDesk> exports_;
   frmBMP2SpriteMain* sprite_converter_ = nullptr;  // made when it is first asked for
   frmCodenetGUI* codenet_gui_ = nullptr;           // likewise
 };

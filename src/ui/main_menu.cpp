@@ -53,6 +53,10 @@ MainMenu::MainMenu(MainFrame& frame) : frame_(frame) {
   }
 }
 
+void MainMenu::SetKeys(const QString& name, const QString& keys) {
+  actions_.value(name)->setShortcuts(QKeySequence::listFromString(keys));
+}
+
 bool MainMenu::HandleKeyUp(int key, Qt::KeyboardModifiers modifiers) const {
   if (modifiers & ~(Qt::ShiftModifier | Qt::KeypadModifier)) return false;
   const auto entries = MenuEntries();

@@ -17,6 +17,9 @@ class MainMenu {
   // Asks every row whether it can, whether it is checked, and what it says.
   void Refresh() const;
 
+  // The keys of an entry, with "; " between them; none for an empty text.
+  void SetKeys(const QString& name, const QString& keys);
+
   // A letter was let go in the main window. True when it is an entry's key.
   bool HandleKeyUp(int key, Qt::KeyboardModifiers modifiers) const;
 

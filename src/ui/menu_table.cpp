@@ -3,9 +3,12 @@
 #include <iterator>
 
 #include "c64out/compo_pic_choice.h"
+#include "files/load_picture.h"
 #include "ui/desks/animation_desk.h"
 #include "ui/desks/build_desk.h"
 #include "ui/desks/cell_use_desk.h"
+#include "ui/desks/export_desk.h"
+#include "ui/desks/history_desk.h"
 #include "ui/desks/painting_desk.h"
 #include "ui/desks/window_desk.h"
 #include "ui/help_pages.h"
@@ -24,6 +27,7 @@ constexpr MenuRow kMenus[] = {
     {kFullViewMenu, "mnuViewMenu", "Full &view scale", "How large the full view shows the picture"},
     {kGridMenu, "mnuViewMenu", "Zoom &grid", "Draw the grid of the zoom window in this color"},
     {kBorderMenu, "mnuViewMenu", "Zoom &border", "How the border of the zoom window looks"},
+    {kPaletteMenu, "mnuViewMenu", "Pale&tte", "Show everything in these colors"},
     {"mnuFunctions", nullptr, "F&unctions", ""},
     {"mnuAnim", nullptr, "&Animation", ""},
     {"mnuVICE", nullptr, "&VICE", ""},
@@ -37,6 +41,14 @@ constexpr MenuEntry ShowEntry(const char* name, const char* text, const char* ti
           text,    "",
           tip,     [](MainFrame& f) { f.Windows().Toggle(id); },
           nullptr, [](const MainFrame& f) { return f.Windows().IsShown(id); }};
+}
+
+template <const app::Setting& setting>
+constexpr MenuEntry SettingEntry(const char* name, const char* menu, const char* text, const char* tip) {
+  return {name,    menu,
+          text,    "",
+          tip,     [](MainFrame& f) { f.ToggleSetting(setting); },
+          nullptr, [](const MainFrame& f) { return f.IsOn(setting); }};
 }
 
 template <int magnification>
@@ -88,12 +100,22 @@ constexpr MenuEntry kEntries[] = {
      [](MainFrame& f) { f.Files().SaveAs(); }},
     {"mnuSaveJPG", "mnuFile", "Save picture as screens&hot...", "", "Save the full view as an image",
      [](MainFrame& f) { f.SaveScreenshot(); }},
+    {"mnuExport", "mnuFile", "Ex&port...", "", "Write the picture in another format, or as a PNG image",
+     [](MainFrame& f) { f.Exports().Export(); }},
+    SettingEntry<files::kReadFilesExactly>("mnuReadExactly", "mnuFile", "Read &files exactly",
+                                           "Read the last byte and each format's own background too"),
     Separator("mnuFile"),
     {"mnuExit", "mnuFile", "E&xit", "Ctrl+Q", "End the program", [](MainFrame& f) { f.close(); }},
 
     {"mnuUndo", "mnuLimPaint", "&Undo", "Ctrl+Z", "Take back the last action", [](MainFrame& f) { f.Desk().Undo(); },
      [](const MainFrame& f) { return f.Desk().Painting().UndoData().CanUndo(); }, nullptr, "undo", nullptr,
      [](const MainFrame& f) { return "&" + f.Desk().Painting().UndoData().Caption(); }},
+    {"mnuStepBack", "mnuLimPaint", "Step bac&k", "Ctrl+Alt+Z", "Back to the step before this one",
+     [](MainFrame& f) { f.History().StepBack(); }, [](const MainFrame& f) { return f.History().CanStepBack(); }},
+    {"mnuStepForward", "mnuLimPaint", "Step &forward", "Ctrl+Alt+Y", "On to the step that followed this one",
+     [](MainFrame& f) { f.History().StepForward(); }, [](const MainFrame& f) { return f.History().CanStepForward(); }},
+    {"mnuCopyImage", "mnuLimPaint", "&Copy as image", "Ctrl+C", "Put the picture on the clipboard as an image",
+     [](MainFrame& f) { f.Exports().CopyImage(); }},
     {"mnuSwapPens", "mnuLimPaint", "&Swap pens", "X", "Each button takes the other's color",
      [](MainFrame& f) { f.Desk().SwapPens(); }},
     Separator("mnuLimPaint"),
@@ -111,6 +133,7 @@ constexpr MenuEntry kEntries[] = {
     ShowEntry<ChildWindowId::kPrompt>("mnuView_3", "Command pro&mpt", "Show or hide the command prompt"),
     ShowEntry<ChildWindowId::kZoom>("mnuView_4", "&Zoom window", "Show or hide the zoom window"),
     ShowEntry<ChildWindowId::kPens>("mnuPens", "&Pens", "Show or hide the two pens"),
+    ShowEntry<ChildWindowId::kHistory>("mnuHistory", "&History", "Show or hide the steps of this session"),
     Separator("mnuViewMenu"),
     ZoomEntry<4>("mnuZoom_4X", "Zoom &4:1", "Ctrl+4", "Show pixels four times as large"),
     ZoomEntry<8>("mnuZoom_8X", "Zoom &8:1", "Ctrl+8", "Show pixels eight times as large"),
@@ -121,6 +144,7 @@ constexpr MenuEntry kEntries[] = {
      [](MainFrame& f) { f.CellUse().Toggle(); }, nullptr, [](const MainFrame& f) { return f.CellUse().IsShown(); }},
     Submenu(kGridMenu, "mnuViewMenu"),
     Submenu(kBorderMenu, "mnuViewMenu"),
+    Submenu(kPaletteMenu, "mnuViewMenu"),
     Separator("mnuViewMenu"),
     Submenu(kFullViewMenu, "mnuViewMenu"),
     {"mnuFullViewPal", "mnuViewMenu", "Pixels as on a PAL &screen", "",

@@ -14,6 +14,7 @@ inline constexpr const char* kToolsMenu = "mnuTools";
 inline constexpr const char* kBackgroundMenu = "mnuBG";
 inline constexpr const char* kGridMenu = "mnuGrid";
 inline constexpr const char* kBorderMenu = "mnuZB";
+inline constexpr const char* kPaletteMenu = "mnuPalette";
 inline constexpr const char* kFullViewMenu = "mnuFullViewScale";
 
 struct MenuRow {

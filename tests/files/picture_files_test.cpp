@@ -8,6 +8,7 @@
 #include "app/whole_file.h"
 #include "files/backup_index.h"
 #include "files/backups.h"
+#include "files/load_picture.h"
 #include "files/recovery_copy.h"
 #include "support/platform.h"
 #include "support/program.h"
@@ -92,6 +93,41 @@ TEST_F(PictureFilesTest, AFailedLoadChangesNothing) {
   EXPECT_TRUE(messages.shown.empty());
   EXPECT_EQ(files.RecentPaths().size(), 1U);
   EXPECT_TRUE(support::ReadText(folders.ErrorLogFile()).starts_with("260203 09:07:05 MDIFormMenu_LoadPicture: "));
+}
+
+TEST_F(PictureFilesTest, ReadsExactlyOnRequestAndSaysWhereThatMatters) {
+  const std::string koala = WriteKoala("pic.koa");
+  const app::Bytes bytes = support::CountingBytes(10003);
+  for (const auto& [exactly, last, background, word] :
+       {std::tuple{"0", 255, 0, "with File > Read files exactly"},
+        {"1", int{bytes[8001]}, bytes[10002] & 15, "without File > Read files exactly"}}) {
+    SCOPED_TRACE(exactly);
+    settings.Write(kReadFilesExactly, exactly);
+    ASSERT_TRUE(files.OpenPicture(koala));
+    EXPECT_EQ(document.picture.Bitmap[8000], last);
+    EXPECT_EQ(document.picture.BackgroundColour.Number(), background);
+    ASSERT_EQ(status.words.size(), 1U);
+    EXPECT_TRUE(status.words.back().ends_with(word)) << status.words.back();
+    status.words.clear();
+  }
+  document.picture.Bitmap[5] ^= 1;
+  ASSERT_TRUE(files.Save());
+  const app::Bytes saved = support::ReadFile(folder / "pic.kvp");
+  ASSERT_TRUE(files.Reload());
+  EXPECT_EQ(Encode(document.picture), saved);
+  EXPECT_TRUE(status.words.back().ends_with("exactly")) << status.words.back();
+
+  support::WriteText(folder / "pic.gg", "no picture");
+  EXPECT_FALSE(files.OpenPicture(folder / "pic.gg"));
+  EXPECT_TRUE(messages.shown.back().ends_with("it unpacks to less than a picture."));
+  support::WriteFile(folder / "pic.gg", EncodeAs(FormatOf(kArtStudioType), document.picture));
+  settings.Write(kReadFilesExactly, "0");
+  for (const auto& [name, filter] : {std::pair{"pic.gg", kOwnType}, {"pic.koa", kByContentType}}) {
+    files.New();
+    dialogs.open = ChosenFile{folder / name, filter};
+    EXPECT_TRUE(files.Open());
+    EXPECT_EQ(document.picture.Bitmap[8000], bytes[8001]) << name;
+  }
 }
 
 TEST_F(PictureFilesTest, SavingKeepsTheStateBeforeAsBackup) {

@@ -93,12 +93,14 @@ TEST(PictureFormat, TypeFollowsExtensionThenSize) {
                                          {"b.kla", 10003U, kKlaType},
                                          {"PIC.PRG", 10003U, kKoaType},
                                          {"PIC.PRG", 10050U, kGeneralType},
+                                         {"b.gg", 10003U, kByContentType},
                                          {"kla", 5U, kGeneralType}}) {
     EXPECT_EQ(TypeOfFile(path, size), type) << path;
   }
   std::vector<std::string_view> patterns;
   for (const PictureFormat& format : OfferedFormats()) patterns.push_back(format.patterns);
-  EXPECT_EQ(patterns, (std::vector<std::string_view>{"*.kvp *.lmp", "*.vid", "*.koa", "*.kla"}));
+  EXPECT_EQ(patterns, (std::vector<std::string_view>{"*.kvp *.lmp", "*.vid", "*.koa", "*.kla",
+                                                     "*.ocp *.art *.p64 *.drz *.gg *.prg"}));
 }
 
 }  // namespace

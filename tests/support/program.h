@@ -130,8 +130,9 @@ class RecordingDisplay final : public files::FileDisplay {
  public:
   void ShowFile(const files::CurrentFile& file) override { title = files::WindowTitle(file); }
   void PictureReplaced() override { ++replaced; }
+  void PictureSaved() override { ++saved; }
   std::string title;
-  int replaced = 0;
+  int replaced = 0, saved = 0;
 };
 
 struct Program {

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "anim/anim_settings.h"
+#include "files/load_picture.h"
 #include "ui/ports/qt_text.h"
 #include "ui/windows/frm_anim_properties.h"
 #include "ui/windows/window_places.h"
@@ -122,7 +123,7 @@ void AnimationDesk::TogglePlay() {
 // From the first frame on, also while frames are playing already.
 void AnimationDesk::StartPlay() {
   navigation_.Refresh();
-  player_.emplace(navigation_.Row().ReadablePaths(), frame_window_->PlayRate());
+  player_.emplace(navigation_.Row().ReadablePaths(), frame_window_->PlayRate(), files::ReadingBy(with_.settings));
   if (player_->IsEmpty()) {
     StopPlay();
     emit Word(anim::kNoFrames);

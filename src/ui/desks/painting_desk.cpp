@@ -228,6 +228,7 @@ void PaintingDesk::ShowCellOfPass(int cell) {
 }
 
 void PaintingDesk::OptimizeBackgroundColor() {
+  views_.ActionBegins("Optimize background color");
   const optimise::Optimized done = optimise::OptimizeBackgroundColor(document_.picture, windows_.full_view.Progress(),
                                                                      [this](int cell) { ShowCellOfPass(cell); });
   windows_.char_data.Show(model::LookUpPixel(pointer_.x, pointer_.y));

@@ -85,14 +85,18 @@ void RecoveryDesk::OfferCopy(const files::RecoveryFiles& left, bool& is_taken_up
   const bool is_wanted =
       with_.messages.Ask("Kelvo ended without saving the picture " + name +
                          " the last time.\nOpen it as it was? Otherwise it is kept in the BACKUP folder.");
-  if (is_ending_ || (is_wanted && !with_.files.Recover(*document))) return;
+  if (is_ending_) return;
+  if (is_wanted) emit StepsFound(left.steps);
+  if (is_wanted && !with_.files.Recover(*document)) return;
   if (is_wanted) {
     is_taken_up = true;
     if (!Keep([this] { copy_.KeepNow(); })) return;
   } else {
     files::KeepRescueCopy(*document, with_.folders, with_.clock);
   }
-  if (!is_wanted || !copy_.IsIn(left)) left.Remove();
+  if (is_wanted && copy_.IsIn(left)) return;
+  left.Remove();
+  left.RemoveSteps();
 }
 
 }  // namespace kelvo::ui

@@ -30,6 +30,8 @@ class RecoveryDesk : public QObject {
   bool Offer();
 
  signals:
+  // The work of a session is about to be taken up, of which these may be the steps.
+  void StepsFound(const std::filesystem::path& steps);
   // Said once each: that the copy goes to the second place, that there is none.
   void Word(const QString& word);
 

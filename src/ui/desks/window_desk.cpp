@@ -18,11 +18,11 @@ constexpr QSize kFirstCells(20, 18);  // that the zoom window shows then, at 4:1
 constexpr std::array kColumn{ChildWindowId::kFullView, ChildWindowId::kColors, ChildWindowId::kPens,
                              ChildWindowId::kCharData, ChildWindowId::kPrompt};
 constexpr std::array kSideWindows{ChildWindowId::kColors, ChildWindowId::kPens, ChildWindowId::kCharData,
-                                  ChildWindowId::kPrompt};
+                                  ChildWindowId::kPrompt, ChildWindowId::kHistory};
 
 WindowSize SizeOf(ChildWindowId id) {
   if (id == ChildWindowId::kZoom) return WindowSize::kFills;
-  return id == ChildWindowId::kPrompt ? WindowSize::kFree : WindowSize::kFixed;
+  return id == ChildWindowId::kPrompt || id == ChildWindowId::kHistory ? WindowSize::kFree : WindowSize::kFixed;
 }
 
 }  // namespace
@@ -167,6 +167,15 @@ void WindowDesk::ArrangeIn(QSize room, int below) {
     child.setGeometry(places.column[i]);
     child.setVisible(kColumn[i] != ChildWindowId::kPrompt);
   }
+  HideHistoryAt(places.column.back());
+}
+
+// It shares the prompt's place, and reaches higher where that is low.
+void WindowDesk::HideHistoryAt(QRect place) {
+  ChildWindow& history = Child(ChildWindowId::kHistory);
+  place.setTop(std::min(place.top(), place.bottom() + 1 - history.sizeHint().height()));
+  history.setGeometry(place);
+  history.hide();
 }
 
 void WindowDesk::Arrange(QWidget* floating) {

@@ -16,8 +16,8 @@
 
 namespace kelvo::ui {
 
-enum class ChildWindowId { kFullView, kColors, kPens, kCharData, kPrompt, kZoom };
-inline constexpr std::size_t kChildWindows = 6;
+enum class ChildWindowId { kFullView, kColors, kPens, kCharData, kPrompt, kZoom, kHistory };
+inline constexpr std::size_t kChildWindows = 7;
 
 class WindowDesk : public QObject {
   Q_OBJECT
@@ -65,6 +65,7 @@ class WindowDesk : public QObject {
   int ScrollBarWidth() const;
   QSize FirstSize() const;
   void ArrangeIn(QSize room, int below);
+  void HideHistoryAt(QRect place);
   void RestoreChildren(QSize room);
   void ShowFullView(int scale, bool is_pal);
   void BringAllIntoReach();
