@@ -7,6 +7,7 @@
 #include "model/pixel_place.h"
 #include "optimise/background_colour.h"
 #include "optimise/eor_vectors.h"
+#include "optimise/packing.h"
 #include "ui/desks/zoom_keys.h"
 #include "ui/ports/qt_text.h"
 
@@ -238,6 +239,16 @@ void PaintingDesk::OptimizeBackgroundColor() {
 
 void PaintingDesk::OptimizeForEORVector() {
   optimise::OptimizeForEORVector(messages_, windows_.full_view.Progress(), [this](int cell) { ShowCellOfPass(cell); });
+}
+
+void PaintingDesk::OptimizeForPacking() {
+  views_.ActionBegins("Optimize for packing");
+  const model::PictureImage before = document_.picture;
+  optimise::OptimizeForPacking(document_.picture, windows_.full_view.Progress());
+  windows_.char_data.Show(model::LookUpPixel(pointer_.x, pointer_.y));
+  views_.PictureChanged();
+  status_.Tell(document_.picture == before ? "It packs best as it is"
+                                           : "The colors stand where the picture packs best");
 }
 
 void PaintingDesk::PictureReplaced() {

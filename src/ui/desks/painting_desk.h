@@ -51,6 +51,7 @@ class PaintingDesk : public QObject {
   // The whole-picture passes, with the progress bar of the full view.
   void OptimizeBackgroundColor();
   void OptimizeForEORVector();
+  void OptimizeForPacking();
 
   // Another picture is in memory.
   void PictureReplaced();
