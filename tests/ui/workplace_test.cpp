@@ -233,9 +233,12 @@ TEST_F(WorkplaceTest, PlacesAreRememberedAndNonsenseIsNot) {
   EXPECT_LT(Child("frmPens")->x(), 2000);
   EXPECT_EQ(Child("frmZoom")->pos(), QPoint(kWindowGap, kWindowGap));
   EXPECT_GE(frame->x(), -100);
+  Action("mnuHistory")->trigger();
   Action("mnuArrange")->trigger();
   EXPECT_NE(Child("frmColors")->pos(), QPoint(120, 90));
   EXPECT_TRUE(Action("mnuView_2")->isChecked());
+  EXPECT_FALSE(Action("mnuHistory")->isChecked());
+  EXPECT_EQ(Child("frmHistory")->geometry(), Child("frmCharData")->geometry() | Child("frmCommand")->geometry());
 }
 
 TEST_F(WorkplaceTest, ScreenshotsAreSmallAndHaveTheFormatAndSizeChosen) {

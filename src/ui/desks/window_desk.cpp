@@ -167,13 +167,13 @@ void WindowDesk::ArrangeIn(QSize room, int below) {
     child.setGeometry(places.column[i]);
     child.setVisible(kColumn[i] != ChildWindowId::kPrompt);
   }
-  HideHistoryAt(places.column.back());
+  HideHistoryAt(places.column.back(), places.column[places.column.size() - 2].top());
 }
 
-// It shares the prompt's place, and reaches higher where that is low.
-void WindowDesk::HideHistoryAt(QRect place) {
+// It shares the prompt's place, and takes that of Char data too where the prompt's is low.
+void WindowDesk::HideHistoryAt(QRect place, int top_of_char_data) {
   ChildWindow& history = Child(ChildWindowId::kHistory);
-  place.setTop(std::min(place.top(), place.bottom() + 1 - history.sizeHint().height()));
+  if (place.height() < history.sizeHint().height()) place.setTop(top_of_char_data);
   history.setGeometry(place);
   history.hide();
 }

@@ -65,7 +65,7 @@ class WindowDesk : public QObject {
   int ScrollBarWidth() const;
   QSize FirstSize() const;
   void ArrangeIn(QSize room, int below);
-  void HideHistoryAt(QRect place);
+  void HideHistoryAt(QRect place, int top_of_char_data);
   void RestoreChildren(QSize room);
   void ShowFullView(int scale, bool is_pal);
   void BringAllIntoReach();
