@@ -78,8 +78,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   app::Bytes bytes = input.Rest();
   fuzz::CheckTypes(bytes, std::string(bytes.begin(), bytes.end()));
   fuzz::CheckContent(bytes);
-  if (length > 0 && format.file_size <= files::kMostPictureBytes)
+  if (length > 0 && format.file_size <= files::kMostPictureBytes) {
     bytes = fuzz::Stretched(bytes, length == 1 ? format.other_size : format.file_size);
+  }
   try {
     const model::PictureImage picture = files::Decode(format, bytes, before);
     fuzz::Require(format.Takes(bytes.size()), "only sizes of the type are taken");

@@ -9,10 +9,10 @@ constexpr std::uint16_t kStatus = 0x90;
 
 KernalDisk::KernalDisk(Machine& machine) : machine_(machine) {
   machine.Poke(kStatus, 0);
-  machine.Trap(0xFFBD, [this](Cpu6502& cpu) { SetName(cpu); });
+  machine.Trap(0xFFBD, [this](const Cpu6502& cpu) { SetName(cpu); });
   machine.Trap(0xFFBA, [this](const Cpu6502& cpu) { device = cpu.x; });  // SETLFS
   machine.Trap(0xFFD8, [this](Cpu6502& cpu) { Save(cpu); });
-  machine.Trap(0xFFB4, [this](Cpu6502& cpu) { Talk(cpu); });
+  machine.Trap(0xFFB4, [this](const Cpu6502& cpu) { Talk(cpu); });
   machine.Trap(0xFF96, [this](const Cpu6502& cpu) { on_channel_15_ = cpu.a == 0x6F; });  // TKSA
   machine.Trap(0xFFA5, [this](Cpu6502& cpu) { NextOfMessage(cpu); });                    // ACPTR
   machine.Trap(0xFFAB, [this](Cpu6502&) { on_channel_15_ = false; });                    // UNTLK

@@ -159,7 +159,7 @@ std::uint8_t Machine::Fetch(std::uint16_t address) {
 }
 
 void Machine::Write(std::uint16_t address, std::uint8_t value) {
-  if (ShowsBitmap() && IsShown(address)) Fault("changing what is shown", address);
+  if (!may_change_ && ShowsBitmap() && IsShown(address)) Fault("changing what is shown", address);
   if (Chip(address) == Area::kIo) return WriteIo(address, value);
   if (address < 0x100 && !IsFree(address)) Fault("writing a zero page byte that BASIC and KERNAL keep", address);
   Poke(address, value);

@@ -39,6 +39,8 @@ class Machine final : public Bus {
   void Trap(std::uint16_t address, std::function<void(Cpu6502&)> routine) { traps_[address] = std::move(routine); }
   // Presses the RESTORE key, without STOP, every so many cycles.
   void PressRestoreEvery(std::uint64_t cycles) { restore_every_ = cycles; }
+  // A program may change what it shows.
+  void LetItChangeWhatIsShown() { may_change_ = true; }
   // What a jump to the program from a running one leaves behind: decimal mode, a deep stack.
   void LeaveUnclean() { unclean_ = true; }
 
@@ -89,7 +91,7 @@ class Machine final : public Bus {
   std::uint8_t stack_at_start_ = 0;
   std::uint64_t next_jiffy_ = 0, next_restore_ = 0, restore_every_ = 0;
   std::uint8_t open_bus_ = 0;  // what colour RAM's missing half reads as, ever something else
-  bool unclean_ = false;
+  bool unclean_ = false, may_change_ = false;
 };
 
 }  // namespace kelvo::c64

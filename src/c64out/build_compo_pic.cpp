@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <fstream>
 #include <functional>
+#include <span>
 
 #include "app/number_text.h"
 #include "app/path_text.h"
@@ -113,9 +114,8 @@ void RequirePacked(const app::Bytes& object, const app::Bytes& packed) {
 }
 
 void RequireWholeProgram(const app::Bytes& program, const app::Bytes& packed) {
-  const auto data = packed.begin() + 1;  // the layout is told in the code
-  if (packed.end() - data > static_cast<std::ptrdiff_t>(program.size()) ||
-      !std::equal(data, packed.end(), program.end() - (packed.end() - data))) {
+  const std::span<const std::uint8_t> data = std::span(packed).subspan(1);  // the layout is told in the code
+  if (data.size() > program.size() || !std::ranges::equal(data, std::span(program).last(data.size()))) {
     throw std::runtime_error("tass: the program does not end with the packed picture");
   }
 }

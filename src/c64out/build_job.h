@@ -56,7 +56,7 @@ class BuildJob {
   bool IsOn(const app::Setting& setting) const { return app::ReadNumber(with_.settings, setting, 0, 1) == 1; }
 
   // The lines of templates that this build asks for.
-  TemplateMarks Marks() const { return {choice_.ViaCodenet, IsOn(kKeyEndsPicture)}; }
+  TemplateMarks Marks() const { return {choice_.ViaCodenet, IsOn(kKeyEndsPicture), IsOn(kFadeIn)}; }
 
   // The picture's name without its extension: everything from the last "." on goes. A name without a "." gives an empty
   // text, on purpose.

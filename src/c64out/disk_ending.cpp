@@ -1,11 +1,10 @@
 #include "c64out/disk_ending.h"
 
-#include <algorithm>
-
 #include "app/path_text.h"
 #include "app/text.h"
 #include "app/utf8.h"
 #include "app/whole_file.h"
+#include "c64out/disk_name.h"
 #include "c64out/output_settings.h"
 #include "c64out/set_aside.h"
 #include "c64out/short_path.h"
@@ -16,13 +15,11 @@ namespace {
 
 constexpr std::size_t kNameCharacters = 16;
 
-constexpr std::string_view kNotInNames = ":,=*?\"";
-
-// Refuses what c1541 takes for a command, and what a C64's disk system acts upon or cannot write.
 void RequireDiskName(const std::string& name) {
-  const bool is_ascii = std::all_of(name.begin(), name.end(), [](char c) { return c >= ' ' && c <= '~'; });
-  if (is_ascii && name.find_first_of(kNotInNames) == std::string::npos && name.find_first_of("-@$#&") != 0) return;
-  throw std::runtime_error("c1541: a disk cannot hold the name " + name + "; set a PRG name in the VICE settings");
+  if (FitsDisk(name)) return;
+  const std::string proposed = ProposedDiskName(name.substr(0, name.rfind('.')));
+  throw std::runtime_error("c1541: a disk cannot hold the name " + name + "; set a PRG name in the VICE settings" +
+                           (proposed.empty() ? "" : ", such as " + proposed));
 }
 
 }  // namespace

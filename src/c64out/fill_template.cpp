@@ -9,8 +9,8 @@
 namespace kelvo::c64out {
 namespace {
 
-constexpr std::pair<std::string_view, bool TemplateMarks::*> kMarks[] = {{"<CC>", &TemplateMarks::via_codenet},
-                                                                         {"<KEY>", &TemplateMarks::key_ends}};
+constexpr std::pair<std::string_view, bool TemplateMarks::*> kMarks[] = {
+    {"<CC>", &TemplateMarks::via_codenet}, {"<KEY>", &TemplateMarks::key_ends}, {"<FADE>", &TemplateMarks::fades_in}};
 constexpr std::string_view kEndsLiteral = "\"'\r\n";
 constexpr std::string_view kBeginsMark = "[<";  // a placeholder, or the marker of a line
 

@@ -12,6 +12,7 @@ namespace kelvo::c64out {
 struct TemplateMarks {
   bool via_codenet = false;  // "<CC>": the program is started over a network
   bool key_ends = false;     // "<KEY>": a key ends the picture
+  bool fades_in = false;     // "<FADE>": the picture fades in
 };
 
 struct TemplateFilling {

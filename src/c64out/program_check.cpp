@@ -36,6 +36,7 @@ ProgramFinding Watch(c64::Machine& machine, const model::PictureImage& picture) 
 ProgramFinding TryProgram(std::span<const std::uint8_t> program, const model::PictureImage& picture, bool via_codenet) {
   try {
     c64::Machine machine;
+    machine.LetItChangeWhatIsShown();
     if (via_codenet) machine.LeaveUnclean();
     machine.Load(program);
     return Watch(machine, picture);

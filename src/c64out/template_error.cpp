@@ -14,11 +14,11 @@ std::string InTermsOfTemplate(const std::string& said, const std::filesystem::pa
   const std::string name = app::TextFromPath(filled.filename());
   const std::size_t at = said.find(name + ":");
   if (at == std::string::npos) return said;
-  static const std::regex kPlace("([0-9]+):[0-9]+: *(.*)");
+  static const std::regex place_pattern("([0-9]+):[0-9]+: *(.*)");
   std::smatch place;
   const std::size_t from = at + name.size() + 1;
   const std::string rest = said.substr(from, said.find_first_of("\r\n", from) - from);
-  if (!std::regex_match(rest, place, kPlace)) return said;
+  if (!std::regex_match(rest, place, place_pattern)) return said;
   const std::string text = ReadText(source);
   const int line = TemplateLineOf(text, app::WholeNumber<int>(place[1].str()).value_or(0), marks);
   if (line == 0) return said;

@@ -54,11 +54,11 @@ inline constexpr SurfaceColours kSurfaceColours = MakeSurfaceColours();
 // The colours that everything is shown in: one palette for all windows, as a desktop has one. At first kSurfaceColours.
 class ShownPalette {
  public:
-  static const SurfaceColours& Colours() { return colours_; }
-  static void Show(const SurfaceColours& colours) { colours_ = colours; }
+  static const SurfaceColours& Colours() { return shown; }
+  static void Show(const SurfaceColours& colours) { shown = colours; }
 
  private:
-  static inline SurfaceColours colours_ = kSurfaceColours;
+  static inline SurfaceColours shown = kSurfaceColours;
 };
 
 inline std::uint32_t SurfaceColour(C64Colour colour) {

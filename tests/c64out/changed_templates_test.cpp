@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <set>
 
 #include "c64out/output_settings.h"
 #include "c64out/text_lines.h"
@@ -16,7 +17,7 @@ namespace {
 namespace fs = std::filesystem;
 
 // Replaces `from`, which must be there, in a template.
-std::function<void(const fs::path&)> Change(std::string name, std::string from, std::string to) {
+std::function<void(const fs::path&)> Change(const std::string& name, const std::string& from, const std::string& to) {
   return [=](const fs::path& system) {
     const std::string text = ReadText(system / name);
     ASSERT_NE(text.find(from), std::string::npos);
@@ -25,10 +26,11 @@ std::function<void(const fs::path&)> Change(std::string name, std::string from, 
 }
 
 // Keeps `share` (0..1) of a file of that name that a tool has made.
-std::function<void(const fs::path&)> CutOff(std::string name, double share) {
+std::function<void(const fs::path&)> CutOff(const std::string& name, double share) {
   return [=](const fs::path& made) {
-    if (made.filename() == name)
+    if (made.filename() == name) {
       fs::resize_file(made, static_cast<std::uintmax_t>(static_cast<double>(fs::file_size(made)) * share));
+    }
   };
 }
 
@@ -115,6 +117,27 @@ TEST_F(ChangedTemplates, AreNotTriedWhenTheUserSaysSo) {
       Build({.templates = Change("bmpshow.src", "jmp *\n", ".byte $02\n"),
              .settings = [](app::SettingsStore& settings) { settings.Write(c64out::kCheckPrograms, "0"); }});
   EXPECT_FALSE(built.program.empty());
+}
+
+TEST_F(ChangedTemplates, MayLetThePictureFadeIn) {
+  const auto fades = [](app::SettingsStore& settings) { settings.Write(c64out::kFadeIn, "1"); };
+  const BuiltProgram built = Build({.settings = fades});
+  EXPECT_EQ(built.said[built.said.size() - 2], "--> Adding depacker");  // no note
+  c64::Machine machine;
+  machine.LetItChangeWhatIsShown();
+  machine.Load(built.program);
+  machine.Start();
+  int seen = 0, colours = 0;  // ever more of them
+  while (!machine.RunOn(machine.Cpu().cycles + 20'000)) {
+    const c64::Screen screen = c64::ScreenOf(machine);
+    if ((machine.Io(0xD011) & 0x20) == 0) continue;
+    const std::set<int> shown(screen.pixels.begin(), screen.pixels.end());
+    seen += static_cast<int>(shown.size()) > colours ? 1 : 0;
+    EXPECT_GE(static_cast<int>(shown.size()), colours);
+    colours = static_cast<int>(shown.size());
+  }
+  EXPECT_GE(seen, 5);
+  EXPECT_EQ(c64::ScreenOf(machine).At(0, 0), ColourAt(picture_, 1, 1));
 }
 
 // Space and Run/Stop are two keys of one row; another of that row and no key at all go on showing.

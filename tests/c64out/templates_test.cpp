@@ -4,6 +4,7 @@
 #include "app/whole_file.h"
 #include "c64/kernal_disk.h"
 #include "c64out/disk_ending.h"
+#include "c64out/disk_name.h"
 #include "c64out/fill_template.h"
 #include "c64out/saver_template.h"
 #include "c64out/tool_command.h"
@@ -69,6 +70,20 @@ TEST(NameOnDisk, IsCutBeforeItsEnding) {
   EXPECT_EQ(NameOnDisk("My.Pic"), "my.pic.prg");
   EXPECT_EQ(NameOnDisk("ABCDEFGHIJKLMNOPQRST"), "abcdefghijklmnop.prg");
   EXPECT_EQ(NameOnDisk(""), ".prg");
+}
+
+TEST(NameOnDisk, IsProposedWhereItDoesNotFit) {
+  for (const auto& [name, proposed] : {std::pair{"Größe", "groesse"},
+                                       {"ÆØÅ þÿ", "aeoa thy"},
+                                       {"łódź", "lodz"},
+                                       {"$a:b", "a-b"},
+                                       {"日本 1", "1"},
+                                       {"日", ""},
+                                       {"plain", "plain"}}) {
+    EXPECT_EQ(ProposedDiskName(name), proposed);
+    EXPECT_TRUE(FitsDisk(ProposedDiskName(name)));
+    EXPECT_EQ(FitsDisk(name), std::string(name) == "plain") << name;
+  }
 }
 
 TEST(Assembler, ThatIsNotInstalledSaysWhatToInstall) {

@@ -87,8 +87,9 @@ TEST(History, ComesBackFromWhatWasRecordedAsFarAsThatIsWhole) {
   for (int i = 0; i < 200; ++i) {
     app::Bytes damaged = recorded;
     damaged.resize(static_cast<std::size_t>(other.Below(static_cast<int>(recorded.size()))));
-    if (i % 2 == 1 && !damaged.empty())
+    if (i % 2 == 1 && !damaged.empty()) {
       damaged[static_cast<std::size_t>(other.Below(static_cast<int>(damaged.size())))] ^= 1;
+    }
     restored.Restore(damaged);
     restored.GoTo(restored.Count() - 1);
     restored.GoTo(0);

@@ -97,8 +97,9 @@ void Measurement::MeasureControls(const QWidget& window) {
     const QRect place(control->mapTo(&window, QPoint()), control->size());
     const bool is_control = qobject_cast<const QAbstractButton*>(control) || qobject_cast<const QLabel*>(control);
     const bool is_panel = window.window()->height() < kLeastHeight && control->objectName().startsWith("pnl");
-    if (is_control && !is_panel)
+    if (is_control && !is_panel) {
       Expect(window.rect().contains(place), control->objectName() + " is cut: " + Text(place));
+    }
     const auto* label = qobject_cast<const QLabel*>(control);
     if (label == nullptr || label->text().isEmpty()) continue;
     const QSize needed = label->fontMetrics().size(0, label->text());

@@ -25,8 +25,9 @@ TEST(WindowLayout, NoWindowCoversAnotherAndAllAreSeenWhereThereIsRoom) {
           for (std::size_t i = 0; i < all.size(); ++i) {
             EXPECT_GE(all[i].left(), kWindowGap);
             EXPECT_GE(all[i].top(), kWindowGap);
-            for (std::size_t j = 0; j < i; ++j)
+            for (std::size_t j = 0; j < i; ++j) {
               EXPECT_FALSE(all[i].intersects(all[j])) << area.width() << ' ' << i << j;
+            }
           }
           EXPECT_TRUE(!has_room || QRect(QPoint(), area).contains(QRect({0, 0}, places.Needed()))) << area.width();
           EXPECT_TRUE(!has_room || places.zoom.bottom() + below < area.height());

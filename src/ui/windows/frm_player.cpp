@@ -9,18 +9,19 @@
 namespace kelvo::ui {
 namespace {
 
-constexpr QSize kSmallest(model::kFullViewWidth, model::kFullViewHeight);
+constexpr QSize kPictureBox(model::kFullViewWidth, model::kFullViewHeight);
 
 }  // namespace
 
-frmPlayer::frmPlayer(QWidget* parent) : QWidget(parent, Qt::Window), surface_(kSmallest.width(), kSmallest.height()) {
+frmPlayer::frmPlayer(QWidget* parent)
+    : QWidget(parent, Qt::Window), surface_(kPictureBox.width(), kPictureBox.height()) {
   setObjectName("frmPlayer");
   setWindowTitle("Play");
   setAccessibleName("Frames that play");
   setAttribute(Qt::WA_DeleteOnClose);
   setAttribute(Qt::WA_OpaquePaintEvent);
-  setMinimumSize(kSmallest);
-  resize(2 * kSmallest);
+  setMinimumSize(kPictureBox);
+  resize(2 * kPictureBox);
 }
 
 void frmPlayer::ShowPicture(const model::PictureImage& picture) {
@@ -32,7 +33,7 @@ void frmPlayer::ShowPicture(const model::PictureImage& picture) {
 void frmPlayer::paintEvent(QPaintEvent*) {
   const QImage image(reinterpret_cast<const uchar*>(surface_.Row(0)), surface_.Width(), surface_.Height(),
                      QImage::Format_RGB32);
-  QRect place({}, kSmallest.scaled(size(), Qt::KeepAspectRatio));
+  QRect place({}, kPictureBox.scaled(size(), Qt::KeepAspectRatio));
   place.moveCenter(rect().center());
   QPainter painter(this);
   painter.fillRect(rect(), Qt::black);

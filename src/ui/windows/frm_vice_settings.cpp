@@ -17,6 +17,8 @@ frmViceSettings::frmViceSettings(app::SettingsStore& settings, app::Messages& me
   AddHint("A PRG name that is set overrides the picture's file name.");
   AddCheckBox(c64out::kCheckPrograms, "&Check programs before they are kept");
   AddCheckBox(c64out::kKeyEndsPicture, "A &key ends the picture");
+  AddCheckBox(c64out::kFadeIn, "&Fade in");
+  AddCheckBox(c64out::kOneEmulator, "A preview &ends the one before");
   if (path_->text().isEmpty()) path_->setText(ToQt(c64out::EmulatorOnPath(FromQt(qEnvironmentVariable("PATH")))));
   auto* browse = new QPushButton("&Browse...");
   browse->setObjectName("browseVicePath");
@@ -31,9 +33,10 @@ void frmViceSettings::Browse() {
 
 void frmViceSettings::cmdStd_Click() {
   using c64out::ViceFolderState;
-  Store(c64out::kVicePrgName);
-  Store(c64out::kCheckPrograms);
-  Store(c64out::kKeyEndsPicture);
+  for (const app::Setting& setting :
+       {c64out::kVicePrgName, c64out::kCheckPrograms, c64out::kKeyEndsPicture, c64out::kFadeIn, c64out::kOneEmulator}) {
+    Store(setting);
+  }
   switch (c64out::CheckViceFolder(FromQt(path_->text().trimmed()))) {
     case ViceFolderState::kExecutable:
       return messages_.Warn("The caption spells PATH, not executable.");

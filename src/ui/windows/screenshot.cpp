@@ -28,7 +28,7 @@ constexpr std::array<ImageFormat, 3> kFormats{{
 
 constexpr std::array<int, 3> kSizes{1, 2, 4};
 constexpr int kBestQuality = 100;
-constexpr int kSmallest = 0;  // to Qt the quality of a PNG is how little it is packed; the pixels are the same
+constexpr int kMostPacked = 0;  // to Qt the quality of a PNG is how little it is packed; the pixels are the same
 
 // What a filter's position in the dialog stands for.
 const ImageFormat& FormatOf(qsizetype filter) {
@@ -63,7 +63,7 @@ void SaveScreenshot(const QImage& picture, const QString& path, int size) {
   QSaveFile file(path);
   const QByteArray format = QFileInfo(path).suffix().toLower().toLatin1();
   const QImage scaled = picture.convertToFormat(QImage::Format_Indexed8).scaled(picture.size() * size);
-  const int quality = format == "png" ? kSmallest : kBestQuality;
+  const int quality = format == "png" ? kMostPacked : kBestQuality;
   if (!file.open(QIODevice::WriteOnly) || !scaled.save(&file, format.constData(), quality) || !file.commit()) {
     throw std::runtime_error(FromQt(NativePath(file.fileName()) + ": it cannot be written: " + file.errorString()));
   }
