@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QDir>
 #include <QFile>
 #include <QLoggingCategory>
 #include <QSettings>
@@ -15,7 +16,8 @@ void UseScreen(const QString& file) {
   if (!screen.open(QIODevice::WriteOnly)) return;
   screen.write(R"({"screens": [{"name": "one", "x": 0, "y": 0, "width": 1280, "height": 1024, "logicalDpi": 96,
                                 "logicalBaseDpi": 96, "dpr": 1}]})");
-  qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + QFile::encodeName(file));
+  const QString relative = QDir::current().relativeFilePath(file);  // a drive's colon would end it
+  qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + QFile::encodeName(relative));
 }
 
 }  // namespace
@@ -23,7 +25,7 @@ void UseScreen(const QString& file) {
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
   // No test may touch the settings of whoever runs it.
-  const QTemporaryDir settings;
+  const QTemporaryDir settings("settings-XXXXXX");
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") || qgetenv("QT_QPA_PLATFORM") == "offscreen") {
     UseScreen(settings.filePath("screen.json"));
   }

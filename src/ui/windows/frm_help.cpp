@@ -25,9 +25,9 @@ frmHelp::frmHelp(const QString& name, const QString& title, QWidget* parent) : Q
 }
 
 void frmHelp::ShowGuide() {
-  const QFileInfo guide(QDir(QCoreApplication::applicationDirPath()), KELVO_SHARE_FROM_PROGRAM "/guide/guide.md");
+  const QFileInfo guide(QDir(QCoreApplication::applicationDirPath()), KELVO_SHARE_FROM_PROGRAM "/guide/guide.html");
   if (!guide.exists()) return setPlainText("The guide is missing: " + guide.absoluteFilePath());
-  setSource(QUrl::fromLocalFile(guide.absoluteFilePath()), QTextDocument::MarkdownResource);
+  setSource(QUrl::fromLocalFile(guide.absoluteFilePath()), QTextDocument::HtmlResource);
 }
 
 QVariant frmHelp::loadResource(int type, const QUrl& name) {

@@ -11,7 +11,7 @@ namespace kelvo::ui {
 namespace {
 
 // At 4:1.
-constexpr int kCellSide = 32, kFirstCellsWide = 20, kFirstCellsHigh = 18, kLeastCells = 6;
+constexpr int kCellSide = 32, kFirstCellsWide = 20, kFirstCellsHigh = 18, kLeastCellsShown = 6;
 
 }  // namespace
 
@@ -41,7 +41,7 @@ QSize frmZoom::sizeHint() const {
 }
 
 QSize frmZoom::minimumSizeHint() const {
-  return SizeFor(kLeastCells, kLeastCells);
+  return SizeFor(kLeastCellsShown, kLeastCellsShown);
 }
 
 void frmZoom::resizeEvent(QResizeEvent* event) {
