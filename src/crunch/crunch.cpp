@@ -19,9 +19,8 @@ constexpr int kPlain = 0, kPicture = 1, kPictureProgram = 2, kColoursInBytes = 6
 constexpr std::size_t kBitmap = 8000, kCells = 1000, kColours = kBitmap + kCells;
 constexpr std::size_t kPictureBytes = kColours + kCells + 1, kLoadAddress = 2, kMostViewerCode = 6000;
 
-// What the ways that a C64 needs code for have to save: nibbles, and a bitmap that is to be turned, which takes the
-// time of loading as much again.
-constexpr int kBitsForNibbles = 8 * 26, kBitsForTurning = 8 * 110;
+// What the ways that a C64 needs code for have to save: nibbles, and a bitmap that is to be turned.
+constexpr int kBitsForNibbles = 8 * 26, kBitsForTurning = 8 * 80;
 
 // The bytes in front of the picture in a file of `layout`.
 std::size_t StartOf(int layout) {

@@ -11,7 +11,7 @@
 namespace kelvo::optimise {
 namespace {
 
-constexpr int kQuickLevel = 3;
+constexpr int kQuickLevel = 4;
 
 struct Found {
   model::PictureImage picture;

@@ -11,7 +11,7 @@ namespace {
 using model::PictureImage;
 
 constexpr int kWide = PictureImage::kCellsWide, kHigh = PictureImage::kCellsHigh, kCount = PictureImage::kCells;
-constexpr int kNone = -1, kMostPasses = 4;
+constexpr int kNone = -1, kMostPasses = 6;
 constexpr float kSideWeight = 0.25F;  // of the cell beside against the one above; found by trying
 
 // The cells in columns from the left, each from its top.
