@@ -26,19 +26,24 @@ void CheckLines(std::string_view text, std::string_view filled) {
   Require(Occurrences(filled, "\n") <= Occurrences(text, "\n") + 1, "no line is added");
 }
 
+bool HasMark(const std::string& text) {
+  const auto holds = [&](const char* mark) { return text.find(mark) != std::string::npos; };
+  return holds("<CC>") || holds("<KEY>") || holds("<FADE>");
+}
+
 // A mark that no template holds stands for the replacement, so that what is around it can be looked at.
-void CheckViewer(const std::string& text, std::string_view placeholder, bool via_codenet) {
+void CheckViewer(const std::string& text, std::string_view placeholder, const c64out::TemplateMarks& marks) {
   const std::string mark = "\x01mark\x02";
   if (text.find('\x01') != std::string::npos) return;
-  const auto filled = c64out::FilledTemplate(text, {placeholder, mark, via_codenet});
+  const auto filled = c64out::FilledTemplate(text, {placeholder, mark, marks});
   if (!filled) {
-    return Require(via_codenet || text.find(placeholder) == std::string::npos || text.find("<CC>") != std::string::npos,
+    return Require(marks.via_codenet || text.find(placeholder) == std::string::npos || HasMark(text),
                    "a placeholder that stays is found");
   }
   CheckLines(text, *filled);
   Require(filled->find(mark) != std::string::npos, "a filled template holds its replacement");
   Require(filled->find(placeholder) == std::string::npos, "no placeholder is left");
-  const auto other = c64out::FilledTemplate(text, {placeholder, placeholder, via_codenet});
+  const auto other = c64out::FilledTemplate(text, {placeholder, placeholder, marks});
   Require(other && c64out::Replaced(*filled, mark, placeholder) == *other, "a replacement goes in as it is");
 }
 
@@ -49,13 +54,13 @@ bool IsOneLiteral(std::string_view filled, char quote) {
 }
 
 // A path that is filled in stays in its literal and as it is, also when the next placeholder is filled in.
-void CheckPath(const std::string& folder, char quote, bool via_codenet) {
+void CheckPath(const std::string& folder, char quote, const c64out::TemplateMarks& marks) {
   const std::string name = "temp.kvp", path = c64out::PathInTemplate(folder + "/" + name);
-  const auto once = c64out::FilledTemplate(quote + std::string("[bitmap]") + quote, {"[bitmap]", path, via_codenet});
+  const auto once = c64out::FilledTemplate(quote + std::string("[bitmap]") + quote, {"[bitmap]", path, marks});
   Require(once && IsOneLiteral(*once, quote), "a path stays in its literal");
   Require(once->substr(1, once->size() - 4) == path, "a path goes in whole");
-  Require(!c64out::FilledTemplate(*once, {"[screencolor]", "00", via_codenet}), "a path holds no placeholder");
-  const auto more = c64out::FilledTemplate(*once + "[screencolor]", {"[screencolor]", "00", via_codenet});
+  Require(!c64out::FilledTemplate(*once, {"[screencolor]", "00", marks}), "a path holds no placeholder");
+  const auto more = c64out::FilledTemplate(*once + "[screencolor]", {"[screencolor]", "00", marks});
   Require(more && *more == *once + "00\r\n", "a path is no marker");
   Require(path == folder + "/" + name || path == name, "a path leads to its file");
 }
@@ -105,16 +110,17 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   using namespace kelvo;
   fuzz::Input input(data, size);
   const std::string_view placeholder = fuzz::kPlaceholders[input.Below(5)];
-  const bool via_codenet = input.Bit();
+  const bool is_wanted = input.Bit();  // every marked line, or none
+  const c64out::TemplateMarks marks{is_wanted, is_wanted, is_wanted};
   const std::uintmax_t program_size = input.Byte() * 257U;
   const std::string name = input.Line();
   const std::string text = input.RestAsText();
   fuzz::CheckNames(name);
-  fuzz::CheckViewer(text, placeholder, via_codenet);
+  fuzz::CheckViewer(text, placeholder, marks);
   fuzz::CheckSaver(text, name, program_size);
   for (const char quote : {'"', '\''}) {
-    fuzz::CheckPath(name, quote, via_codenet);
-    fuzz::CheckPath(text, quote, via_codenet);
+    fuzz::CheckPath(name, quote, marks);
+    fuzz::CheckPath(text, quote, marks);
     fuzz::CheckName(name, quote);
   }
   return 0;
