@@ -9,10 +9,10 @@
 #include "app/number_text.h"
 #include "app/text.h"
 #include "app/whole_file.h"
-#include "image_file.h"
 #include "c64/kernal_disk.h"
 #include "c64/machine.h"
 #include "c64/screen.h"
+#include "image_file.h"
 #include "model/palette.h"
 
 namespace kelvo::c64 {
