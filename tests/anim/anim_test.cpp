@@ -75,28 +75,27 @@ TEST_F(AnimModeTest, AsksInOrderUntilTheFirstFrameIsThere) {
 
 TEST_F(AnimModeTest, LooksAtTheFolderOnlyAfterTheFirstFrame) {
   messages.yes = true;
-  SetProperties(Text("gone/"), "anim");
-  const Lines told = Toggle();
-  ASSERT_EQ(told.size(), 3U);  // between the two: that the picture was not saved
-  EXPECT_EQ(told.front(), question);
-  EXPECT_EQ(told.back(), "Animation folder can not be found");
-
-  SetProperties(Text("gone"), "anim");
-  EXPECT_EQ(Toggle(), (Lines{question, "Animation folder can not be found"}));
-  EXPECT_TRUE(fs::exists(folder / "goneanim0001.kvp"));
-
   fs::create_directory(folder / "x0001.kvp");  // in the place of the first frame, which cannot be saved then
-  SetProperties(Text(""), "x");
-  EXPECT_EQ(Toggle().size(), 2U);
-  EXPECT_FALSE(shows.check_mark);
+  const std::string no_folder = "Animation folder can not be found", not_saved = Text("x0001.kvp");
+  // What is told last, and how much in all: the question, that the picture was not saved, that there is no folder.
+  for (const auto& [place, prefix, last, count] : {std::tuple{"gone/", "anim", no_folder, 3U},
+                                                   {"gone", "anim", no_folder, 2U},
+                                                   {"", "x", not_saved, 2U}}) {
+    SetProperties(Text(place), prefix);
+    const Lines told = Toggle();
+    EXPECT_EQ(told.size(), count);
+    EXPECT_NE(told.back().find(last), std::string::npos) << told.back();
+    EXPECT_FALSE(shows.check_mark);
+  }
+  EXPECT_TRUE(fs::exists(folder / "goneanim0001.kvp"));
 }
 
 TEST_F(AnimModeTest, TheCommandSetsTheFlagAloneOrSwitchesTheModeWithIt) {
-  const command::AnimationSwitch animation{[this] {
-                                             mode.ToggleAnimMode();
-                                             return mode.IsAnimModeChecked();
-                                           },
-                                           [this](bool on) { mode.SetAnimFlag(on); }};
+  const auto toggle = [this] {
+    mode.ToggleAnimMode();
+    return mode.IsAnimModeChecked();
+  };
+  const command::AnimationSwitch animation{toggle, [this](bool on) { mode.SetAnimFlag(on); }};
   const auto reply = [&](const char* line) {
     command::ProcessCommand(line, surroundings, animation);
     return prompt.lines.back();
@@ -144,6 +143,7 @@ class FramesTest : public testing::Test, protected support::Program {
     return button == "Next" ? frames.Next() : button == "Back" ? frames.Back() : frames.GoTo(button);
   }
   int Seed() const { return document.picture.Bitmap[1]; }
+  void Draw(std::uint8_t seed) { document.picture.Bitmap[1] = seed; }
   static int SeedIn(const fs::path& file) { return support::ReadFile(file).at(2050); }
 
   FrameNavigation frames{surroundings};
