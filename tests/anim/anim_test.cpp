@@ -2,8 +2,6 @@
 #include <gtest/gtest.h>
 
 #include <array>
-#include <random>
-#include <tuple>
 
 #include "anim/anim_mode.h"
 #include "anim/frame_navigation.h"

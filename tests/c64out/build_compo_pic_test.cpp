@@ -3,10 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <functional>
 
-#include "app/path_text.h"
 #include "app/text.h"
 #include "c64out/output_settings.h"
 #include "c64out/short_path.h"

@@ -2,10 +2,8 @@
 // not.
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <set>
 
-#include "c64out/output_settings.h"
 #include "c64out/text_lines.h"
 #include "support/picture_program.h"
 #include "support/pictures.h"

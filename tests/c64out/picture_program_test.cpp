@@ -8,7 +8,6 @@
 #include "support/mazes.h"
 #include "support/pictures.h"
 #include "support/platform.h"
-#include "support/run_tool.h"
 #include "support/shown_picture.h"
 
 namespace kelvo::support {

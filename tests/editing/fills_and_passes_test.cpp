@@ -1,7 +1,6 @@
 // What goes over the whole picture: fills against a slow, literal one, and the passes.
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <set>
 
 #include "editing/cell_slots.h"

@@ -8,8 +8,6 @@
 #include <chrono>
 #include <csignal>
 #include <cstdlib>
-#include <map>
-#include <optional>
 #include <thread>
 
 #include "support/pictures.h"

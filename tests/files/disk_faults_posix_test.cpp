@@ -8,7 +8,6 @@
 
 #include <array>
 #include <csignal>
-#include <random>
 #include <set>
 #include <thread>
 

@@ -40,8 +40,7 @@ class C64OutputTest : public MainFrameTest {
   }
   void Open(const std::string& name) {
     create_directories(art);
-    support::WriteFile(art / app::PathFromText(name), support::CountingBytes(10003));
-    ASSERT_TRUE(frame->Files().OpenPicture(app::TextFromPath(art) + "/" + name));
+    ASSERT_TRUE(frame->Files().OpenPicture(support::WriteKoala(art / app::PathFromText(name))));
   }
   void ExpectShows(const app::Bytes& prg) {
     c64::Machine machine;

@@ -1,5 +1,4 @@
 // The session's steps in the real main window: what makes one, walking through them, and what outlives a crash.
-#include <QListView>
 
 #include "main_frame_fixture.h"
 #include "model/named_palettes.h"

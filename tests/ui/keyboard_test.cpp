@@ -1,8 +1,6 @@
 // Painting by keyboard: the same actions by keys and by mouse give the same file, byte for byte.
 #include <QSet>
 #include <QToolBar>
-#include <algorithm>
-#include <random>
 
 #include "editing/preferences.h"
 #include "main_frame_fixture.h"

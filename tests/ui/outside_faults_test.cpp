@@ -4,7 +4,6 @@
 #include <QLockFile>
 #include <QScreen>
 #include <QSettings>
-#include <optional>
 
 #include "app/other_folder.h"
 #include "main_frame_fixture.h"

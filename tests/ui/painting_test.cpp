@@ -1,5 +1,4 @@
 // Painting with real mouse buttons and keys on the real main window, against what the core gives for the same actions.
-#include <QCheckBox>
 
 #include "editing/preferences.h"
 #include "main_frame_fixture.h"

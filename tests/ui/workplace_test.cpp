@@ -1,7 +1,6 @@
 // The workplace: child windows and their places, moving about in the picture, the whole screen, screenshots.
 #include <QFileDialog>
 #include <QImageReader>
-#include <QLineEdit>
 #include <QMdiSubWindow>
 #include <QStatusTipEvent>
 #include <QTextBrowser>
