@@ -70,17 +70,6 @@ TEST(ProgramFolders, LieBesideTheProgramOnlyWhereThatCanBeWritten) {
   }
 }
 
-TEST(Settings, NonsenseReadsAsTheDefault) {
-  constexpr Setting kNumber{"Settings", "Number", "9"};
-  support::MapSettings settings;
-  for (const char* nonsense : {"16", "-1", "", "red", "5x", "99999999999999999999"}) {
-    settings.Write(kNumber, nonsense);
-    EXPECT_EQ(ReadNumber(settings, kNumber, 0, 15), 9) << nonsense;
-  }
-  settings.Write(kNumber, "15");
-  EXPECT_EQ(ReadNumber(settings, kNumber, 0, 15), 15);
-}
-
 TEST(WholeFile, RefusesWhatIsNoOrdinaryFile) {
   const support::TempFolder folder;
   EXPECT_THROW(ReadWholeFile(folder.Path(), 10), FileError);

@@ -90,13 +90,13 @@ TEST_F(PictureFilesTest, ReadsExactlyOnRequestAndSaysWhereThatMatters) {
        {std::tuple{"0", 255, 0, "with File > Read files exactly"},
         {"1", int{bytes[8001]}, bytes[10002] & 15, "without File > Read files exactly"}}) {
     SCOPED_TRACE(exactly);
+    status.words.clear();
     settings.Write(kReadFilesExactly, exactly);
     ASSERT_TRUE(files.OpenPicture(koala));
     EXPECT_EQ(document.picture.Bitmap[8000], last);
     EXPECT_EQ(document.picture.BackgroundColour.Number(), background);
     ASSERT_EQ(status.words.size(), 1U);
     EXPECT_TRUE(status.words.back().ends_with(word)) << status.words.back();
-    status.words.clear();
   }
   document.picture.Bitmap[5] ^= 1;
   ASSERT_TRUE(files.Save());
@@ -105,9 +105,6 @@ TEST_F(PictureFilesTest, ReadsExactlyOnRequestAndSaysWhereThatMatters) {
   EXPECT_EQ(Encode(document.picture), saved);
   EXPECT_TRUE(status.words.back().ends_with("exactly")) << status.words.back();
 
-  support::WriteText(folder / "pic.gg", "no picture");
-  EXPECT_FALSE(files.OpenPicture(folder / "pic.gg"));
-  EXPECT_TRUE(messages.shown.back().ends_with("it unpacks to less than a picture."));
   support::WriteFile(folder / "pic.gg", EncodeAs(FormatOf(kArtStudioType), document.picture));
   settings.Write(kReadFilesExactly, "0");
   for (const auto& [name, filter] : {std::pair{"pic.gg", kOwnType}, {"pic.koa", kByContentType}}) {
@@ -116,6 +113,9 @@ TEST_F(PictureFilesTest, ReadsExactlyOnRequestAndSaysWhereThatMatters) {
     EXPECT_TRUE(files.Open());
     EXPECT_EQ(document.picture.Bitmap[8000], bytes[8001]) << name;
   }
+  support::WriteText(folder / "pic.gg", "no picture");
+  EXPECT_FALSE(files.OpenPicture(folder / "pic.gg"));
+  EXPECT_TRUE(messages.shown.back().ends_with("it unpacks to less than a picture."));
 }
 
 TEST_F(PictureFilesTest, SavingElsewhereMayBeRefusedAndThenNothingChanges) {
