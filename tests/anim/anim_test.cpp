@@ -76,9 +76,8 @@ TEST_F(AnimModeTest, LooksAtTheFolderOnlyAfterTheFirstFrame) {
   fs::create_directory(folder / "x0001.kvp");  // in the place of the first frame, which cannot be saved then
   const std::string no_folder = "Animation folder can not be found", not_saved = Text("x0001.kvp");
   // What is told last, and how much in all: the question, that the picture was not saved, that there is no folder.
-  for (const auto& [place, prefix, last, count] : {std::tuple{"gone/", "anim", no_folder, 3U},
-                                                   {"gone", "anim", no_folder, 2U},
-                                                   {"", "x", not_saved, 2U}}) {
+  for (const auto& [place, prefix, last, count] :
+       {std::tuple{"gone/", "anim", no_folder, 3U}, {"gone", "anim", no_folder, 2U}, {"", "x", not_saved, 2U}}) {
     SetProperties(Text(place), prefix);
     const Lines told = Toggle();
     EXPECT_EQ(told.size(), count);
@@ -94,27 +93,23 @@ TEST_F(AnimModeTest, TheCommandSetsTheFlagAloneOrSwitchesTheModeWithIt) {
     return mode.IsAnimModeChecked();
   };
   const command::AnimationSwitch animation{toggle, [this](bool on) { mode.SetAnimFlag(on); }};
-  const auto reply = [&](const char* line) {
-    command::ProcessCommand(line, surroundings, animation);
-    return prompt.lines.back();
-  };
-  EXPECT_EQ(reply("ANIM "), "ANIM OFF");  // there is no folder yet
   SetProperties(Text(""), "anim");
-  messages.yes = true;
-  EXPECT_EQ(reply("ANIM ON"), "ANIM ON");
-  EXPECT_EQ(shows.status, "ANIM=ON");
-  EXPECT_FALSE(shows.check_mark || shows.window);
-  EXPECT_EQ(reply("ANIM"), "ANIM ON");
-  EXPECT_TRUE(shows.check_mark && shows.window);
-
+  for (const auto& [line, reply, flag, is_on] :
+       {std::tuple{"ANIM ", "ANIM OFF", "ANIM=OFF", false},  // the answer is no
+        {"ANIM ON", "ANIM ON", "ANIM=ON", false},
+        {"ANIM", "ANIM ON", "ANIM=ON", true},
+        {"ANIM off", "ANIM off", "ANIM=OFF", true},
+        {"ANIM", "ANIM OFF", "ANIM=OFF", false},
+        {"ANIM", "ANIM ON", "ANIM=ON", true}}) {
+    command::ProcessCommand(line, surroundings, animation);
+    EXPECT_EQ(prompt.lines.back(), reply);
+    EXPECT_EQ(shows.status, flag);
+    EXPECT_EQ(std::pair(shows.check_mark, shows.window), std::pair(is_on, is_on)) << line;
+    messages.yes = true;
+  }
   mode.FrameWindowUnloaded();
   EXPECT_EQ(shows.status, "ANIM=OFF");
   EXPECT_FALSE(shows.check_mark);
-  EXPECT_EQ(reply("ANIM"), "ANIM ON");
-  EXPECT_EQ(reply("ANIM off"), "ANIM off");
-  EXPECT_EQ(shows.status, "ANIM=OFF");
-  EXPECT_TRUE(shows.check_mark);
-  EXPECT_EQ(reply("ANIM"), "ANIM OFF");
 }
 
 // A frame's file; its seed stands in every byte of its bitmap.
