@@ -42,9 +42,9 @@ void RequireCount(const Arguments& arguments) {
   const Command& command = *arguments.command;
   const std::size_t count = arguments.operands.size();
   if (count >= command.fewest && count <= command.most) return;
-  throw UsageError(
-      count < command.fewest ? "something is missing" : "\"" + arguments.operands[command.most] + "\" is too much",
-      &command);
+  throw UsageError(count < command.fewest ? "something is missing: " + std::string(command.operands)
+                                          : "\"" + arguments.operands[command.most] + "\" is too much",
+                   &command);
 }
 
 // What contradicts itself, or asks for two things of one stream.
