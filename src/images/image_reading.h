@@ -1,0 +1,29 @@
+// Image files of all kinds that Qt knows, and Qt's own images, as what a picture is converted from.
+#pragma once
+
+#include <QImage>
+#include <filesystem>
+#include <stdexcept>
+
+#include "convert/rgb_image.h"
+
+namespace kelvo::images {
+
+// Bytes that are no image, not a whole one, or one that is too large; the message says which.
+class ImageError : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+// The most pixels of an image: more than any camera's, less than fills a memory.
+inline constexpr qint64 kMostPixels = qint64{100} << 20;
+
+// In any depth and colour model, turned as a camera noted it; of an animation the first frame; a drawing made of lines
+// as large as fits a C64's screen several times. Throws ImageError, app::FileError for a file that cannot be read.
+convert::RgbImage ReadImage(const std::filesystem::path& file);
+convert::RgbImage ReadImage(const QByteArray& bytes);
+
+// Throws ImageError for an empty or too large one.
+convert::RgbImage RgbOf(const QImage& image);
+
+}  // namespace kelvo::images
