@@ -9,10 +9,16 @@ const Option kHelp{"--help", "", "tells how the command is used"};
 const Option kFrom{"--from", "FORMAT", "what IN is, whatever its name says", "kvp koa kla vid ocp p64 drz gg"};
 const Option kTo{"--to", "FORMAT", "what OUT becomes, whatever its name says", "kvp koa kla vid ocp p64 drz gg png"};
 const Option kExact{"--exact", "", "reads the last byte of the bitmap and each format's own background"};
-const Option kBackground{
-    .name = "--background", .value = "N", .help = "the background of a file that has none", .lowest = 0, .highest = 15};
+const Option kBackground{.name = "--background",
+                         .value = "N",
+                         .help = "the background, of an image or a file that tells none",
+                         .lowest = 0,
+                         .highest = 15};
 const Option kSettings{"--settings", "", "takes what is not said here from the editor's settings"};
 const Option kPalette{"--palette", "NAME", "the colors: Kelvo, Pepto, Colodore, or a palette file of VICE"};
+
+const Option kDither{"--dither", "NAME", "of an image; else what suits it", "none fine default strong"};
+const Option kFit{"--fit", "HOW", "where an image has another shape; else cover", "cover contain stretch"};
 
 const Option kJson{"--json", "", "a line of JSON for each file"};
 
@@ -64,11 +70,21 @@ const std::vector<Command>& Table() {
        2,
        Command::kAnyNumber,
        true,
-       "writes a picture in another format",
-       "Names tell the formats: .kvp, .koa, .kla, .vid, .ocp, .art, .p64, .drz, .gg, .png. Several pictures go into a "
-       "folder, in the format that --to names. \"-\" is standard input or output.",
-       {&kFrom, &kTo, &kExact, &kBackground, &kPalette, &kSettings},
-       "convert planet.kvp planet.koa"},
+       "writes a picture in another format, or makes one of an image",
+       "Names tell the formats: .kvp, .koa, .kla, .vid, .ocp, .art, .p64, .drz, .gg, .png. What is no picture of a C64 "
+       "is an image, which becomes one as the editor imports it; with --exact only where it is one already. Several "
+       "go into a folder, in the format that --to names. \"-\" is standard input or output.",
+       {&kFrom, &kTo, &kExact, &kBackground, &kDither, &kFit, &kPalette, &kSettings},
+       "convert --dither fine photo.jpg photo.kvp"},
+      {"check",
+       "IMAGE...",
+       1,
+       Command::kAnyNumber,
+       false,
+       "tells whether images obey the cell rule as they are",
+       "Cells that do not are listed, and the backgrounds that would do. Ends with 1 when an image does not.",
+       {&kBackground, &kPalette},
+       "check logo.png"},
       {"program",
        "IN OUT.prg",
        2,

@@ -19,6 +19,7 @@ struct Frame {
 
 constexpr std::array<Frame, 3> kFrames{{{160, 200, 0, 0, 1}, {320, 200, 0, 0, 2}, {384, 272, 32, 35, 2}}};
 constexpr int kSmallest = 100;  // how much a PNG is packed
+constexpr int kDotsPerMetre = 3780;  // as on a usual screen, whichever there is: a file says so
 constexpr int kPalWidth = 936, kPalHeight = 1000;  // of a pixel
 
 const Frame& FrameOf(ImageSize size) {
@@ -29,6 +30,8 @@ const Frame& FrameOf(ImageSize size) {
 QImage BlankImage(const Frame& frame, int scale, model::C64Colour colour, const files::Palette& palette) {
   QImage image(frame.width * scale, frame.height * scale, QImage::Format_Indexed8);
   image.setColorTable({palette.colours.begin(), palette.colours.end()});
+  image.setDotsPerMeterX(kDotsPerMetre);
+  image.setDotsPerMeterY(kDotsPerMetre);
   image.fill(colour.Byte());
   image.setText(kPaletteKey, QString::fromStdString(palette.name));
   return image;
@@ -63,6 +66,8 @@ QImage AsHighAsOnPal(const QImage& image) {
   const int height = (image.height() * kPalHeight + kPalWidth / 2) / kPalWidth;
   QImage higher(image.width(), height, image.format());
   higher.setColorTable(image.colorTable());
+  higher.setDotsPerMeterX(kDotsPerMetre);
+  higher.setDotsPerMeterY(kDotsPerMetre);
   higher.setText(kPaletteKey, image.text(kPaletteKey));
   for (int line = 0; line < height; ++line) {
     std::copy_n(image.constScanLine(line * image.height() / height), image.bytesPerLine(), higher.scanLine(line));

@@ -1,5 +1,6 @@
 #include "cli/commands/build.h"
 
+#include <atomic>
 #include <random>
 #include <stdexcept>
 #include <vector>
@@ -15,6 +16,9 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char* kPicture = "picture.kvp";
+
+std::atomic<int> temporary_folders = 0;
+static_assert(std::atomic<int>::is_always_lock_free, "a signal handler asks");
 
 // What a build tells its user.
 class BuildWords final : public app::Messages, public app::PromptOutput {
@@ -81,12 +85,18 @@ TemporaryFolder::TemporaryFolder() {
     const fs::path path = folder / ("kelvo-cli-" + app::ToHex(static_cast<int>(random() & 0x7FFFFFFF), 8));
     if (fs::create_directory(path, error)) path_ = path;
   }
+  if (!error) ++temporary_folders;
   if (error) throw app::FileError("no temporary folder can be made: " + error.message());
 }
 
 TemporaryFolder::~TemporaryFolder() {
   std::error_code ignored;
   fs::remove_all(path_, ignored);
+  --temporary_folders;
+}
+
+bool TemporaryFolder::AnyIsThere() {
+  return temporary_folders > 0;
 }
 
 BuiltProgram BuildProgram(const model::PictureImage& picture, const Arguments& arguments, const Ports& ports) {

@@ -21,6 +21,8 @@ class TemporaryFolder {
   TemporaryFolder& operator=(const TemporaryFolder&) = delete;
 
   const std::filesystem::path& Path() const { return path_; }
+  // May be asked by a signal handler.
+  static bool AnyIsThere();
 
  private:
   std::filesystem::path path_;

@@ -32,10 +32,11 @@ ExitCode PrintManual(const Arguments&, const Ports&) {
   return Print(ManualPage()), kDone;
 }
 
-constexpr std::array<std::pair<std::string_view, Work>, 13> kWork{{
+constexpr std::array<std::pair<std::string_view, Work>, 14> kWork{{
     {"help", Help},
     {"info", Info},
     {"convert", Convert},
+    {"check", Check},
     {"program", MakeProgram},
     {"disk", MakeDisk},
     {"show", Show},
@@ -56,6 +57,10 @@ ExitCode Perform(const std::vector<std::string>& words, const Ports& ports) {
   return work->second(arguments, ports);
 }
 
+ExitCode CodeOf(const std::exception& error) {
+  return dynamic_cast<const PictureSaysNo*>(&error) == nullptr ? kCannot : kNo;
+}
+
 std::string NameOf(const app::Setting& setting) {
   return std::string(setting.section) + "/" + std::string(setting.key);
 }
@@ -69,7 +74,7 @@ ExitCode RunCommandLine(const std::vector<std::string>& words, const Ports& port
     return kCannot;
   } catch (const std::exception& error) {
     Complain(error.what());
-    return kCannot;
+    return CodeOf(error);
   }
 }
 
@@ -80,7 +85,7 @@ ExitCode ReportEach(std::size_t count, const std::function<Report(std::size_t)>&
     try {
       reports[i] = work(i);
     } catch (const std::exception& error) {
-      reports[i] = {kCannot, {}, error.what()};
+      reports[i] = {CodeOf(error), {}, error.what()};
     }
   };
   InParallel(count, try_one, [&](std::size_t i) {

@@ -4,6 +4,8 @@
 #include <cstddef>
 #include <filesystem>
 #include <functional>
+#include <map>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -28,6 +30,12 @@ struct Ports {
 
 // Does what `words` ask for, the program's own name not among them, and tells on standard error what went wrong.
 ExitCode RunCommandLine(const std::vector<std::string>& words, const Ports& ports);
+
+// The picture is not as it was asked to be: kNo.
+class PictureSaysNo : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
 
 // What came of one input.
 struct Report {
@@ -55,6 +63,7 @@ class ChosenSettings final : public app::SettingsStore {
 };
 
 ExitCode Info(const Arguments& arguments, const Ports& ports);
+ExitCode Check(const Arguments& arguments, const Ports& ports);
 ExitCode Convert(const Arguments& arguments, const Ports& ports);
 ExitCode MakeProgram(const Arguments& arguments, const Ports& ports);
 ExitCode MakeDisk(const Arguments& arguments, const Ports& ports);

@@ -56,8 +56,8 @@ app::Bytes ReadInput(const std::string& operand, std::uintmax_t most) {
   return app::ReadWholeFile(app::PathFromText(operand), most);
 }
 
-PictureInput ReadPicture(const std::string& operand, const Arguments& arguments, const app::SettingsStore& settings) {
-  const app::Bytes bytes = ReadInput(operand, app::kMostBytesToCopy);
+PictureInput DecodePicture(const std::string& operand, const app::Bytes& bytes, const Arguments& arguments,
+                           const app::SettingsStore& settings) {
   try {
     if (!arguments.Has(kFrom) && IsImage(operand, bytes)) {
       throw std::runtime_error("this is an image; kelvo-cli convert makes a picture of it");
@@ -68,6 +68,10 @@ PictureInput ReadPicture(const std::string& operand, const Arguments& arguments,
   } catch (const std::runtime_error& error) {
     throw std::runtime_error(NameOfInput(operand) + ": " + error.what());
   }
+}
+
+PictureInput ReadPicture(const std::string& operand, const Arguments& arguments, const app::SettingsStore& settings) {
+  return DecodePicture(operand, ReadInput(operand, app::kMostBytesToCopy), arguments, settings);
 }
 
 bool IsImage(const std::string& operand, const app::Bytes& bytes) {

@@ -26,6 +26,8 @@ struct PictureInput {
 
 // The picture in a C64's file, as the editor opens it. Throws app::FileError, and std::runtime_error with the operand's
 // name for what is no such picture.
+PictureInput DecodePicture(const std::string& operand, const app::Bytes& bytes, const Arguments& arguments,
+                           const app::SettingsStore& settings);
 PictureInput ReadPicture(const std::string& operand, const Arguments& arguments, const app::SettingsStore& settings);
 
 // An image of another computer, by its name or its first bytes.

@@ -51,8 +51,7 @@ ExitCode Show(const Arguments& arguments, const Ports& ports) {
     machine.Load(program);
     ending = Ran(machine, arguments.Number(kSeconds).value_or(kUsualSeconds));
   } catch (const c64::MachineFault& fault) {
-    Complain(NameOfInput(operand) + ": " + fault.what());
-    return kNo;
+    throw PictureSaysNo(NameOfInput(operand) + ": " + fault.what());
   }
   const c64::Screen screen = c64::ScreenOf(machine);
   const bool is_written = arguments.operands.size() > 1;
