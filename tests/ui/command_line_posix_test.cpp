@@ -114,6 +114,10 @@ TEST_F(CommandLineTest, BuildsTheEditorsPrograms) {
                   " seen.png && cmp shown.png seen.png")
                 .exit_code,
             0);
+  Made("program --fade-in --key-ends" + card, "both.prg");
+  EXPECT_EQ(
+      Shell("kelvo-cli show both.prg | grep -q 'runs on.*' && kelvo-cli show both.prg - | cmp - seen.png").exit_code,
+      0);
   EXPECT_EQ(Shell("ls -d ${TMPDIR:-/tmp}/kelvo-cli-* 2>/dev/null").exit_code, 2);
 }
 
