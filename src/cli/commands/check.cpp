@@ -6,6 +6,7 @@
 #include "cli/commands/image_input.h"
 #include "cli/commands/palette_choice.h"
 #include "cli/commands/picture_input.h"
+#include "cli/counted.h"
 #include "convert/exact_picture.h"
 #include "model/palette.h"
 
@@ -46,10 +47,9 @@ std::string WhyNone(const convert::RgbImage& image) {
 
 Report Judged(const std::string& name, const convert::ColourMap& map, model::C64Colour background) {
   const std::vector<int> beyond = convert::CellsBeyondRule(map, background);
-  std::string text =
-      name + ": " +
-      (beyond.empty() ? "it obeys the rule" : std::to_string(beyond.size()) + " cells do not obey the rule") +
-      " with the background " + std::string(model::ColourName(background)) + "\n";
+  const std::string no = Counted(static_cast<int>(beyond.size()), "cell") + " beyond the rule";
+  std::string text = name + ": " + (beyond.empty() ? "it obeys the rule" : no) + " with the background " +
+                     std::string(model::ColourName(background)) + "\n";
   for (const int cell : beyond) {
     text += "  cell " + std::to_string(cell % map.grid.cells_wide + 1) + "," +
             std::to_string(cell / map.grid.cells_wide + 1) + ": " + NamesIn(map.ColoursIn(cell)) + "\n";

@@ -27,14 +27,14 @@ PictureFacts FactsOf(const PictureImage& picture) {
   return facts;
 }
 
-// "312 cells 00 Black", each in a line.
+// How many cells show each colour, one below the other.
 std::string ColourLines(const PictureFacts& facts) {
   std::string lines;
   for (std::size_t number = 0; number < facts.cells_showing.size(); ++number) {
     if (facts.cells_showing[number] == 0) continue;
     const std::string cells = std::to_string(facts.cells_showing[number]);
-    lines += std::string(lines.empty() ? "  colors     " : "             ") + std::string(4 - cells.size(), ' ') +
-             cells + " cells show " + std::string(model::kPalette[number].name) + "\n";
+    lines += (lines.empty() ? "  cells with  " : "              ") + std::string(4 - cells.size(), ' ') + cells + "  " +
+             std::string(model::kPalette[number].name) + "\n";
   }
   return lines;
 }
@@ -44,12 +44,11 @@ std::string FactsAsText(const std::string& operand, const PictureInput& input) {
   std::string text = NameOfInput(operand) + "\n  format      " + std::string(input.format) + ", " +
                      std::to_string(input.size) + " bytes, loads to $" + app::ToHex(facts.load_address, 4) +
                      "\n  background  " + std::string(model::ColourName(input.picture.BackgroundColour)) + "\n" +
-                     ColourLines(facts) + "  free       ";
+                     ColourLines(facts) + "  free colors";
   for (std::size_t free = 0; free < facts.cells_with_free.size(); ++free) {
-    text +=
-        (free == 0 ? " " : ", ") + std::to_string(facts.cells_with_free[free]) + " cells have " + std::to_string(free);
+    text += (free == 0 ? " " : ", ") + std::to_string(free) + " in " + std::to_string(facts.cells_with_free[free]);
   }
-  return text + "\n  exactly     " + (input.reads_differently ? "another picture" : "the same picture") + "\n";
+  return text + " cells\n  exactly     " + (input.reads_differently ? "another picture" : "the same picture") + "\n";
 }
 
 std::string FactsAsJson(const std::string& operand, const PictureInput& input) {
