@@ -28,11 +28,11 @@ inline constexpr std::array<Dither, 4> kDithers{
 enum class Effort { kFull, kQuick };
 
 struct Wishes {
-  Preparation preparation;
-  float grain = kDefaultGrain;                 // kNoGrain, else kStrongestGrain..kFaintestGrain
-  std::optional<model::C64Colour> background;  // else the best one
+  Preparation preparation{};
+  float grain = kDefaultGrain;                   // kNoGrain, else kStrongestGrain..kFaintestGrain
+  std::optional<model::C64Colour> background{};  // else the best one
   model::SurfaceColours palette = model::kSurfaceColours;
-  CellGrid grid;
+  CellGrid grid{};
   Effort effort = Effort::kFull;
   // Whether an image that is such a picture already may come back as it is: only for a whole picture, and where the
   // preparation leaves it alone.
@@ -60,7 +60,7 @@ class Conversion {
 
   // The same image and wishes give the same picture. The progress runs from 0 to kSteps; who does not want to wait for
   // the end throws from its Advance(), and may then ask again.
-  static constexpr int kSteps = 8;
+  static constexpr int kSteps = 9;
   Converted Convert(const Wishes& wishes, app::Progress& progress);
 
   const RgbImage& Image() const { return image_; }

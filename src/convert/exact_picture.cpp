@@ -4,6 +4,7 @@
 #include <bit>
 #include <cstdlib>
 #include <map>
+#include <set>
 
 namespace kelvo::convert {
 namespace {
@@ -65,11 +66,12 @@ int ChannelsApart(std::uint32_t a, std::uint32_t b) {
 using Numbers = std::map<std::uint32_t, std::uint8_t>;
 
 // The colour numbers of all of `colours`; empty where one is not in the palette, or two are the same.
-std::optional<Numbers> NumbersIn(const model::SurfaceColours& palette, const Numbers& colours, int& off) {
+std::optional<Numbers> NumbersIn(const model::SurfaceColours& palette, const std::set<std::uint32_t>& colours,
+                                 int& off) {
   Numbers numbers;
   ColourSet taken = 0;
   off = 0;
-  for (const auto& [colour, unknown] : colours) {
+  for (const std::uint32_t colour : colours) {
     const auto apart = [&](std::uint32_t entry) { return ChannelsApart(colour, entry); };
     const auto nearest = std::ranges::min_element(palette, {}, apart);
     const auto number = static_cast<int>(nearest - palette.begin());
@@ -83,9 +85,9 @@ std::optional<Numbers> NumbersIn(const model::SurfaceColours& palette, const Num
 
 // By the palette that is nearest; of equals the first.
 std::optional<Numbers> NumbersOf(const FramedPixels& framed, std::span<const model::SurfaceColours> palettes) {
-  Numbers colours;
+  std::set<std::uint32_t> colours;
   for (const std::uint32_t pixel : framed.pixels) {
-    colours[pixel] = 0;
+    colours.insert(pixel);
     if (colours.size() > kColours || (pixel & kOpaque) != kOpaque) return std::nullopt;
   }
   std::optional<Numbers> best;

@@ -12,8 +12,8 @@ void InParallel(int count, const std::function<void(int)>& work) {
   const auto run = [&] {
     for (int index = next++; index < count; index = next++) work(index);
   };
-  std::vector<std::jthread> others(
-      static_cast<std::size_t>(std::clamp(static_cast<int>(std::thread::hardware_concurrency()), 1, count) - 1));
+  const int threads = std::min(static_cast<int>(std::thread::hardware_concurrency()), count);
+  std::vector<std::jthread> others(static_cast<std::size_t>(std::max(threads - 1, 0)));
   for (std::jthread& other : others) other = std::jthread(run);
   run();
 }

@@ -29,7 +29,7 @@ struct Preparation {
   static constexpr int kMost = 100;  // of the three of colour, either way
 
   Fit fit = Fit::kCover;
-  std::optional<Area> crop;                          // else the whole image
+  std::optional<Area> crop{};                        // else the whole image
   int brightness = 0, contrast = 0, saturation = 0;  // -kMost..kMost; 0 leaves the image alone
   double gamma = 1;                                  // 0.2..5; above 1 is lighter
   std::uint32_t backdrop = 0xFF000000;               // 0xFFRRGGBB, behind transparent parts and beside the image

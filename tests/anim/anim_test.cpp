@@ -2,8 +2,6 @@
 #include <gtest/gtest.h>
 
 #include <array>
-#include <random>
-#include <tuple>
 
 #include "anim/anim_mode.h"
 #include "anim/frame_navigation.h"
@@ -75,49 +73,43 @@ TEST_F(AnimModeTest, AsksInOrderUntilTheFirstFrameIsThere) {
 
 TEST_F(AnimModeTest, LooksAtTheFolderOnlyAfterTheFirstFrame) {
   messages.yes = true;
-  SetProperties(Text("gone/"), "anim");
-  const Lines told = Toggle();
-  ASSERT_EQ(told.size(), 3U);  // between the two: that the picture was not saved
-  EXPECT_EQ(told.front(), question);
-  EXPECT_EQ(told.back(), "Animation folder can not be found");
-
-  SetProperties(Text("gone"), "anim");
-  EXPECT_EQ(Toggle(), (Lines{question, "Animation folder can not be found"}));
-  EXPECT_TRUE(fs::exists(folder / "goneanim0001.kvp"));
-
   fs::create_directory(folder / "x0001.kvp");  // in the place of the first frame, which cannot be saved then
-  SetProperties(Text(""), "x");
-  EXPECT_EQ(Toggle().size(), 2U);
-  EXPECT_FALSE(shows.check_mark);
+  const std::string no_folder = "Animation folder can not be found", not_saved = Text("x0001.kvp");
+  // What is told last, and how much in all: the question, that the picture was not saved, that there is no folder.
+  for (const auto& [place, prefix, last, count] :
+       {std::tuple{"gone/", "anim", no_folder, 3U}, {"gone", "anim", no_folder, 2U}, {"", "x", not_saved, 2U}}) {
+    SetProperties(Text(place), prefix);
+    const Lines told = Toggle();
+    EXPECT_EQ(told.size(), count);
+    EXPECT_NE(told.back().find(last), std::string::npos) << told.back();
+    EXPECT_FALSE(shows.check_mark);
+  }
+  EXPECT_TRUE(fs::exists(folder / "goneanim0001.kvp"));
 }
 
 TEST_F(AnimModeTest, TheCommandSetsTheFlagAloneOrSwitchesTheModeWithIt) {
-  const command::AnimationSwitch animation{[this] {
-                                             mode.ToggleAnimMode();
-                                             return mode.IsAnimModeChecked();
-                                           },
-                                           [this](bool on) { mode.SetAnimFlag(on); }};
-  const auto reply = [&](const char* line) {
-    command::ProcessCommand(line, surroundings, animation);
-    return prompt.lines.back();
+  const auto toggle = [this] {
+    mode.ToggleAnimMode();
+    return mode.IsAnimModeChecked();
   };
-  EXPECT_EQ(reply("ANIM "), "ANIM OFF");  // there is no folder yet
+  const command::AnimationSwitch animation{toggle, [this](bool on) { mode.SetAnimFlag(on); }};
   SetProperties(Text(""), "anim");
-  messages.yes = true;
-  EXPECT_EQ(reply("ANIM ON"), "ANIM ON");
-  EXPECT_EQ(shows.status, "ANIM=ON");
-  EXPECT_FALSE(shows.check_mark || shows.window);
-  EXPECT_EQ(reply("ANIM"), "ANIM ON");
-  EXPECT_TRUE(shows.check_mark && shows.window);
-
+  for (const auto& [line, reply, flag, is_on] :
+       {std::tuple{"ANIM ", "ANIM OFF", "ANIM=OFF", false},  // the answer is no
+        {"ANIM ON", "ANIM ON", "ANIM=ON", false},
+        {"ANIM", "ANIM ON", "ANIM=ON", true},
+        {"ANIM off", "ANIM off", "ANIM=OFF", true},
+        {"ANIM", "ANIM OFF", "ANIM=OFF", false},
+        {"ANIM", "ANIM ON", "ANIM=ON", true}}) {
+    command::ProcessCommand(line, surroundings, animation);
+    EXPECT_EQ(prompt.lines.back(), reply);
+    EXPECT_EQ(shows.status, flag);
+    EXPECT_EQ(std::pair(shows.check_mark, shows.window), std::pair(is_on, is_on)) << line;
+    messages.yes = true;
+  }
   mode.FrameWindowUnloaded();
   EXPECT_EQ(shows.status, "ANIM=OFF");
   EXPECT_FALSE(shows.check_mark);
-  EXPECT_EQ(reply("ANIM"), "ANIM ON");
-  EXPECT_EQ(reply("ANIM off"), "ANIM off");
-  EXPECT_EQ(shows.status, "ANIM=OFF");
-  EXPECT_TRUE(shows.check_mark);
-  EXPECT_EQ(reply("ANIM"), "ANIM OFF");
 }
 
 // A frame's file; its seed stands in every byte of its bitmap.
@@ -144,6 +136,7 @@ class FramesTest : public testing::Test, protected support::Program {
     return button == "Next" ? frames.Next() : button == "Back" ? frames.Back() : frames.GoTo(button);
   }
   int Seed() const { return document.picture.Bitmap[1]; }
+  void Draw(std::uint8_t seed) { document.picture.Bitmap[1] = seed; }
   static int SeedIn(const fs::path& file) { return support::ReadFile(file).at(2050); }
 
   FrameNavigation frames{surroundings};

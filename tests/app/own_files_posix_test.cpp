@@ -8,9 +8,6 @@
 #include <array>
 
 #include "app/durable_file.h"
-#include "app/path_text.h"
-#include "app/program_folders.h"
-#include "app/settings_store.h"
 #include "app/whole_file.h"
 #include "files/recovery_copy.h"
 #include "support/program.h"

@@ -5,9 +5,6 @@
 #include <array>
 
 #include "app/durable_file.h"
-#include "app/path_text.h"
-#include "app/program_folders.h"
-#include "app/settings_store.h"
 #include "app/whole_file.h"
 #include "files/recovery_copy.h"
 #include "support/program.h"
@@ -71,17 +68,6 @@ TEST(ProgramFolders, LieBesideTheProgramOnlyWhereThatCanBeWritten) {
     EXPECT_EQ(ChooseProgramFolder(portable.Path(), "user"), "user") << kept;
     EXPECT_EQ(ProgramFolders(portable.Path()).FindReadOnly(), portable / kept);
   }
-}
-
-TEST(Settings, NonsenseReadsAsTheDefault) {
-  constexpr Setting kNumber{"Settings", "Number", "9"};
-  support::MapSettings settings;
-  for (const char* nonsense : {"16", "-1", "", "red", "5x", "99999999999999999999"}) {
-    settings.Write(kNumber, nonsense);
-    EXPECT_EQ(ReadNumber(settings, kNumber, 0, 15), 9) << nonsense;
-  }
-  settings.Write(kNumber, "15");
-  EXPECT_EQ(ReadNumber(settings, kNumber, 0, 15), 15);
 }
 
 TEST(WholeFile, RefusesWhatIsNoOrdinaryFile) {

@@ -2,10 +2,8 @@
 // not.
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <set>
 
-#include "c64out/output_settings.h"
 #include "c64out/text_lines.h"
 #include "support/picture_program.h"
 #include "support/pictures.h"
@@ -75,9 +73,6 @@ TEST_F(ChangedTemplates, AndToolsThatLieEndTheBuildWithOneLineThatSaysWhy) {
        "code of up to 6000 bytes"},
       {"an opcode that stops it", {.templates = Change("bmpshow.src", code, ".byte $02\n")}, "is not documented"},
       {"an error", {.templates = Change("bmpshow.src", code, "jmp nowhere\n")}, "--> bmpshow.src, line "},
-      {"an error in the depacker",
-       {.templates = Change("decrush.tas", "jmp viewer + 2\n", "jmp viewr\n")},
-       "--> decrush.tas, line "},
       {"half an object", {.tools = CutOff("bmpshow.obj", 0.5)}, "code of up to 6000 bytes"},
       {"half a packed file", {.tools = CutOff("bmpshow.pak", 0.5)}, "--> crush: "},
       {"a little less of one", {.tools = CutOff("bmpshow.pak", 0.999)}, "--> crush: "},
@@ -113,9 +108,9 @@ TEST_F(ChangedTemplates, ThatShowSomethingElseAreToldAndKept) {
 }
 
 TEST_F(ChangedTemplates, AreNotTriedWhenTheUserSaysSo) {
+  const auto unchecked = [](app::SettingsStore& settings) { settings.Write(c64out::kCheckPrograms, "0"); };
   const BuiltProgram built =
-      Build({.templates = Change("bmpshow.src", "jmp *\n", ".byte $02\n"),
-             .settings = [](app::SettingsStore& settings) { settings.Write(c64out::kCheckPrograms, "0"); }});
+      Build({.templates = Change("bmpshow.src", "jmp *\n", ".byte $02\n"), .settings = unchecked});
   EXPECT_FALSE(built.program.empty());
 }
 
@@ -156,9 +151,7 @@ TEST_F(ChangedTemplates, LetAKeyEndThePictureWithBasicAsItWas) {
     machine.Write(0xDC01, static_cast<std::uint8_t>(key));
     EXPECT_EQ(machine.RunOn(4'000'000), c64::Machine::Ending::kReturns);
     const c64::Screen after = c64::ScreenOf(machine);
-    EXPECT_EQ(after.mode, before.mode);
-    EXPECT_EQ(after.border, before.border);
-    EXPECT_EQ(after.pixels, before.pixels);
+    EXPECT_EQ(std::tie(after.mode, after.border, after.pixels), std::tie(before.mode, before.border, before.pixels));
     const c64::Machine fresh;
     for (int address = 0xD800; address < 0xDBE8; ++address) {
       ASSERT_EQ(machine.Io(address) & 0x0F, fresh.Io(address) & 0x0F) << address;

@@ -8,7 +8,6 @@
 #include "support/mazes.h"
 #include "support/pictures.h"
 #include "support/platform.h"
-#include "support/run_tool.h"
 #include "support/shown_picture.h"
 
 namespace kelvo::support {
@@ -61,12 +60,10 @@ TEST_F(PictureProgram, ShowsItWhateverARunningProgramLeaves) {
 }
 
 TEST_F(PictureProgram, TakesNoHarmFromTheRestoreKeyOrTheNameOfItsFolder) {
-  const std::vector<const char*> everywhere{"it's $HOME; [100%] & #1 \u00fc", "[screencolor] [bitmap]",
-                                            "\u4f60\u597d \u041f\u0440\u0438 \u0142 %PATH% ^x^ (1) =,"};
-  const std::vector<const char*> posix{"<CC> <\u00fc> \"quoted\" \\ \"", "\r .end\n"};
+  std::vector<const char*> names{"it's $HOME; [100%] & #1 \u00fc", "[screencolor] [bitmap]",
+                                 "\u4f60\u597d \u041f\u0440\u0438 \u0142 %PATH% ^x^ (1) =,"};
+  if (!kIsWindows) names.insert(names.end(), {"<CC> <\u00fc> \"quoted\" \\ \"", "\r .end\n"});
   const model::PictureImage picture = BlotchyPicture(5);
-  std::vector<const char*> names = everywhere;
-  if (!support::kIsWindows) names.insert(names.end(), posix.begin(), posix.end());
   for (const char* name : names) {
     SCOPED_TRACE(name);
     const std::filesystem::path place = folder_ / app::PathFromText(name);
@@ -92,10 +89,7 @@ TEST_F(PictureProgram, IsShownInAnImageByTheProgramForDevelopers) {
   }
   EXPECT_EQ(show({"-c", "1000", program}), 1);
   EXPECT_EQ(show({(folder_ / "gone").string()}), 1);
-  for (const auto& wrong :
-       std::vector<std::vector<std::string>>{{}, {"-s"}, {"-x", program}, {program, image, image}}) {
-    EXPECT_EQ(show(wrong), 2);
-  }
+  for (const Lines& wrong : {Lines{}, {"-s"}, {"-x", program}, {program, image, image}}) EXPECT_EQ(show(wrong), 2);
 }
 
 using Code = std::vector<std::uint8_t>;

@@ -1,7 +1,6 @@
 // What goes over the whole picture: fills against a slow, literal one, and the passes.
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <set>
 
 #include "editing/cell_slots.h"
@@ -34,13 +33,10 @@ class LiteralFill {
     target_ = model::GetPixelData(before_, x, y).colour;
     queue_.push_back({});
     Write(x, y);
-    Visit(x + 1, y, 'H');
-    Visit(x - 1, y, 'V');
-    Visit(x, y - 1, 'U');
-    Visit(x, y + 1, 'N');
+    for (const Entry& first : {Entry{x + 1, y, 'H'}, {x - 1, y, 'V'}, {x, y - 1, 'U'}, {x, y + 1, 'N'}}) Visit(first);
     while (head_ + 1 < queue_.size()) {
       const Entry entry = queue_[++head_];
-      Visit(entry.x, entry.y, entry.letter);
+      Visit(entry);
     }
   }
 
@@ -67,22 +63,23 @@ class LiteralFill {
     if (known_.insert({x, y}).second) written.push_back({x, y});
   }
 
-  void Visit(int x, int y, char letter) {
-    if (!IsTarget(x, y)) return;
-    Write(x, y);
-    if (letter != 'V') Store(x + 1, y, 'H');
-    if (letter != 'H') Store(x - 1, y, 'V');
-    if (letter != 'N') Store(x, y - 1, 'U');
-    if (letter != 'U') Store(x, y + 1, 'N');
+  void Visit(const Entry& at) {
+    if (!IsTarget(at.x, at.y)) return;
+    Write(at.x, at.y);
+    if (at.letter != 'V') Store({at.x + 1, at.y, 'H'});
+    if (at.letter != 'H') Store({at.x - 1, at.y, 'V'});
+    if (at.letter != 'N') Store({at.x, at.y - 1, 'U'});
+    if (at.letter != 'U') Store({at.x, at.y + 1, 'N'});
   }
 
-  void Store(int x, int y, char letter) {
-    if (!IsTarget(x, y)) return;
+  void Store(const Entry& next) {
+    if (!IsTarget(next.x, next.y)) return;
     const std::size_t count = queue_.size() - 1, first = count > 1000 ? count - 1000 : 0;
     const Entry* begin = queue_.data();
-    if (std::any_of(begin + first, begin + count + 1, [=](const Entry& e) { return e.x == x && e.y == y; })) return;
+    const auto is_next = [&](const Entry& other) { return other.x == next.x && other.y == next.y; };
+    if (std::any_of(begin + first, begin + count + 1, is_next)) return;
     if (count == 128000) throw FillQueueFull("");
-    queue_.push_back({x, y, letter});
+    queue_.push_back(next);
   }
 
   PictureImage& picture_;

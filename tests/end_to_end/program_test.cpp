@@ -8,8 +8,6 @@
 #include <chrono>
 #include <csignal>
 #include <cstdlib>
-#include <map>
-#include <optional>
 #include <thread>
 
 #include "support/pictures.h"
@@ -66,16 +64,15 @@ class ProgramTest : public testing::Test {
 
 // On an empty picture it is the same wherever a hand begins; the zoom window lies at the frame's upper left.
 TEST_F(ProgramTest, HandsPaintUndoAndSave) {
-  const auto drag = [](int x, int y) {
-    Hands("mousemove " + std::to_string(x) + " " + std::to_string(y) +
-          " mousedown 1 sleep 0.05 mousemove_relative 80 0 " + "sleep 0.05 mouseup 1 sleep 0.1");
+  const auto drag = [](const std::string& from) {
+    Hands("mousemove " + from + " mousedown 1 sleep 0.05 mousemove_relative 80 0 sleep 0.05 mouseup 1 sleep 0.1");
   };
   Hands("search --onlyvisible --name '^Kelvo v' windowmove --sync 0 0 sleep 0.3");
   Hands("key 6 sleep 0.1");
-  drag(200, 250);
+  drag("200 250");
   Hands("key f key 3 sleep 0.1 mousemove 240 350 click 1 sleep 0.3");
   Hands("key d key 5 sleep 0.1");
-  drag(200, 300);
+  drag("200 300");
   Hands("key ctrl+z sleep 0.2 key ctrl+s sleep 0.5");
   const auto saved = files::Decode(files::FormatOf(files::kOwnType), support::ReadFile(file), {});
   constexpr int kPixels = 32000 - 4;  // the last byte of a file is never read

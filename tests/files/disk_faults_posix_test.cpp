@@ -8,7 +8,6 @@
 
 #include <array>
 #include <csignal>
-#include <random>
 #include <set>
 #include <thread>
 
@@ -57,8 +56,7 @@ class DiskFaults : public testing::Test, protected support::Program {
            document.file.CurrentFilePath == app::TextFromPath(file);
   }
   // Runs `work` in a program of its own, until it is killed or done.
-  template <typename Work>
-  static pid_t Start(Work&& work) {
+  static pid_t Start(const std::function<void()>& work) {
     const pid_t child = fork();
     if (child != 0) return child;
     work();
@@ -102,10 +100,9 @@ TEST_F(DiskFaults, ASaveKilledAtAnyMomentLosesNoStateAndLeavesNoLitter) {
 
 TEST_F(DiskFaults, AFullDiskKeepsTheOldFile) {
   EXPECT_TRUE(SavePainted(1));
-  {
-    const support::FullDisk disk(5000);
-    EXPECT_TRUE(IsRefusedPlainly(2, "File too large"));
-  }
+  std::optional<support::FullDisk> disk(5000);
+  EXPECT_TRUE(IsRefusedPlainly(2, "File too large"));
+  disk.reset();
   EXPECT_EQ(PaintedIn(file), 1);
   EXPECT_EQ(support::NamesIn(art).size(), 1U);  // no temporary file
   EXPECT_TRUE(files.Save());

@@ -14,18 +14,14 @@ using support::Colour;
 using support::kAllSlots;
 
 TEST(CellUse, CountsWhatANewColourMayTake) {
-  struct Case {
-    std::array<std::uint8_t, 8> lines;
-    int c11, c10, c01, free;
-  };
-  for (const Case& c : {Case{{}, 1, 2, 3, 3},
-                        {{0xFF}, 1, 2, 3, 2},
-                        {{0, 0, 0, 0, 0, 0, 0, 0x06}, 1, 2, 3, 1},
-                        {kAllSlots, 1, 2, 3, 0},
-                        {kAllSlots, 1, 6, 3, 1},
-                        {kAllSlots, 6, 6, 6, 3},
-                        {kAllSlots, 1, 1, 1, 0}}) {
-    EXPECT_EQ(FreeOwnColours(support::PictureWithCell(42, c.lines, c.c11, c.c10, c.c01, 6), 42), c.free);
+  using Lines = std::array<std::uint8_t, 8>;
+  for (const auto& [lines, c11, c10, c01, free] : {std::tuple{Lines{}, 1, 2, 3, 3},
+                                                   {Lines{0xFF}, 1, 2, 3, 2},
+                                                   {Lines{0, 0, 0, 0, 0, 0, 0, 0x06}, 1, 2, 3, 1},
+                                                   {kAllSlots, 1, 6, 3, 1},
+                                                   {kAllSlots, 6, 6, 6, 3},
+                                                   {kAllSlots, 1, 1, 1, 0}}) {
+    EXPECT_EQ(FreeOwnColours(support::PictureWithCell(42, lines, c11, c10, c01, 6), 42), free);
   }
 }
 

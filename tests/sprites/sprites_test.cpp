@@ -1,14 +1,11 @@
-// Sprites: what is captured, and the text that is made of it.
+// Sprites: what is captured, and the text that is made of it. Which sources are taken, and that each pixel has its
+// pair, is what the fuzz target looks at.
 #include <gtest/gtest.h>
 
 #include <tuple>
 
-#include "app/path_text.h"
-#include "sprites/sprite_source.h"
 #include "sprites/sprite_text.h"
-#include "support/files.h"
 #include "support/pictures.h"
-#include "support/run_tool.h"
 
 namespace kelvo::sprites {
 namespace {
@@ -69,33 +66,6 @@ TEST(SpriteText, HasItsLinesAndItsOwnOrderOfPairs) {
   EXPECT_TRUE(hexadecimal.starts_with(".byte $48,$00,$00,$00,$00,$00,$00,$00\r\n"));
   EXPECT_TRUE(hexadecimal.ends_with(",$00\r\n"));
   EXPECT_EQ(std::count(hexadecimal.begin(), hexadecimal.end(), '\n'), 8);
-}
-
-// The pairs themselves are what the fuzz target looks at, in the binary text.
-TEST(SpriteText, AssemblesToTheSameBytesInBothNotations) {
-  if (!support::IsInstalled("64tass")) GTEST_SKIP() << "this needs 64tass";
-  const support::TempFolder folder;
-  const auto sprites = Capture(support::RandomPicture(9), CaptureAt({70, 70}, CaptureSize::k2x2, Alignment::kFree));
-  std::vector<app::Bytes> assembled;
-  for (const Notation notation : {Notation::kBinary, Notation::kHexadecimal}) {
-    const std::string source = (folder / "sprite.asm").string(), bytes = (folder / "sprite.bin").string();
-    support::WriteText(source, SpriteText(sprites, {Colour(5), Colour(9), Colour(12)}, notation));
-    EXPECT_EQ(support::RunTool("64tass", {"-b", "-o", bytes, source}).exit_code, 0);
-    assembled.push_back(support::ReadFile(bytes));
-  }
-  EXPECT_EQ(assembled[0].size(), sprites.size() * 64);
-  EXPECT_EQ(assembled[0], assembled[1]);
-}
-
-TEST(SpriteSource, TakesTwoSizes) {
-  const support::TempFolder folder;
-  const auto load = [&](std::size_t size) {
-    support::WriteFile(folder / "source", support::CountingBytes(size));
-    return LoadSpriteSource(app::TextFromPath(folder / "source"));
-  };
-  EXPECT_EQ(load(10050), load(10241));
-  for (const std::size_t size : {0UL, 10003UL, 10049UL, 10242UL}) EXPECT_THROW(load(size), std::runtime_error) << size;
-  EXPECT_THROW(LoadSpriteSource("/gone"), std::runtime_error);
 }
 
 }  // namespace

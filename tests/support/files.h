@@ -50,6 +50,12 @@ inline std::string ReadText(const std::filesystem::path& path) {
   return {bytes.begin(), bytes.end()};
 }
 
+// A Koala picture of counting bytes. Gives its path as the program's texts have it.
+inline std::string WriteKoala(const std::filesystem::path& path) {
+  WriteFile(path, CountingBytes(10003));
+  return app::TextFromPath(path);
+}
+
 class TempFolder {
  public:
   TempFolder()

@@ -53,8 +53,7 @@ TEST_F(AnimationTest, FramesAreMadeVisitedSavedWhenLeftAndPlayed) {
   }
   EXPECT_EQ(Find<QLabel>("lblCount")->text(), "of 3 frames");
   Background(4);
-  const std::pair<const char*, const char*> presses[] = {{"cmdStd_3", "1"}, {"cmdStd_2", "3"}, {"cmdStd_0", "2"}};
-  for (const auto& [button, number] : presses) {
+  for (const auto& [button, number] : {std::pair{"cmdStd_3", "1"}, {"cmdStd_2", "3"}, {"cmdStd_0", "2"}}) {
     Press(button);
     EXPECT_EQ(Number(), number) << button;
   }
@@ -63,18 +62,14 @@ TEST_F(AnimationTest, FramesAreMadeVisitedSavedWhenLeftAndPlayed) {
   const QImage look = Box("frmBMPView")->grab().toImage();
   Find<QSpinBox>("spnRate")->setValue(25);
   Press("cmdPlay");
-  QSet<QRgb> seen;
-  EXPECT_TRUE(QTest::qWaitFor([&] {
-    seen.insert(Box("frmBMPView")->grab().toImage().pixel(100, 180));
-    return seen.size() == 2;
-  }));
+  const auto shows_two = [](QWidget* view, QPoint at) {
+    QSet<QRgb> seen;
+    return QTest::qWaitFor([&] { return (seen << view->grab().toImage().pixel(at)).size() == 2; });
+  };
+  EXPECT_TRUE(shows_two(Box("frmBMPView"), {100, 180}));
   Press("cmdPlayWindow");
   Find("frmPlayer")->resize(700, 300);
-  seen.clear();
-  EXPECT_TRUE(QTest::qWaitFor([&] {
-    seen.insert(Find("frmPlayer")->grab().toImage().pixel(350, 290));
-    return seen.size() == 2;
-  }));
+  EXPECT_TRUE(shows_two(Find("frmPlayer"), {350, 290}));
   EXPECT_EQ(Find("frmPlayer")->grab().toImage().pixelColor(90, 150), QColor(Qt::black));  // beside the picture
   QTest::keyClick(Find("frmPlayer"), Qt::Key_Escape);
   EXPECT_EQ(Find<QAbstractButton>("cmdPlay")->text(), "&Stop");

@@ -40,8 +40,7 @@ class C64OutputTest : public MainFrameTest {
   }
   void Open(const std::string& name) {
     create_directories(art);
-    support::WriteFile(art / app::PathFromText(name), support::CountingBytes(10003));
-    ASSERT_TRUE(frame->Files().OpenPicture(app::TextFromPath(art) + "/" + name));
+    ASSERT_TRUE(frame->Files().OpenPicture(support::WriteKoala(art / app::PathFromText(name))));
   }
   void ExpectShows(const app::Bytes& prg) {
     c64::Machine machine;
@@ -130,10 +129,8 @@ TEST_F(C64OutputTest, AC64ShowsThePictureAndSavesIt) {
   codenet::ReceivingC64 c64 = server.Machine();
   EXPECT_EQ(c64.runs, 1);
   const auto memory = [&c64](int begin, int end) {
-    app::Bytes bytes(static_cast<std::size_t>(end - begin + 2));
-    bytes[0] = static_cast<std::uint8_t>(begin);
-    bytes[1] = static_cast<std::uint8_t>(begin >> 8);
-    std::copy(c64.memory.begin() + begin, c64.memory.begin() + end, bytes.begin() + 2);
+    app::Bytes bytes{static_cast<std::uint8_t>(begin), static_cast<std::uint8_t>(begin >> 8)};
+    bytes.insert(bytes.end(), c64.memory.begin() + begin, c64.memory.begin() + end);
     return bytes;
   };
   int end = 0x10000;
@@ -161,10 +158,8 @@ TEST_F(C64OutputTest, AHangingToolIsStoppedByEscapeOrTheEnd) {
     Menu("mnuFile")->popup({});
     QTest::keyClick(Menu("mnuFile"), Qt::Key_Escape);  // closes the menu and no more
     QTest::keyRelease(Box("frmZoom"), Qt::Key_Escape);
-    EXPECT_TRUE(frame->Builds().IsBuilding());
-    EXPECT_TRUE(Find("pnlBuilding")->isVisible());
-    EXPECT_FALSE(Action("mnuCreatePRGCompopic")->isEnabled());
-    EXPECT_FALSE(Action("mnuShowPreviewOnC64")->isEnabled());
+    EXPECT_TRUE(frame->Builds().IsBuilding() && Find("pnlBuilding")->isVisible());
+    EXPECT_FALSE(Action("mnuCreatePRGCompopic")->isEnabled() || Action("mnuShowPreviewOnC64")->isEnabled());
     Action("mnuCreateD64CompoPic")->trigger();  // an impatient click
     QTest::keyClick(Box("frmZoom"), Qt::Key_Escape);
   });

@@ -53,33 +53,28 @@ TEST_F(ExportTest, WritesEveryFormatOfTheDialogAndSaysWhatItLacks) {
 
 // Each pixel of the image is the colour number of the picture's, at each size and scale, in each palette.
 TEST_F(ExportTest, PngImagesHoldThePictureBitForBit) {
-  struct Size {
-    images::ImageSize size;
-    QSize pixels;
-    QPoint at;
-    int wide;
-  };
-  for (const Size& size : {Size{images::ImageSize::kPixels, {160, 200}, {0, 0}, 1},
-                           {images::ImageSize::kScreen, {320, 200}, {0, 0}, 2},
-                           {images::ImageSize::kBorder, {384, 272}, {32, 35}, 2}}) {
+  using images::ImageSize;
+  // A size in pixels, where the picture stands in it, and how wide its pixels are.
+  for (const auto& [size, pixels, corner, wide] : {std::tuple{ImageSize::kPixels, QSize(160, 200), QPoint(0, 0), 1},
+                                                   {ImageSize::kScreen, {320, 200}, {0, 0}, 2},
+                                                   {ImageSize::kBorder, {384, 272}, {32, 35}, 2}}) {
     for (const int scale : {1, 3}) {
       for (const model::NamedPalette& palette : model::kNamedPalettes) {
         const files::Palette shown{std::string(palette.name), palette.colours};
-        const app::Bytes png = images::PngOf(images::ImageOf(Picture(), shown, size.size, scale));
+        const app::Bytes png = images::PngOf(images::ImageOf(Picture(), shown, size, scale));
         const QImage read = QImage::fromData(png.data(), static_cast<int>(png.size()), "png");
-        ASSERT_EQ(read.size(), size.pixels * scale);
+        ASSERT_EQ(read.size(), pixels * scale);
         ASSERT_EQ(read.format(), QImage::Format_Indexed8);
         EXPECT_FALSE(read.hasAlphaChannel());
         EXPECT_EQ(read.colorCount(), 16);
         EXPECT_EQ(read.text(images::kPaletteKey), ToQt(palette.name));
         const auto colour = [&palette](int number) { return palette.colours.at(static_cast<std::size_t>(number)); };
-        if (size.at.x() > 0) {
-          EXPECT_EQ(read.pixel(0, 0), colour(Picture().BackgroundColour.Number()));
-        }
+        const int outside = corner.isNull() ? support::ColourAt(Picture(), 1, 1) : Picture().BackgroundColour.Number();
+        EXPECT_EQ(read.pixel(0, 0), colour(outside));
         for (int y = 0; y < 200 * scale; ++y) {
-          for (int x = 0; x < 160 * size.wide * scale; ++x) {
-            const int expected = support::ColourAt(Picture(), x / scale / size.wide + 1, y / scale + 1);
-            ASSERT_EQ(read.pixel(size.at * scale + QPoint(x, y)), colour(expected)) << x << ' ' << y;
+          for (int x = 0; x < 160 * wide * scale; ++x) {
+            const int expected = support::ColourAt(Picture(), x / scale / wide + 1, y / scale + 1);
+            ASSERT_EQ(read.pixel(corner * scale + QPoint(x, y)), colour(expected)) << x << ' ' << y;
           }
         }
       }

@@ -1,5 +1,4 @@
 // The session's steps in the real main window: what makes one, walking through them, and what outlives a crash.
-#include <QListView>
 
 #include "main_frame_fixture.h"
 #include "model/named_palettes.h"
@@ -42,6 +41,10 @@ TEST_F(HistoryWindowTest, EveryActionIsAStepAndCanBeGoneTo) {
   const std::string koala = WriteKoala("p.koa");
   std::vector<PictureImage> shown{Picture()};
   const auto done = [&] { shown.push_back(Picture()); };
+  const auto choose = [&](const char* entry) {
+    Action(entry)->trigger();
+    done();
+  };
   Paint(Qt::Key_6, 3, 3);
   done();
   Action("tool_line")->trigger();
@@ -55,17 +58,11 @@ TEST_F(HistoryWindowTest, EveryActionIsAStepAndCanBeGoneTo) {
   Action("tool_fill")->trigger();
   Click(1, 40);
   done();
-  Action("mnuUndo")->trigger();
-  done();
+  choose("mnuUndo");
   Action("mnuOptimizeBackgroundColor")->trigger();  // nothing to optimise: no step
   frame->Files().OpenPicture(koala);
   done();
-  Action("mnuOptimizeBackgroundColor")->trigger();
-  done();
-  Action("mnuReload")->trigger();
-  done();
-  Action("mnuNew")->trigger();
-  done();
+  for (const char* entry : {"mnuOptimizeBackgroundColor", "mnuReload", "mnuNew"}) choose(entry);
   const QStringList captions{"0  Start\n[unnamed]",
                              "1  Draw\n[unnamed]",
                              "2  Background color\n[unnamed]",
@@ -133,57 +130,51 @@ TEST_F(HistoryWindowTest, CtrlZStepsBackWhereThePreferenceSaysSo) {
 }
 
 TEST_F(HistoryWindowTest, StepsOutliveACrash) {
+  const auto crash_and_recover = [this] {
+    frame->EndSuddenly();
+    frame.reset();
+    Start();
+    AnswerNext(QMessageBox::Yes);
+    ASSERT_TRUE(frame->OfferRecovery());
+  };
   frame->Files().OpenPicture(WriteKoala("p.koa"));
   Paint(Qt::Key_6, 3, 3);
   const PictureImage before = Picture();
   Paint(Qt::Key_7, 4, 3);
-  Paint(Qt::Key_8, 5, 3);
   const PictureImage last = Picture();
-  frame->EndSuddenly();
-  frame.reset();
-
-  Start();
-  AnswerNext(QMessageBox::Yes);
-  ASSERT_TRUE(frame->OfferRecovery());
-  EXPECT_EQ(Steps().PictureAt(4), last);
-  EXPECT_EQ(support::ColourAt(Picture(), 5, 3), 7);
-  EXPECT_EQ(Rows().last(), "5  Recover p.koa\np.koa");
-  EXPECT_EQ(Rows().size(), 6);
+  crash_and_recover();
+  EXPECT_EQ(Steps().PictureAt(3), last);
+  EXPECT_EQ(support::ColourAt(Picture(), 4, 3), 6);
+  EXPECT_EQ(Rows().last(), "4  Recover p.koa\np.koa");
+  EXPECT_EQ(Rows().size(), 5);
   Paint(Qt::Key_2, 6, 3);
   ClickRow(2);
   EXPECT_EQ(Picture(), before);
   EXPECT_TRUE(frame->Document().HasUnsavedWork());
-  frame->EndSuddenly();
-  frame.reset();  // and one more crash
-
-  Start();
-  AnswerNext(QMessageBox::Yes);
-  ASSERT_TRUE(frame->OfferRecovery());
-  EXPECT_EQ(Rows().size(), 8);
+  crash_and_recover();
+  EXPECT_EQ(Rows().size(), 7);
   frame->Files().SaveTo(folder / "a.kvp");
   frame->close();
   for (const std::string& name : support::NamesIn(folders.Backup())) EXPECT_FALSE(name.ends_with(".steps")) << name;
 }
 
 TEST_F(HistoryWindowTest, PalettesChangeWhatIsShownAndAreKept) {
-  const auto shown = [this] { return Box("frmBMPView")->grab().toImage().pixelColor(300, 100).rgb(); };
-  frame->SetBackgroundColour(5);
+  const auto shown = [this] {
+    frame->SetBackgroundColour(5);
+    return Box("frmBMPView")->grab().toImage().pixelColor(300, 100).rgb();
+  };
   const QRgb own = shown();
+  int entry = 0;
   for (const model::NamedPalette& palette : model::kNamedPalettes) {
-    const auto name = QString("mnuPalette_%1").arg(&palette - model::kNamedPalettes.data()).toStdString();
-    Action(name.c_str())->trigger();
+    Action(("mnuPalette_" + std::to_string(entry++)).c_str())->trigger();
     EXPECT_EQ(shown(), palette.colours[5]) << palette.name;
   }
   EXPECT_EQ(settings.values["Settings/Palette"], "Colodore");
-  support::WriteText(
-      folder / "mine.vpl", "# mine\n" + [] {
-        std::string lines;
-        for (int n = 0; n < 16; ++n) lines += "\n  0" + std::to_string(n % 10) + " 20 fF E\r\n";
-        return lines;
-      }());
+  std::string lines = "# mine\n";
+  for (int n = 0; n < 16; ++n) lines += "\n  0" + std::to_string(n % 10) + " 20 fF E\r\n";
+  support::WriteText(folder / "mine.vpl", lines);
   settings.values["Settings/Palette"] = app::TextFromPath(folder / "mine.vpl");
   Start();
-  frame->SetBackgroundColour(5);
   EXPECT_EQ(shown(), 0xFF0520FF);
   EXPECT_TRUE(Action("mnuPalette_3")->isChecked());
   support::WriteText(folder / "mine.vpl", "00 00 00\n01 02\n");
@@ -191,7 +182,6 @@ TEST_F(HistoryWindowTest, PalettesChangeWhatIsShownAndAreKept) {
   Start();
   EXPECT_TRUE(box_text.endsWith("this is no colour: 01 02")) << box_text.toStdString();
   Action("mnuPalette_0")->trigger();
-  frame->SetBackgroundColour(5);
   EXPECT_EQ(shown(), own);
 }
 

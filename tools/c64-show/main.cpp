@@ -1,14 +1,13 @@
 // c64-show: runs a program for the C64 and tells what it does and shows. `c64-show --help` tells how.
 #include <cstdio>
-#include <exception>
 #include <optional>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 
 #include "app/number_text.h"
 #include "app/text.h"
 #include "app/whole_file.h"
+#include "arguments/tool_main.h"
 #include "c64/kernal_disk.h"
 #include "c64/machine.h"
 #include "c64/screen.h"
@@ -30,14 +29,8 @@ constexpr std::string_view kHelp =
     "Exit code: 0 it has ended, 1 it did what no sound program does, or a file is wrong, 2 the command line is "
     "wrong.\n";
 
-enum ExitCode { kEnded, kFailed, kWrongUsage };
-
 constexpr std::size_t kMostOfAPrg = 0x10002;
 constexpr double kCyclesPerSecond = 985248;  // of a PAL C64
-
-struct UsageError : std::runtime_error {
-  using std::runtime_error::runtime_error;
-};
 
 struct Arguments {
   std::optional<std::uint16_t> start;
@@ -48,7 +41,7 @@ struct Arguments {
 template <typename Number>
 Number NumberFrom(const char* text, int base = 10) {
   const auto number = text == nullptr ? std::nullopt : app::WholeNumber<Number>(text, base);
-  if (!number) throw UsageError("a number is missing or wrong");
+  if (!number) throw WrongUsage("a number is missing or wrong");
   return *number;
 }
 
@@ -61,12 +54,12 @@ Arguments ArgumentsFrom(int argc, char** argv) {
     } else if (word == "-c") {
       arguments.most_cycles = static_cast<std::uint64_t>(NumberFrom<int>(argv[++i]));
     } else if (word.starts_with('-') || !arguments.image.empty()) {
-      throw UsageError("\"" + std::string(word) + "\" is not understood");
+      RefuseWord(word);
     } else {
       (arguments.program.empty() ? arguments.program : arguments.image) = word;
     }
   }
-  if (arguments.program.empty()) throw UsageError("there is no program to run");
+  if (arguments.program.empty()) throw WrongUsage("there is no program to run");
   return arguments;
 }
 
@@ -91,7 +84,7 @@ bool RunTo(const Arguments& arguments, Machine& machine) {
   }
 }
 
-ExitCode Show(const Arguments& arguments) {
+ToolExit Show(const Arguments& arguments) {
   const app::Bytes program = app::ReadWholeFile(arguments.program, kMostOfAPrg);
   Machine machine;
   KernalDisk disk(machine);
@@ -108,28 +101,13 @@ ExitCode Show(const Arguments& arguments) {
   Print("shows", screen.mode);
   Print("border", std::string(model::ColourName(model::C64Colour::FromByte(screen.border))));
   if (!arguments.image.empty()) WriteImage(screen, arguments.image);
-  return has_ended ? kEnded : kFailed;
-}
-
-ExitCode Main(int argc, char** argv) {
-  if (argc == 2 && std::string_view(argv[1]) == "--help") {
-    std::fputs(kHelp.data(), stdout);
-    return kEnded;
-  }
-  try {
-    return Show(ArgumentsFrom(argc, argv));
-  } catch (const UsageError& error) {
-    std::fprintf(stderr, "c64-show: %s\n%s", error.what(), kHelp.data());
-    return kWrongUsage;
-  } catch (const std::exception& error) {
-    std::fprintf(stderr, "c64-show: %s\n", error.what());
-    return kFailed;
-  }
+  return has_ended ? kToolDone : kToolFailed;
 }
 
 }  // namespace
 }  // namespace kelvo::c64
 
 int main(int argc, char** argv) {
-  return kelvo::c64::Main(argc, argv);
+  using namespace kelvo;
+  return ToolMain({"c64-show", c64::kHelp}, argc, argv, [=] { return c64::Show(c64::ArgumentsFrom(argc, argv)); });
 }

@@ -2,14 +2,13 @@
 #include <atomic>
 #include <csignal>
 #include <cstdio>
-#include <exception>
 #include <optional>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 
 #include "app/text.h"
 #include "app/whole_file.h"
+#include "arguments/tool_main.h"
 #include "codenet/arguments.h"
 #include "receiver.h"
 
@@ -27,18 +26,12 @@ constexpr std::string_view kReceiverHelp =
     "\n"
     "Exit code: 0 it has ended as it should, 1 it cannot listen or write, 2 the command line is wrong.\n";
 
-enum ExitCode { kDone, kFailed, kWrongUsage };
-
 std::atomic<bool> stop_wanted = false;
 static_assert(std::atomic<bool>::is_always_lock_free, "a signal handler may set it");
 
 extern "C" void WantStop(int) {
   stop_wanted = true;
 }
-
-struct UsageError : std::runtime_error {
-  using std::runtime_error::runtime_error;
-};
 
 struct Wishes {
   std::uint16_t port = Arguments().port;
@@ -49,7 +42,7 @@ struct Wishes {
 
 int NumberFrom(const char* text, int least, int most) {
   const auto number = text == nullptr ? std::nullopt : app::WholeNumber<int>(text);
-  if (!number || *number < least || *number > most) throw UsageError("a number is missing or wrong");
+  if (!number || *number < least || *number > most) throw WrongUsage("a number is missing or wrong");
   return *number;
 }
 
@@ -64,7 +57,7 @@ Wishes WishesFrom(int argc, char** argv) {
     } else if (word == "-1") {
       wishes.until_start = true;
     } else if (word.starts_with('-') || !wishes.memory_file.empty()) {
-      throw UsageError("\"" + std::string(word) + "\" is not understood");
+      RefuseWord(word);
     } else {
       wishes.memory_file = word;
     }
@@ -78,7 +71,7 @@ void Print(const std::string& line) {
   std::fflush(stdout);
 }
 
-void Receive(const Wishes& wishes) {
+ToolExit Receive(const Wishes& wishes) {
   Receiver receiver(wishes.network, wishes.port);
   Print("listening at 127.0.0.1 port " + std::to_string(receiver.Port()));
   ReceivingC64 c64;
@@ -89,30 +82,16 @@ void Receive(const Wishes& wishes) {
   };
   while (!stop_wanted && !(wishes.until_start && (c64.runs > 0 || !c64.jumps.empty()))) receiver.Serve(take);
   if (!wishes.memory_file.empty()) app::WriteWholeFile(wishes.memory_file, c64.memory);
-}
-
-ExitCode Main(int argc, char** argv) {
-  if (argc == 2 && std::string_view(argv[1]) == "--help") {
-    std::fputs(kReceiverHelp.data(), stdout);
-    return kDone;
-  }
-  try {
-    Receive(WishesFrom(argc, argv));
-    return kDone;
-  } catch (const UsageError& error) {
-    std::fprintf(stderr, "codenet-receiver: %s\n%s", error.what(), kReceiverHelp.data());
-    return kWrongUsage;
-  } catch (const std::exception& error) {
-    std::fprintf(stderr, "codenet-receiver: %s\n", error.what());
-    return kFailed;
-  }
+  return kToolDone;
 }
 
 }  // namespace
 }  // namespace kelvo::codenet
 
 int main(int argc, char** argv) {
-  std::signal(SIGINT, kelvo::codenet::WantStop);
-  std::signal(SIGTERM, kelvo::codenet::WantStop);
-  return kelvo::codenet::Main(argc, argv);
+  using namespace kelvo;
+  std::signal(SIGINT, codenet::WantStop);
+  std::signal(SIGTERM, codenet::WantStop);
+  return ToolMain({"codenet-receiver", codenet::kReceiverHelp}, argc, argv,
+                  [=] { return codenet::Receive(codenet::WishesFrom(argc, argv)); });
 }
