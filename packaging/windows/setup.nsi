@@ -41,6 +41,7 @@ UninstPage instfiles
   RMDir /r "$INSTDIR\imageformats"
   Delete "$INSTDIR\*.dll"
   Delete "$INSTDIR\kelvo.exe"
+  Delete "$INSTDIR\kelvo-cli.exe"
   Delete "$INSTDIR\LICENSE.txt"
 !macroend
 

@@ -42,7 +42,7 @@ void RequireEmulator(const BuildJob& job) {
 
 void Begin(const BuildJob& job) {
   if (job.Choice().ViaCodenet) return job.Print("CODENET");
-  RequireEmulator(job);
+  if (job.Choice().AsksForVice) RequireEmulator(job);
   job.Print(job.Choice().MakePrg ? "CREATING PRG" : "CREATING D64");
 }
 

@@ -8,6 +8,7 @@ struct CompoPicChoice {
   bool LaunchVice = false;  // only for the D64: start the emulator on it
   bool ViaCodenet = false;  // send the PRG to a real C64 instead of keeping it
   bool SaveOn15x1 = false;  // with ViaCodenet: let the C64 save the picture on its own drive
+  bool AsksForVice = true;  // the emulator must be there before anything is made; not with ViaCodenet
 };
 
 // The five that there are.

@@ -20,6 +20,16 @@ constexpr const char* kDiskTool = "c1541";
 constexpr char kBetweenFolders = ':';
 #endif
 
+template <typename Holds>
+std::string FirstFolder(std::string_view search_path, Holds&& holds) {
+  while (!search_path.empty()) {
+    const std::string_view folder = search_path.substr(0, search_path.find(kBetweenFolders));
+    if (!folder.empty() && holds(folder)) return std::string(folder);
+    search_path.remove_prefix(std::min(folder.size() + 1, search_path.size()));
+  }
+  return {};
+}
+
 }  // namespace
 
 std::optional<fs::path> FindEmulator(std::string_view folder) {
@@ -36,12 +46,14 @@ fs::path DiskTool(std::string_view folder) {
 }
 
 std::string EmulatorOnPath(std::string_view search_path) {
-  while (!search_path.empty()) {
-    const std::string_view folder = search_path.substr(0, search_path.find(kBetweenFolders));
-    if (!folder.empty() && FindEmulator(folder)) return std::string(folder);
-    search_path.remove_prefix(std::min(folder.size() + 1, search_path.size()));
-  }
-  return {};
+  return FirstFolder(search_path, [](std::string_view folder) { return FindEmulator(folder).has_value(); });
+}
+
+std::string DiskToolOnPath(std::string_view search_path) {
+  return FirstFolder(search_path, [](std::string_view folder) {
+    std::error_code ignored;
+    return fs::is_regular_file(DiskTool(folder), ignored);
+  });
 }
 
 ViceFolderState CheckViceFolder(std::string_view typed) {

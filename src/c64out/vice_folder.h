@@ -18,6 +18,9 @@ std::filesystem::path DiskTool(std::string_view folder);
 // The first folder of `search_path`, a text like the environment's PATH, that holds the emulator; else an empty text.
 std::string EmulatorOnPath(std::string_view search_path);
 
+// The same for the disk tool.
+std::string DiskToolOnPath(std::string_view search_path);
+
 enum class ViceFolderState { kEmpty, kExecutable, kIncorrect, kCorrect };
 
 // What `typed`, trimmed, is: nothing, the path of a program instead of a folder (a file, or any that ends in ".exe"),

@@ -18,6 +18,9 @@ class PackedError : public std::runtime_error {
 // The longest a packed file can be: no byte of the picture takes more than three.
 inline constexpr std::size_t kMostPackedBytes = 2 + 3 * 10001;
 
+// A plain Koala file, packed. $FE stands in runs alone, however few.
+app::Bytes PackKoala(std::span<const std::uint8_t> plain);
+
 // The plain Koala file of 10003 bytes that is packed in `bytes`: behind the load address stand a byte as itself, or
 // $FE, a value, and how many times it comes (1..255). Throws PackedError.
 app::Bytes UnpackKoala(std::span<const std::uint8_t> bytes);

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <QImage>
+#include <cstdint>
+#include <span>
 
 #include "app/bytes.h"
 #include "files/palette_file.h"
@@ -23,6 +25,12 @@ inline constexpr const char* kPaletteKey = "Palette";
 
 // Pixels are colour numbers. `scale` is 1..kLargestScale.
 QImage ImageOf(const model::PictureImage& picture, const files::Palette& palette, ImageSize size, int scale);
+
+// The 320 x 200 pixels that a C64 shows, as colour numbers row by row, with the border around them: 384 x 272.
+QImage ImageOfScreen(std::span<const std::uint8_t> pixels, model::C64Colour border, const files::Palette& palette);
+
+// The same lines, some of them twice, so that square pixels show it as high as a PAL screen does.
+QImage AsHighAsOnPal(const QImage& image);
 
 // Packed as small as PNG can. Throws std::runtime_error where the image cannot be made.
 app::Bytes PngOf(const QImage& image);

@@ -7,8 +7,6 @@ namespace {
 
 using model::BitPair;
 
-constexpr std::size_t kBytes = kSpritePixels / 4;
-
 struct Layout {
   std::size_t bytes_per_line;
   bool padding_has_own_line;
@@ -31,26 +29,28 @@ std::string ByteText(int byte, Notation notation) {
   return notation == Notation::kBinary ? "%" + app::ByteToBinary(byte) : "$" + app::ToHex(byte);
 }
 
-int ByteAt(const Sprite& sprite, std::size_t byte, const ChosenColours& chosen) {
-  int value = 0;
-  for (std::size_t pixel = byte * 4; pixel < byte * 4 + 4; ++pixel) {
-    value = value << 2 | static_cast<int>(PairOf(sprite[pixel], chosen));
-  }
-  return value;
-}
-
 std::string OneSprite(const Sprite& sprite, const ChosenColours& chosen, Notation notation) {
   const Layout layout = LayoutOf(notation);
+  const auto bytes = SpriteBytes(sprite, chosen);
   std::string text;
-  for (std::size_t byte = 0; byte < kBytes; ++byte) {
+  for (std::size_t byte = 0; byte < bytes.size(); ++byte) {
     text += byte % layout.bytes_per_line == 0 ? ".byte " : ",";
-    text += ByteText(ByteAt(sprite, byte, chosen), notation);
+    text += ByteText(bytes[byte], notation);
     if (byte % layout.bytes_per_line == layout.bytes_per_line - 1) text += "\r\n";
   }
   return text + (layout.padding_has_own_line ? ".byte " : ",") + ByteText(0, notation) + "\r\n";
 }
 
 }  // namespace
+
+std::array<std::uint8_t, kSpritePixels / 4> SpriteBytes(const Sprite& sprite, const ChosenColours& colours) {
+  std::array<std::uint8_t, kSpritePixels / 4> bytes{};
+  for (std::size_t pixel = 0; pixel < sprite.size(); ++pixel) {
+    bytes[pixel / 4] =
+        model::WithPairAt(bytes[pixel / 4], static_cast<int>(pixel % 4) + 1, PairOf(sprite[pixel], colours));
+  }
+  return bytes;
+}
 
 std::string SpriteText(const std::vector<Sprite>& sprites, const ChosenColours& colours, Notation notation) {
   std::string text;

@@ -1,4 +1,5 @@
 // The session's steps in the real main window: what makes one, walking through them, and what outlives a crash.
+#include <QListView>
 #include <QTextBrowser>
 
 #include "main_frame_fixture.h"
