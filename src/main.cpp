@@ -88,6 +88,10 @@ int main(int argc, char** argv) {
   QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
   kelvo::ui::KelvoApplication application(argc, argv);
   if (const std::optional<int> code = Answer(parser)) return *code;
+  if (QGuiApplication::screens().isEmpty()) {  // Qt cannot make a window then
+    kelvo::ui::Print("kelvo: there is no screen to show a window on\n", kelvo::ui::Stream::kErrors);
+    return EXIT_FAILURE;
+  }
 
   const kelvo::app::ProgramFolders folders = FindFolders();
   kelvo::ui::QtSettings settings;

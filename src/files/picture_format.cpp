@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "app/path_text.h"
+#include "model/pixel_colour.h"
 
 namespace kelvo::files {
 namespace {
@@ -81,6 +82,16 @@ C64Colour ReadBackground(const PictureFormat& format, std::span<const std::uint8
   return format.background_at ? C64Colour::FromNumber(file[*format.background_at]).value_or(before) : before;
 }
 
+// Other bytes need not be other colours.
+bool ShowTheSame(const PictureImage& one, const PictureImage& other) {
+  for (int y = 1; y <= PictureImage::kHeight; ++y) {
+    for (int x = 1; x <= PictureImage::kWidth; ++x) {
+      if (model::GetPixelData(one, x, y).colour != model::GetPixelData(other, x, y).colour) return false;
+    }
+  }
+  return true;
+}
+
 std::string SizesText(const PictureFormat& format, std::uintmax_t size) {
   std::string right = std::to_string(format.file_size);
   if (format.other_size != format.file_size) right += " or " + std::to_string(format.other_size);
@@ -135,7 +146,7 @@ PictureImage Decode(const PictureFormat& format, std::span<const std::uint8_t> b
 bool ReadsDifferently(const PictureFormat& format, std::span<const std::uint8_t> bytes, C64Colour background_before) {
   const PictureImage one = Decode(format, bytes, background_before, Reading::kDocumented);
   const PictureImage other = Decode(format, bytes, background_before, Reading::kExact);
-  return one.Bitmap[kBitmapBlock] != other.Bitmap[kBitmapBlock] || one.BackgroundColour != other.BackgroundColour;
+  return !ShowTheSame(one, other);
 }
 
 void Sign(PictureImage& picture) {

@@ -75,7 +75,7 @@ enum class Reading { kDocumented, kExact };
 model::PictureImage Decode(const PictureFormat& format, std::span<const std::uint8_t> bytes,
                            model::C64Colour background_before, Reading reading = Reading::kDocumented);
 
-// Whether the two readings of the same bytes show different pictures.
+// Whether the two readings of the same bytes show different pictures: some pixel has another colour.
 bool ReadsDifferently(const PictureFormat& format, std::span<const std::uint8_t> bytes,
                       model::C64Colour background_before);
 

@@ -18,7 +18,7 @@ frmHelp* Open(QWidget& frame, const QString& name, const QString& title) {
 }  // namespace
 
 void ShowKeys(QWidget& frame) {
-  Open(frame, "frmKeys", "Keys")->setHtml(KeyPage());
+  Open(frame, "frmKeys", "Keys")->setHtml(KeyPage(frame));
 }
 
 void ShowGuide(QWidget& frame) {

@@ -1,7 +1,7 @@
 #include "ui/key_page.h"
 
+#include <QAction>
 #include <QKeySequence>
-#include <string_view>
 
 #include "editing/pens.h"
 #include "editing/tool_table.h"
@@ -22,12 +22,19 @@ QString Row(const QString& key, const QString& what) {
   return "<tr><td width='150'><b>" + key.toHtmlEscaped() + "</b></td><td>" + what.toHtmlEscaped() + "</td></tr>";
 }
 
-QString MenuRows() {
+// The keys that hold now: a preference may give an entry others than its row does. A row's letter is no shortcut.
+QString KeysOf(const MenuEntry& entry, const QWidget& frame) {
+  const auto* action = frame.findChild<QAction*>(entry.name);
+  const QString shortcuts = QKeySequence::listToString(action->shortcuts(), QKeySequence::NativeText);
+  return shortcuts.isEmpty() && IsLetter(entry.key) ? entry.key : shortcuts;
+}
+
+QString MenuRows(const QWidget& frame) {
   QString rows;
   for (const MenuEntry& entry : MenuEntries()) {
-    if (std::string_view(entry.key).empty()) continue;
-    rows += Row(QKeySequence(entry.key).toString(QKeySequence::NativeText),
-                QString(entry.text).remove('&').remove("...") + ": " + entry.tip);
+    if (entry.text == nullptr) continue;
+    const QString keys = KeysOf(entry, frame);
+    if (!keys.isEmpty()) rows += Row(keys, QString(entry.text).remove('&').remove("...") + ": " + entry.tip);
   }
   return rows;
 }
@@ -63,8 +70,8 @@ QString KeyboardRows() {
 
 }  // namespace
 
-QString KeyPage() {
-  return Section("Menus", MenuRows()) + Section("Tools", ToolRows()) + Section("Pens", PenRows()) +
+QString KeyPage(const QWidget& frame) {
+  return Section("Menus", MenuRows(frame)) + Section("Tools", ToolRows()) + Section("Pens", PenRows()) +
          Section("Looking", ScrollRows()) + Section("Painting by keyboard, in the zoom window", KeyboardRows());
 }
 

@@ -16,19 +16,19 @@ namespace kelvo::ui {
 
 class AnimationDesk;
 class BuildDesk;
+class CalledWindows;
 class CellUseDesk;
-class ChoiceMenu;
+class CommandDesk;
 class ExportDesk;
+class FrameChoices;
 class HistoryDesk;
 class PaletteDesk;
 class PaintingDesk;
 class PaintToolBar;
 class PictureWindows;
 class RecoveryDesk;
-class frmBMP2SpriteMain;
 class frmBMPView;
 class frmCharData;
-class frmCodenetGUI;
 class frmColors;
 class frmCommand;
 class frmHistory;
@@ -72,14 +72,10 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   void ToggleSetting(const app::Setting& setting);
   bool IsOn(const app::Setting& setting) const;
 
-  void ShowPreferences();
+  void ChangePreferences();
   void ShowWhatIf();
-  void ShowAbout();
-  void mnuFullscreenView_Click();
-  void SaveScreenshot();
-  void ShowSpriteConverter();
-  void ShowCodenetGui();
   void ArrangeWindows();
+  CalledWindows& Called() { return *called_; }
 
   CellUseDesk& CellUse() { return *cell_use_; }
   const CellUseDesk& CellUse() const { return *cell_use_; }
@@ -88,8 +84,8 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   AnimationDesk& Animation() { return *animation_; }
   const AnimationDesk& Animation() const { return *animation_; }
   void ProcessCommand(const QString& line);
-  bool HasLastCommand() const { return !last_command_.isEmpty(); }
-  void RepeatLastCommand() { ProcessCommand(last_command_); }
+  void RepeatLastCommand();
+  const CommandDesk& Commands() const { return *commands_; }
 
   WindowDesk& Windows() { return *windows_; }
   const WindowDesk& Windows() const { return *windows_; }
@@ -111,16 +107,16 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   void PictureReplaced() override;
   void PictureSaved() override;
   void MakeChildren();
+  void ConnectChildren();
+  void ConnectChoices();
+  void ConnectDesk();
   void ConnectAnimation();
   void ConnectBuilds();
   void ConnectHistory();
   void ConnectPalette();
-  void ShowStepKeys();
+  void ConnectWarnings();
   void ShowBuilding();
   void StopTools();
-  void MakeChoiceMenus();
-  void MakeRecentMenu();
-  void ConnectDesk();
   void ShowPaintingState();
   void RefreshMenus();
   void ShowZoom();
@@ -134,7 +130,6 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   files::Document document_;
 
   PromptLines prompt_;
-  QString last_command_;
 
   frmBMPView* full_view_;
   frmColors* colors_;
@@ -145,11 +140,8 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   frmHistory* steps_ = nullptr;
   PaintToolBar* Toolbar1_;
   MainMenu menu_;
-  ChoiceMenu* background_menu_ = nullptr;
-  ChoiceMenu* grid_menu_ = nullptr;
-  ChoiceMenu* border_menu_ = nullptr;
-  ChoiceMenu* scale_menu_ = nullptr;
   StatusPanels* panels_;
+  FrameChoices* choices_;
   QTimer* Timer1_;
 
   std::unique_ptr<WindowDesk> windows_;
@@ -164,8 +156,8 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   std::unique_ptr<HistoryDesk> history_;
   std::unique_ptr<PaletteDesk> palette_;
   std::unique_ptr<ExportDesk> exports_;
-  frmBMP2SpriteMain* sprite_converter_ = nullptr;  // made when it is first asked for
-  frmCodenetGUI* codenet_gui_ = nullptr;           // likewise
+  std::unique_ptr<CommandDesk> commands_;
+  std::unique_ptr<CalledWindows> called_;
 };
 
 }  // namespace kelvo::ui

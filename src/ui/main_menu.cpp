@@ -2,7 +2,6 @@
 
 #include <QMenuBar>
 #include <algorithm>
-#include <string_view>
 
 #include "ui/main_frame.h"
 #include "ui/menu_table.h"
@@ -10,15 +9,6 @@
 #include "ui/widgets/icons.h"
 
 namespace kelvo::ui {
-
-namespace {
-
-// A shortcut of a plain letter would take it from the prompt's line.
-bool IsLetter(std::string_view key) {
-  return key.size() == 1;
-}
-
-}  // namespace
 
 MainMenu::MainMenu(MainFrame& frame) : frame_(frame) {
   for (const MenuRow& row : Menus()) {

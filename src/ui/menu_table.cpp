@@ -6,7 +6,9 @@
 #include "files/load_picture.h"
 #include "ui/desks/animation_desk.h"
 #include "ui/desks/build_desk.h"
+#include "ui/desks/called_windows.h"
 #include "ui/desks/cell_use_desk.h"
+#include "ui/desks/command_desk.h"
 #include "ui/desks/export_desk.h"
 #include "ui/desks/history_desk.h"
 #include "ui/desks/painting_desk.h"
@@ -99,7 +101,7 @@ constexpr MenuEntry kEntries[] = {
     {"mnuSaveAs", "mnuFile", "Save &As...", "Ctrl+Shift+S", "Save the picture under another name",
      [](MainFrame& f) { f.Files().SaveAs(); }},
     {"mnuSaveJPG", "mnuFile", "Save picture as screens&hot...", "", "Save the full view as an image",
-     [](MainFrame& f) { f.SaveScreenshot(); }},
+     [](MainFrame& f) { f.Called().SaveScreenshot(); }},
     {"mnuExport", "mnuFile", "Ex&port...", "", "Write the picture in another format, or as a PNG image",
      [](MainFrame& f) { f.Exports().Export(); }},
     SettingEntry<files::kReadFilesExactly>("mnuReadExactly", "mnuFile", "Read &files exactly",
@@ -123,9 +125,9 @@ constexpr MenuEntry kEntries[] = {
     {"mnuWhatIf", "mnuLimPaint", "&What if the background were...", "",
      "How many cells would gain room or clash with each background color", [](MainFrame& f) { f.ShowWhatIf(); }},
     {"mnuRepeatCommand", "mnuLimPaint", "&Repeat last command", "F3", "Give the last command of the prompt again",
-     [](MainFrame& f) { f.RepeatLastCommand(); }, [](const MainFrame& f) { return f.HasLastCommand(); }},
+     [](MainFrame& f) { f.RepeatLastCommand(); }, [](const MainFrame& f) { return f.Commands().HasLast(); }},
     {"mnuPreferences", "mnuLimPaint", "&Preferences...", "", "How painting treats full cells",
-     [](MainFrame& f) { f.ShowPreferences(); }},
+     [](MainFrame& f) { f.ChangePreferences(); }},
 
     ShowEntry<ChildWindowId::kFullView>("mnuView_0", "&Full view", "Show or hide the whole picture"),
     ShowEntry<ChildWindowId::kColors>("mnuView_1", "&Colors", "Show or hide the sixteen colors"),
@@ -152,7 +154,7 @@ constexpr MenuEntry kEntries[] = {
      [](const MainFrame& f) { return f.FullView().IsPal(); }},
     Separator("mnuViewMenu"),
     {"mnuFullscreenView", "mnuViewMenu", "F&ullscreen view", "F11", "The picture alone, over the whole screen",
-     [](MainFrame& f) { f.mnuFullscreenView_Click(); }, nullptr, nullptr, "fullscreen"},
+     [](MainFrame& f) { f.Called().mnuFullscreenView_Click(); }, nullptr, nullptr, "fullscreen"},
     {"mnuArrange", "mnuViewMenu", "&Arrange windows", "", "Put every window back to its place",
      [](MainFrame& f) { f.ArrangeWindows(); }},
 
@@ -166,7 +168,7 @@ constexpr MenuEntry kEntries[] = {
      [](MainFrame& f) { f.Desk().OptimizeForPacking(); }},
     Separator("mnuFunctions"),
     {"mnuBMP2Sprite", "mnuFunctions", "Bitmap to &sprite converter", "", "Make sprite data of parts of a picture",
-     [](MainFrame& f) { f.ShowSpriteConverter(); }},
+     [](MainFrame& f) { f.Called().ShowSpriteConverter(); }},
 
     {"mnuAnimMode", "mnuAnim", "Animation &mode", "", "Numbered pictures of a folder are frames",
      [](MainFrame& f) { f.Animation().Mode().ToggleAnimMode(); }, nullptr,
@@ -191,7 +193,7 @@ constexpr MenuEntry kEntries[] = {
     BuildEntry<c64out::kSaveOn15x1>("mnuSaveCompopicOn15x1", "&Save compopic on 15x1", "",
                                     "Send the picture to a C64 and save it on that machine's disk drive"),
     {"mnuCodenetGUI", "mnuCodenet", "Codenet &GUI", "", "Send any file to a C64",
-     [](MainFrame& f) { f.ShowCodenetGui(); }},
+     [](MainFrame& f) { f.Called().ShowCodenetGui(); }},
     Separator("mnuCodenet"),
     {"mnuCodenetSettings", "mnuCodenet", "&Codenet settings...", "",
      "Where the C64 is, and the program's name on its disk", [](MainFrame& f) { f.Builds().ShowCodenetSettings(); }},
@@ -199,7 +201,7 @@ constexpr MenuEntry kEntries[] = {
     {"mnuGuide", "mnuHelp", "&Guide", "F1", "A tour of the program", [](MainFrame& f) { ShowGuide(f); }},
     {"mnuKeys", "mnuHelp", "&Keys", "", "All keys on one page", [](MainFrame& f) { ShowKeys(f); }},
     Separator("mnuHelp"),
-    {"mnuAbout", "mnuHelp", "&About Kelvo", "", "What this program is", [](MainFrame& f) { f.ShowAbout(); }},
+    {"mnuAbout", "mnuHelp", "&About Kelvo", "", "What this program is", [](MainFrame& f) { f.Called().ShowAbout(); }},
 };
 
 }  // namespace

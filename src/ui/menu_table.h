@@ -3,6 +3,7 @@
 
 #include <span>
 #include <string>
+#include <string_view>
 
 namespace kelvo::ui {
 
@@ -38,6 +39,11 @@ struct MenuEntry {
   const char* lack = nullptr;                           // said while it cannot be chosen; null: nothing
   std::string (*text_now)(const MainFrame&) = nullptr;  // null: always `text`
 };
+
+// A key that is no shortcut: a shortcut of a plain letter would take it from the prompt's line.
+constexpr bool IsLetter(std::string_view key) {
+  return key.size() == 1;
+}
 
 std::span<const MenuRow> Menus();
 std::span<const MenuEntry> MenuEntries();

@@ -63,6 +63,15 @@ class ProgramTest : public testing::Test {
 };
 
 // On an empty picture it is the same wherever a hand begins; the zoom window lies at the frame's upper left.
+TEST(Screen, IsNeededAndItsLackIsTold) {
+  const support::TempFolder folder;
+  support::WriteText(folder / "screens", R"({"screens": []})");
+  const support::ToolRun run =
+      support::RunTool(KELVO_PROGRAM, {"-platform", "offscreen:configfile=" + (folder / "screens").string()});
+  EXPECT_EQ(run.exit_code, EXIT_FAILURE);
+  EXPECT_NE(run.errors.find("kelvo: there is no screen to show a window on\n"), std::string::npos) << run.errors;
+}
+
 TEST_F(ProgramTest, HandsPaintUndoAndSave) {
   const auto drag = [](const std::string& from) {
     Hands("mousemove " + from + " mousedown 1 sleep 0.05 mousemove_relative 80 0 sleep 0.05 mouseup 1 sleep 0.1");

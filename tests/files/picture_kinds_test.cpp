@@ -88,9 +88,12 @@ TEST(PictureKinds, ExactReadingTakesTheLastByteAndTheTrueBackground) {
     EXPECT_TRUE(ReadsDifferently(format, file, support::Colour(3)));
   }
   PictureImage plain = picture;
-  plain.Bitmap[8000] = 255;
-  plain.ColourMemory[999] = plain.BackgroundColour.Byte();
-  EXPECT_FALSE(ReadsDifferently(FormatOf(kKoaType), EncodeAs(FormatOf(kKoaType), plain), {}));
+  plain.ColourMemory[999] = plain.ColourMemory[1000] = plain.BackgroundColour.Byte();
+  for (const std::uint8_t last : std::initializer_list<std::uint8_t>{
+           255, 0}) {  // what stands there while it is not read, and what looks the same
+    plain.Bitmap[8000] = last;
+    EXPECT_FALSE(ReadsDifferently(FormatOf(kKoaType), EncodeAs(FormatOf(kKoaType), plain), {}));
+  }
 
   PictureImage painted = picture;
   Sign(painted);

@@ -1,5 +1,8 @@
 // Builds from the menu of the real main window with the real tools: what comes out runs on a C64.
 #include <QLockFile>
+#include <csignal>
+#include <iterator>
+#include <sstream>
 
 #include "c64/kernal_disk.h"
 #include "c64out/output_settings.h"
@@ -94,29 +97,39 @@ TEST_F(C64OutputTest, PutsTheProgramOnADiskAndShowsItInVice) {
   EXPECT_EQ(support::ReadFile(extracted), support::ReadFile(art / "My Picture With A Long Name.prg"));
 }
 
-TEST_F(C64OutputTest, AnotherPreviewLeavesTheShownOneRunning) {
+TEST_F(C64OutputTest, AnotherPreviewLeavesTheShownOneRunningOrEndsIt) {
   if (!support::IsInstalled("c1541")) GTEST_SKIP() << "this needs c1541, a part of VICE";
   const std::string calls = app::TextFromPath(folder / "calls"), go = app::TextFromPath(folder / "go");
-  Script(vice / "x64",
-         "echo call >> '" + calls + "'; while [ ! -e '" + go + "' ]; do sleep 0.1; done; echo end >> '" + calls + "'");
+  Script(vice / "x64", "echo $$ >> '" + calls + "'; while [ ! -e '" + go + "' ]; do sleep 0.1; done");
   Open("pic.koa");
-  bool is_asked_again = false;
-  QTimer look;
-  QObject::connect(&look, &QTimer::timeout, frame.get(), [&] {
-    const std::string so_far = support::ReadText(calls);
-    if (!is_asked_again && so_far == "call\n" && Action("mnuPreviewCompopicInVICE")->isEnabled()) {
-      is_asked_again = true;
-      EXPECT_FALSE(frame->Builds().IsBuilding());
-      EXPECT_FALSE(exists(folders.System() / "build.lock"));  // another program may build too
-      Action("mnuPreviewCompopicInVICE")->trigger();
-    } else if (so_far == "call\ncall\n") {
-      look.stop();
-      support::WriteText(go, "");
-    }
-  });
-  look.start(20);
-  Action("mnuPreviewCompopicInVICE")->trigger();
-  EXPECT_TRUE(QTest::qWaitFor([&] { return support::ReadText(calls) == "call\ncall\nend\nend\n"; }, 60000));
+  for (const auto& [setting, lives_on] : {std::pair{"0", true}, {"1", false}}) {
+    SCOPED_TRACE(setting);
+    settings.Write(c64out::kOneEmulator, setting);
+    remove(folder / "go");
+    support::WriteText(folder / "calls", "");
+    std::vector<pid_t> emulators;
+    bool is_asked_again = false, first_lives = false;
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, frame.get(), [&] {
+      std::istringstream so_far(support::ReadText(calls));
+      emulators.assign(std::istream_iterator<pid_t>(so_far), {});
+      if (!is_asked_again && emulators.size() == 1 && Action("mnuPreviewCompopicInVICE")->isEnabled()) {
+        is_asked_again = true;
+        EXPECT_FALSE(frame->Builds().IsBuilding());
+        EXPECT_FALSE(exists(folders.System() / "build.lock"));  // another program may build too
+        Action("mnuPreviewCompopicInVICE")->trigger();
+      } else if (emulators.size() == 2) {
+        look.stop();
+        first_lives = kill(emulators[0], 0) == 0;
+        EXPECT_EQ(kill(emulators[1], 0), 0);
+        support::WriteText(go, "");
+      }
+    });
+    look.start(20);
+    Action("mnuPreviewCompopicInVICE")->trigger();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return emulators.size() == 2 && kill(emulators[1], 0) != 0; }, 60000));
+    EXPECT_EQ(first_lives, lives_on);
+  }
 }
 
 // The loader's own port can be taken only once, so all that needs it is one test.

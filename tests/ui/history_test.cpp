@@ -1,4 +1,6 @@
 // The session's steps in the real main window: what makes one, walking through them, and what outlives a crash.
+#include <QListView>
+#include <QTextBrowser>
 
 #include "main_frame_fixture.h"
 #include "model/named_palettes.h"
@@ -120,6 +122,9 @@ TEST_F(HistoryWindowTest, CtrlZStepsBackWhereThePreferenceSaysSo) {
     dialog.findChild<QAbstractButton*>("cmdStd")->click();
   });
   Action("mnuPreferences")->trigger();
+  Action("mnuKeys")->trigger();
+  const QString keys = Find<QTextBrowser>("frmKeys")->toPlainText();
+  EXPECT_TRUE(keys.contains("Ctrl+Z; Ctrl+Alt+Z\nStep back: ") && !keys.contains("Undo: ")) << FromQt(keys);
   frame->activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(frame.get()));
   for (int press = 0; press < 2; ++press) Key(Qt::Key_Z, Qt::ControlModifier);

@@ -10,7 +10,8 @@ namespace {
 
 using model::PictureImage;
 
-constexpr std::size_t kBackgroundCell = 999;
+constexpr std::size_t kBackgroundCell = 999, kLastByte = 8000;
+constexpr std::uint8_t kUnread = 255;
 
 template <std::size_t size>
 void Append(app::Bytes& bytes, const std::array<std::uint8_t, size>& memory, std::ptrdiff_t count) {
@@ -38,6 +39,9 @@ void WritePicture(const std::filesystem::path& folder, const std::string& name, 
   // A Koala file's background is read from the colour byte of cell 999: it carries the background colour, and the
   // cell's %11 pixels, if any, show it.
   picture.ColourMemory[kBackgroundCell] = picture.BackgroundColour.Byte();
+  // The last byte of a bitmap is not read, but for the exact reading: it is what stands there then, so that both
+  // readings show the same.
+  picture.Bitmap[kLastByte] = kUnread;
   app::WriteWholeFile(folder / (name + ".koa"), Koala(picture));
   app::WriteWholeFile(folder / (name + ".vid"), Vidcom64(picture));
   files::Sign(picture);

@@ -24,7 +24,7 @@ BuildDesk::BuildDesk(const files::PictureSurroundings& with, app::StatusLine& st
 void BuildDesk::BuildCompoPic(const c64out::CompoPicChoice& choice) {
   if (runner_.IsShowing()) {
     next_ = choice;
-    return app::ReadNumber(with_.settings, c64out::kOneEmulator, 0, 1) == 1 ? runner_.EndNow() : runner_.Stop();
+    return app::ReadNumber(with_.settings, c64out::kOneEmulator, 0, 1) == 1 ? runner_.EndShown() : runner_.Stop();
   }
   if (!IsFree() || is_running_ || (!with_.document.file.HasFile() && !with_.files.SaveAs())) return;
   Run(choice);

@@ -68,10 +68,12 @@ c64out::ToolResult QtToolRunner::ShowAndWait(const c64out::ToolCommand& command)
   QTemporaryFile file;
   file.open();
   ToolProcess process;
+  is_shown_ended_ = false;
   if (!Wait(process, State::kShowing, [&] { process.Show(command, file.fileName()); })) {
     process.LeaveRunning();
     return {};
   }
+  if (is_shown_ended_) return {};
   ToolOutput output;
   output.Add(file.read(kMostOutput));
   return {.stopped = false, .failure = FromQt(WhyItFailed(process, output))};
@@ -89,6 +91,13 @@ void QtToolRunner::Stop() {
 void QtToolRunner::EndNow() {
   Stop();
   if (IsBusy() && process_->state() != QProcess::NotRunning) process_->End();
+}
+
+void QtToolRunner::EndShown() {
+  if (!IsShowing()) return;
+  is_shown_ended_ = true;
+  process_->End();
+  process_->waitForFinished(kEndMilliseconds);
 }
 
 }  // namespace kelvo::ui

@@ -29,6 +29,8 @@ class QtToolRunner final : public QObject, public c64out::ToolRunner {
   void Stop();
   // The same for a program that is about to end: the tool is ended here and now, because no wait may return any more.
   void EndNow();
+  // Ends the program that the user looks at. Its wait ends as if the user had closed it.
+  void EndShown();
 
   // A tool is at work, or a program that the user looks at is waited for.
   bool IsBusy() const { return state_ == State::kWorking; }
@@ -47,6 +49,7 @@ class QtToolRunner final : public QObject, public c64out::ToolRunner {
   QPointer<QEventLoop> wait_;
   QPointer<ToolProcess> process_;  // the one that is waited for
   State state_ = State::kIdle;
+  bool is_shown_ended_ = false;  // by EndShown
 };
 
 }  // namespace kelvo::ui

@@ -19,7 +19,7 @@ class ToolProcess final : public QProcess {
   // Starts a program that the user looks at, which may outlive this one; what it prints goes into `output`.
   void Show(const c64out::ToolCommand& command, const QString& output);
 
-  // Kills a tool that was started by Work, and all that it has started.
+  // Kills what was started, and all that it has started.
   void End();
   // Lets a program go on when this object ends.
   void LeaveRunning() { setProcessState(NotRunning); }
@@ -31,7 +31,7 @@ class ToolProcess final : public QProcess {
   void SetCommand(const c64out::ToolCommand& command, Purpose purpose);
   void EndGroup();
 
-  std::shared_ptr<void> job_;  // on Windows: the tool at work with all that it starts
+  std::shared_ptr<void> job_;  // on Windows: the program with all that it starts
 };
 
 }  // namespace kelvo::ui

@@ -8,9 +8,11 @@
 namespace kelvo::ui {
 namespace {
 
-// Ends all that belongs to it when it is closed, and the system closes it when this program ends in whatever way.
-std::shared_ptr<void> MakeJob() {
+// Holds a program with all that it starts. Where it `ends_with_kelvo` all of it ends when the job is closed, and the
+// system closes it when this program ends in whatever way.
+std::shared_ptr<void> MakeJob(bool ends_with_kelvo) {
   std::shared_ptr<void> job(CreateJobObjectW(nullptr, nullptr), CloseHandle);
+  if (!ends_with_kelvo) return job;
   JOBOBJECT_EXTENDED_LIMIT_INFORMATION limits{};
   limits.BasicLimitInformation.LimitFlags = JOB_OBJECT_LIMIT_KILL_ON_JOB_CLOSE;
   SetInformationJobObject(job.get(), JobObjectExtendedLimitInformation, &limits, sizeof(limits));
@@ -55,8 +57,7 @@ void ToolProcess::SetCommand(const c64out::ToolCommand& command, Purpose purpose
   QProcessEnvironment environment = processEnvironment();
   environment.insert(c64out::kPercentVariable, "%");
   setProcessEnvironment(environment);
-  if (purpose == Purpose::kShow) return;
-  job_ = MakeJob();
+  job_ = MakeJob(purpose == Purpose::kWork);
   setCreateProcessArgumentsModifier(
       [start = std::make_shared<StartInJob>(job_)](CreateProcessArguments* arguments) { start->Apply(*arguments); });
 }

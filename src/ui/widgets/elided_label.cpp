@@ -25,6 +25,7 @@ QFont ElidedLabel::FontFor(const QString& text) const {
 
 void ElidedLabel::Show(const QString& text) {
   whole_ = text;
+  if (testAttribute(Qt::WA_PendingResizeEvent)) return setText(text);  // how much room there is will be told
   if (const QFont fitting = FontFor(text); fitting != font()) setFont(fitting);
   const QString shown = fontMetrics().elidedText(text, Qt::ElideMiddle, width() - 2 * kMargin);
   setText(shown);

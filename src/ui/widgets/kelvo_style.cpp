@@ -86,9 +86,18 @@ void KelvoStyle::polish(QPalette& palette) {
   palette.setColor(QPalette::Link, Mixed(link, palette.color(QPalette::WindowText), 0.6));
 }
 
+int KelvoStyle::CaptionHeight() const {
+  const QFont font = QApplication::font();
+  if (caption_height_ == 0 || font != measured_) {
+    measured_ = font;
+    caption_height_ = QFontMetrics(CaptionFont()).height() + 4;
+  }
+  return caption_height_;
+}
+
 int KelvoStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
   if (const auto* child = qobject_cast<const ChildWindow*>(widget)) {
-    if (metric == PM_TitleBarHeight) return QFontMetrics(CaptionFont()).height() + 4;
+    if (metric == PM_TitleBarHeight) return CaptionHeight();
     if (metric == PM_MdiSubWindowFrameWidth) return child->IsFixed() ? kFrame : kGripFrame;
   }
   return QProxyStyle::pixelMetric(metric, option, widget);

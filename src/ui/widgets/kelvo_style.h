@@ -1,6 +1,7 @@
 // The look of the workplace: thin captions on child windows, and a chosen tool that is seen at once.
 #pragma once
 
+#include <QFont>
 #include <QProxyStyle>
 
 class QStyleOptionTitleBar;
@@ -28,7 +29,11 @@ class KelvoStyle final : public QProxyStyle {
   QIcon standardIcon(StandardPixmap which, const QStyleOption* option, const QWidget* widget) const override;
 
  private:
+  int CaptionHeight() const;
   QRect CaptionPart(const QStyleOptionTitleBar& bar, SubControl part) const;
+
+  mutable QFont measured_;  // the application's font that caption_height_ is for: windows ask for it all the time
+  mutable int caption_height_ = 0;
 };
 
 }  // namespace kelvo::ui

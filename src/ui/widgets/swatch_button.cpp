@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <algorithm>
 
 #include "model/palette.h"
 #include "ui/ports/qt_text.h"
@@ -17,9 +18,12 @@ QString PlainColourName(model::C64Colour colour) {
 
 QString WidestColourName(const QFontMetrics& letters) {
   QString widest;
+  int most = 0;
   for (int number = 0; number < model::C64Colour::kCount; ++number) {
     const QString name = PlainColourName(*model::C64Colour::FromNumber(number));
-    if (letters.horizontalAdvance(name) > letters.horizontalAdvance(widest)) widest = name;
+    const int width = letters.horizontalAdvance(name);
+    if (width > most) widest = name;
+    most = std::max(most, width);
   }
   return widest;
 }

@@ -74,12 +74,13 @@ QLayout* frmCharData::MakeSlots() {
   rows->setHorizontalSpacing(4);
   rows->setVerticalSpacing(2);
   rows->setColumnStretch(1, 1);
+  const QString widest = "%00 " + WidestColourName(fontMetrics());
   for (std::size_t i = 0; i < slots_.size(); ++i) {
     slots_[i] = {new SwatchButton(this), new QLabel(this), new QLabel(this)};
     slots_[i].swatch->setObjectName(QString("slot_%1").arg(ToQt(model::ToText(kSlots[i]))));
     slots_[i].swatch->setFocusPolicy(Qt::NoFocus);
     slots_[i].swatch->setFixedSize(18, 18);
-    slots_[i].name->setText("%00 " + WidestColourName(fontMetrics()));
+    slots_[i].name->setText(widest);
     slots_[i].name->setMinimumWidth(slots_[i].name->sizeHint().width());
     slots_[i].count->setText("32");
     slots_[i].count->setMinimumWidth(slots_[i].count->sizeHint().width());

@@ -12,6 +12,12 @@ namespace {
 constexpr QSize kFirstSize(760, 640);
 constexpr int kPictureWidth = 680;
 
+// The sign between a menu and its entry is not in every font.
+QString InSignsOf(const QFont& font, const QString& html) {
+  constexpr QChar kInto(0x25B8);
+  return QFontMetrics(font).inFont(kInto) ? html : QString(html).replace(kInto, "&gt;");
+}
+
 }  // namespace
 
 frmHelp::frmHelp(const QString& name, const QString& title, QWidget* parent) : QTextBrowser(parent) {
@@ -21,6 +27,7 @@ frmHelp::frmHelp(const QString& name, const QString& title, QWidget* parent) : Q
   setWindowTitle(title);
   setAccessibleName(title);
   setOpenExternalLinks(true);
+  document()->setDefaultStyleSheet("th, td { padding-right: 12px; }");  // columns stand apart
   resize(kFirstSize);
 }
 
@@ -31,6 +38,8 @@ void frmHelp::ShowGuide() {
 }
 
 QVariant frmHelp::loadResource(int type, const QUrl& name) {
+  if (type == QTextDocument::HtmlResource)
+    return InSignsOf(font(), QTextBrowser::loadResource(type, name).toByteArray());
   if (type != QTextDocument::ImageResource) return QTextBrowser::loadResource(type, name);
   const QImage image(source().resolved(name).toLocalFile());
   return image.width() > kPictureWidth ? image.scaledToWidth(kPictureWidth, Qt::SmoothTransformation) : image;
