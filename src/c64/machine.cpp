@@ -11,6 +11,9 @@ namespace {
 constexpr std::uint16_t kBasicLine = 0x0801, kBackInBasic = 0xE147, kIrqHandler = 0xEA31, kNmiHandler = 0xFE47;
 constexpr std::uint8_t kSys = 0x9E;
 constexpr std::uint64_t kJiffy = 16421;
+constexpr std::uint64_t kInterruptEntry = 29;  // from the KERNAL's first instruction to the vector in RAM
+constexpr std::size_t kControl = 0x11, kLine = 0x12, kEvents = 0x19, kInterruptingEvents = 0x1A;  // of the VIC
+constexpr std::uint8_t kLineEvent = 1;
 
 // Zero page bytes that a program may change and still return to BASIC, or be stopped by STOP and RESTORE.
 constexpr std::pair<int, int> kFreeZeroPage[] = {{0x00, 0x06}, {0x22, 0x2A}, {0x57, 0x72}, {0x8B, 0x8F}, {0xFB, 0xFF}};
@@ -93,6 +96,7 @@ std::optional<Machine::Ending> Machine::RunOn(std::uint64_t cycles) {
     }
     cpu_.Step();
     CallTrap();
+    if (has_beam_) MoveBeam();
     if (cpu_.pc == before && ram_[before] == 0x4C) return Ending::kLoops;
   }
   return std::nullopt;
@@ -108,15 +112,34 @@ void Machine::Interrupts() {
   if (restore_every_ != 0 && cpu_.cycles >= next_restore_) {
     next_restore_ += restore_every_;
     cpu_.Interrupt(0xFFFA);
-  } else if (cpu_.cycles >= next_jiffy_) {
-    next_jiffy_ += kJiffy;
-    if ((io_[0xC0D] & 1) == 0 || cpu_.Has(Cpu6502::kInterruptsOff)) return;
+  } else if (IsInterrupted()) {
     cpu_.Interrupt(0xFFFE);
     for (const std::uint8_t value : {cpu_.a, cpu_.x, cpu_.y}) cpu_.Push(value);
+    cpu_.cycles += kInterruptEntry;
   } else {
     return;
   }
   CallTrap();
+}
+
+bool Machine::IsInterrupted() {
+  bool is_raised = has_beam_ && (io_[kEvents] & io_[kInterruptingEvents] & kLineEvent) != 0;
+  if (cpu_.cycles >= next_jiffy_) {
+    next_jiffy_ += kJiffy;
+    is_raised = is_raised || (io_[0xC0D] & 1) != 0;
+  }
+  return is_raised && !cpu_.Has(Cpu6502::kInterruptsOff);
+}
+
+void Machine::MoveBeam() {
+  while (lines_begun_ < cpu_.cycles / kLineCycles) BeginLine(static_cast<int>(++lines_begun_ % kLines));
+}
+
+void Machine::BeginLine(int line) {
+  const int on_screen = line - kFirstLine;
+  const bool is_on = (io_[kControl] & 0x10) != 0;
+  if (is_on && on_screen >= 0 && on_screen < 200 && on_screen % 8 == 0) cpu_.cycles += kStolenCycles;
+  if (line == (io_[kLine] | (io_[kControl] & 0x80) << 1)) io_[kEvents] |= kLineEvent;
 }
 
 // A trap without a routine is the KERNAL's own answer to an interrupt, which changes nothing that a program sees.
@@ -166,6 +189,7 @@ void Machine::Write(std::uint16_t address, std::uint8_t value) {
 }
 
 std::uint8_t Machine::ReadIo(std::uint16_t address) {
+  if (const auto value = ReadBeam(address)) return *value;
   if (address < 0xD800 && !KeepsItsValue(address)) Fault("reading what the raster beam or the SID makes", address);
   const std::uint8_t value = io_[address - 0xD000U];
   if (address < 0xD800 || address >= 0xDC00) return value;
@@ -173,8 +197,17 @@ std::uint8_t Machine::ReadIo(std::uint16_t address) {
   return static_cast<std::uint8_t>((value & 0x0F) | (open_bus_ & 0xF0));
 }
 
+std::optional<std::uint8_t> Machine::ReadBeam(std::uint16_t address) const {
+  if (!has_beam_) return std::nullopt;
+  const auto line = cpu_.cycles / kLineCycles % kLines;
+  if (address == 0xD011) return static_cast<std::uint8_t>((io_[kControl] & 0x7F) | (line >> 8) << 7);
+  if (address == 0xD012) return static_cast<std::uint8_t>(line);
+  return std::nullopt;
+}
+
 void Machine::WriteIo(std::uint16_t address, std::uint8_t value) {
   const std::size_t index = address - 0xD000U;
+  if (has_beam_ && index == kEvents) value = static_cast<std::uint8_t>(io_[kEvents] & ~value);  // a 1 takes one back
   if (index != 0xC0D && index != 0xD0D) {
     io_[index] = value;
     return;

@@ -6,10 +6,11 @@
 //   const Screen screen = ScreenOf(machine);  // what it shows then, see c64/screen.h
 //
 // It has the processor with $01 banking, RAM, colour RAM, the VIC's registers but for the raster, the VIC's
-// bank, and the 60 Hz interrupt. There are no ROMs: a KERNAL routine is a trap that the caller sets, and what must not
-// happen is a MachineFault: executing what nobody wrote, reading ROM as data, calling a routine without a trap, writing
-// a zero page byte that BASIC and KERNAL keep, changing what a shown bitmap consists of, running on without an end.
-// There is no raster beam, no SID, no second CIA but for the VIC's bank, and the interrupt comes from its timer alone.
+// bank, and the 60 Hz interrupt; where it is asked for, a PAL machine's raster beam too (c64/beam.h shows what it
+// draws). There are no ROMs: a KERNAL routine is a trap that the caller sets, and what must not happen is a
+// MachineFault: executing what nobody wrote, reading ROM as data, calling a routine without a trap, writing a zero page
+// byte that BASIC and KERNAL keep, changing what a shown bitmap consists of, running on without an end. There is no
+// SID, no second CIA but for the VIC's bank, and no interrupt but of the timer and of the beam.
 #pragma once
 
 #include <array>
@@ -30,6 +31,10 @@ class Machine final : public Bus {
 
   static constexpr std::uint64_t kMostCycles = 20'000'000;  // about 20 seconds
 
+  // Of a PAL machine's beam. The 200 lines of a picture begin at kFirstLine.
+  static constexpr int kLineCycles = 63, kLines = 312, kFieldCycles = kLineCycles * kLines, kFirstLine = 51;
+  static constexpr int kStolenCycles = 43;
+
   // A machine after power-on whose RAM holds leftovers of an earlier program.
   Machine();
 
@@ -41,6 +46,10 @@ class Machine final : public Bus {
   void PressRestoreEvery(std::uint64_t cycles) { restore_every_ = cycles; }
   // A program may change what it shows.
   void LetItChangeWhatIsShown() { may_change_ = true; }
+  // Moves a beam from power-on on: its line can be read in $D011 and $D012, $D019 and $D01A interrupt at a line, and
+  // each first line of a row of cells takes kStolenCycles from the processor, the most that it may be, at its
+  // beginning.
+  void SwitchBeamOn() { has_beam_ = true; }
   // What a jump to the program from a running one leaves behind: decimal mode, a deep stack.
   void LeaveUnclean() { unclean_ = true; }
 
@@ -74,10 +83,14 @@ class Machine final : public Bus {
   Area Chip(std::uint16_t address) const;
   std::uint8_t ReadIo(std::uint16_t address);
   void WriteIo(std::uint16_t address, std::uint8_t value);
+  std::optional<std::uint8_t> ReadBeam(std::uint16_t address) const;
+  void MoveBeam();
+  void BeginLine(int line);
   bool ShowsBitmap() const { return (io_[0x11] & 0x30) == 0x30; }
   bool IsShown(std::uint16_t address) const;
   std::uint16_t SysAddress() const;
   void Interrupts();
+  bool IsInterrupted();
   void CallTrap();
   [[noreturn]] void Fault(const std::string& what, std::uint16_t address) const;
   [[noreturn]] void Crash(const std::string& what, std::uint16_t address) const;
@@ -90,8 +103,9 @@ class Machine final : public Bus {
   std::map<std::uint16_t, std::function<void(Cpu6502&)>> traps_;
   std::uint8_t stack_at_start_ = 0;
   std::uint64_t next_jiffy_ = 0, next_restore_ = 0, restore_every_ = 0;
-  std::uint8_t open_bus_ = 0;  // what colour RAM's missing half reads as, ever something else
-  bool unclean_ = false, may_change_ = false;
+  std::uint8_t open_bus_ = 0;      // what colour RAM's missing half reads as, ever something else
+  std::uint64_t lines_begun_ = 0;  // by the beam, since power-on
+  bool unclean_ = false, may_change_ = false, has_beam_ = false;
 };
 
 }  // namespace kelvo::c64

@@ -1,0 +1,52 @@
+// A whole animation: its frames in, the bytes for the player and what they cost out.
+//
+//   Animation animation;
+//   for (const auto& frame : frames) animation.Add(frame, 2);
+//   const AnimationPlan plan = animation.Plan(Playing::kRound);
+//   if (plan.Fits()) WriteWholeFile(path, plan.memory);   // what animplay.src takes
+#pragma once
+
+#include "c64anim/animation_format.h"
+#include "c64anim/beam_race.h"
+
+namespace kelvo::c64anim {
+
+enum class Playing { kOnce, kRound, kToAndFro };
+
+// The changes that lead from a frame to the next, or from the last to the first.
+struct ChangeCost {
+  int to_frame = 1;
+  int cells = 0;  // that change
+  int bytes = 0;  // 0 when a change before has the same
+  Pace pace{};
+  bool fits = false;  // into what memory is left
+
+  double MostRate() const { return static_cast<double>(kFieldsPerSecond) / pace.fields; }  // frames a second
+};
+
+struct AnimationPlan {
+  std::vector<ChangeCost> changes;
+  Bytes memory;  // from kAnimationStart on; empty when something does not fit
+
+  bool Fits() const { return !memory.empty(); }
+};
+
+class Animation {
+ public:
+  // `fields` (1..kMostFields) of the beam is how long the frame is shown. Throws std::runtime_error for another number
+  // and for a background that is not the first frame's.
+  void Add(const model::PictureImage& frame, int fields);
+
+  int Frames() const { return static_cast<int>(fields_.size()); }
+  // Throws std::runtime_error when there is no frame, or more than there can be steps for.
+  AnimationPlan Plan(Playing playing) const;
+
+ private:
+  SteadyCells steady_;
+  Cells first_, last_;
+  model::C64Colour background_;
+  std::vector<int> fields_;     // by frame
+  std::vector<Bytes> changes_;  // to each frame but the first
+};
+
+}  // namespace kelvo::c64anim

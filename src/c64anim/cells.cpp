@@ -1,0 +1,60 @@
+#include "c64anim/cells.h"
+
+#include <algorithm>
+
+#include "optimise/slot_order.h"
+
+namespace kelvo::c64anim {
+namespace {
+
+// The cell with the colours of `order`; slots that no pixel uses keep those of `before`.
+CellBytes Written(const optimise::SlotOrder& order, const CellBytes& before) {
+  const auto& [slot01, slot10, slot11] = order.slots;
+  return {.lines = order.lines,
+          .screen = static_cast<std::uint8_t>(slot01.value_or(before.screen >> 4) << 4 |
+                                              slot10.value_or(before.screen & 0x0F)),
+          .colour = slot11.value_or(before.colour)};
+}
+
+int ChangedBytes(const CellBytes& before, const CellBytes& after) {
+  int changed = (before.screen != after.screen ? 1 : 0) + (before.colour != after.colour ? 1 : 0);
+  for (std::size_t line = 0; line < before.lines.size(); ++line) changed += before.lines[line] != after.lines[line];
+  return changed;
+}
+
+}  // namespace
+
+Cells CellsOf(const model::PictureImage& picture) {
+  Cells cells(model::PictureImage::kCells);
+  for (std::size_t cell = 0; cell < cells.size(); ++cell) {
+    std::copy_n(picture.Bitmap.begin() + 1 + static_cast<std::ptrdiff_t>(cell * 8), 8, cells[cell].lines.begin());
+    cells[cell].screen = picture.ScreenMemory[cell + 1];
+    cells[cell].colour = picture.ColourMemory[cell + 1] & 0x0F;
+  }
+  return cells;
+}
+
+Cells SteadyCells::Next(const model::PictureImage& frame) {
+  const Cells drawn = CellsOf(frame);
+  const bool is_first = drawn_.empty();
+  if (is_first) steady_ = drawn;
+  for (std::size_t cell = 0; cell < drawn.size(); ++cell) {
+    if (is_first || drawn[cell] != drawn_[cell]) steady_[cell] = BytesOf(frame, cell, steady_[cell]);
+  }
+  drawn_ = drawn;
+  return steady_;
+}
+
+CellBytes SteadyCells::BytesOf(const model::PictureImage& frame, std::size_t cell, const CellBytes& before) {
+  const auto orders = optimise::SlotOrdersOf(frame, static_cast<int>(cell) + 1);
+  const auto [known, is_new] = known_[cell].try_emplace(Written(orders.front(), {}));
+  if (!is_new) return known->second;
+  const auto changes = [&](const optimise::SlotOrder& order) { return ChangedBytes(before, Written(order, before)); };
+  known->second =
+      Written(*std::min_element(orders.begin(), orders.end(),
+                                [&](const auto& one, const auto& other) { return changes(one) < changes(other); }),
+              before);
+  return known->second;
+}
+
+}  // namespace kelvo::c64anim

@@ -1,0 +1,206 @@
+// Animations on a C64: what the beam of a PAL machine draws while the player runs, field by field, is every frame for
+// its time and nothing else. And their bytes: how few, and what does not fit.
+#include "c64anim/animation.h"
+
+#include <gtest/gtest.h>
+
+#include "c64/beam.h"
+#include "c64out/fill_template.h"
+#include "optimise/slot_order.h"
+#include "support/files.h"
+#include "support/pictures.h"
+#include "support/run_tool.h"
+
+namespace kelvo::c64anim {
+namespace {
+
+using model::PictureImage;
+using Frames = std::vector<PictureImage>;
+
+// `picture` with `cells` new cells from `first` (0..999) on, every `step`-th.
+PictureImage Changed(PictureImage picture, int first, int cells, int step = 1) {
+  std::mt19937 random(static_cast<unsigned>(first * 1000 + cells));
+  const auto colour = [&] { return static_cast<int>(random() % 16); };
+  for (int i = 0; i < cells; ++i) {
+    std::array<std::uint8_t, 8> lines{};
+    for (std::uint8_t& line : lines) line = static_cast<std::uint8_t>(random());
+    support::SetCell(picture, (first + i * step) % 1000 + 1, lines, colour(), colour(), colour());
+  }
+  return picture;
+}
+
+// Sixteen frames: 50 cells stand side by side and walk on, then 50 all over the picture. So 97 to 100 change each time.
+Frames WalkCycle() {
+  const PictureImage ground = support::RandomPicture(8);
+  Frames frames;
+  for (int i = 0; i < 8; ++i) frames.push_back(Changed(ground, 420 + i * 50, 50));
+  for (int i = 8; i < 16; ++i) frames.push_back(Changed(ground, i - 7, 50, 20));
+  return frames;
+}
+
+bool Shows(const c64::Screen& screen, const PictureImage& frame) {
+  for (int y = 0; y < 200; ++y) {
+    for (int x = 0; x < 320; x += 2) {
+      const int wanted = support::ColourAt(frame, x / 2 + 1, y + 1);
+      if (screen.At(x, y) != wanted || screen.At(x + 1, y) != wanted) return false;
+    }
+  }
+  return true;
+}
+
+// A frame on the screen: for so many fields, of which all but the last may be torn.
+struct Turn {
+  const PictureImage* frame;
+  int fields;
+  bool is_torn = false;
+};
+
+class AnimationProgram : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    if (!support::IsInstalled("64tass")) GTEST_SKIP() << "64tass is not installed";
+  }
+
+  app::Bytes Program(const Bytes& memory) const {
+    const std::filesystem::path data = folder_ / "animation.bin", source = folder_ / "animplay.tmp";
+    support::WriteFile(data, memory);
+    c64out::FillTemplate(KELVO_ASSETS "/system/animplay.src", source, {"[animation]", data.string(), {}});
+    const std::string prg = (folder_ / "animation.prg").string();
+    const support::ToolRun run =
+        support::RunTool("64tass", {"-a", "-q", "-C", "-B", "--cbm-prg", "-Wno-portable", "-o", prg, source.string()});
+    EXPECT_EQ(run.exit_code, 0) << run.errors;
+    return support::ReadFile(prg);
+  }
+
+  // Runs the program until it shows the first of `shown`, then expects them all.
+  void ExpectPlays(const Bytes& memory, const std::vector<Turn>& shown) const {
+    c64::Machine machine;
+    machine.LetItChangeWhatIsShown();
+    machine.LeaveUnclean();
+    machine.PressRestoreEvery(1'234'567);
+    machine.Load(Program(memory));
+    c64::Beam beam(machine);
+    machine.Start();
+    c64::Screen screen = beam.NextField();
+    for (int waited = 0; waited < 10 && !Shows(screen, *shown.front().frame); ++waited) screen = beam.NextField();
+    for (std::size_t i = 0; i < shown.size(); ++i) {
+      for (int field = 1; field <= shown[i].fields; ++field, screen = beam.NextField()) {
+        if (shown[i].is_torn && field < shown[i].fields) continue;
+        ASSERT_TRUE(Shows(screen, *shown[i].frame)) << "turn " << i << " field " << field;
+        ASSERT_EQ(screen.border, shown[i].frame->BackgroundColour.Number());
+      }
+    }
+  }
+
+  support::TempFolder folder_;
+};
+
+// Which frames are seen, for three rounds.
+std::vector<Turn> Seen(const Frames& frames, Playing playing) {
+  std::vector<Turn> round, seen;
+  for (const PictureImage& frame : frames) round.push_back({&frame, 2});
+  if (playing == Playing::kToAndFro) {
+    for (std::size_t i = frames.size() - 2; i > 0; --i) round.push_back({&frames[i], 2});
+  }
+  for (int i = 0; i < 3; ++i) seen.insert(seen.end(), round.begin(), round.end());
+  if (playing == Playing::kOnce) std::fill(seen.begin() + std::ssize(frames), seen.end(), round.back());
+  return seen;
+}
+
+TEST_F(AnimationProgram, ShowsSixteenFramesOfAHundredCellsAt25ASecond) {
+  const Frames frames = WalkCycle();
+  Animation animation;
+  for (const PictureImage& frame : frames) animation.Add(frame, 2);
+  for (const Playing playing : {Playing::kOnce, Playing::kRound, Playing::kToAndFro}) {
+    SCOPED_TRACE(static_cast<int>(playing));
+    const AnimationPlan plan = animation.Plan(playing);
+    EXPECT_EQ(plan.changes.size(), playing == Playing::kRound ? 16U : 15U);
+    for (const ChangeCost& cost : plan.changes) {
+      EXPECT_TRUE(cost.cells >= 97 && cost.MostRate() == 25 && !cost.pace.is_overtaken) << cost.to_frame;
+    }
+    ExpectPlays(plan.memory, Seen(frames, playing));
+  }
+}
+
+// The fewest fields that a change is told to need are enough, and what is told to be whole is never torn.
+TEST_F(AnimationProgram, KeepsTheTimesThatWereTold) {
+  Frames frames{support::RandomPicture(3)};
+  for (const auto& [first, cells, step] : {std::tuple{0, 1, 1},
+                                           {999, 1, 1},
+                                           {0, 60, 1},
+                                           {940, 60, 1},
+                                           {300, 99, 1},
+                                           {5, 110, 9},
+                                           {0, 170, 1},
+                                           {7, 250, 4},
+                                           {0, 500, 2},
+                                           {0, 1000, 1}}) {
+    frames.push_back(Changed(frames.back(), first, cells, step));
+  }
+  Animation told, timed;
+  for (const PictureImage& frame : frames) told.Add(frame, 1);
+  std::vector<Turn> shown{{&frames[0], 1}};
+  for (const ChangeCost& cost : told.Plan(Playing::kOnce).changes) {
+    shown.push_back({&frames[shown.size()], cost.pace.fields, cost.pace.is_overtaken});
+  }
+  for (const Turn& turn : shown) timed.Add(*turn.frame, turn.fields);
+  const AnimationPlan plan = timed.Plan(Playing::kOnce);
+  ASSERT_TRUE(plan.Fits());
+  EXPECT_TRUE(!shown[6].is_torn && shown.back().is_torn);
+  ExpectPlays(plan.memory, shown);
+}
+
+TEST(Animation, TakesNothingForWhatLooksTheSame) {
+  const PictureImage frame = support::RandomPicture(4), other = Changed(frame, 30, 9);
+  PictureImage same = frame;
+  for (int cell = 1; cell <= 1000; ++cell) {
+    const optimise::SlotOrder order = optimise::SlotOrdersOf(frame, cell).back();
+    const auto colour = [&](std::size_t slot) { return order.slots.at(slot).value_or(7); };
+    support::SetCell(same, cell, order.lines, colour(2), colour(1), colour(0));
+  }
+  Animation animation;
+  for (const PictureImage& one : {frame, same, other, same, other}) animation.Add(one, 1);
+  const AnimationPlan plan = animation.Plan(Playing::kRound);
+  const std::vector<std::pair<int, int>> cells_and_bytes{{0, 1}, {9, 102}, {9, 0}, {9, 0}, {9, 0}};
+  for (std::size_t i = 0; i < plan.changes.size(); ++i) {
+    EXPECT_EQ(std::pair(plan.changes[i].cells, plan.changes[i].bytes), cells_and_bytes.at(i)) << i;
+  }
+}
+
+TEST(Animation, TellsWhatDoesNotFit) {
+  PictureImage frame = support::RandomPicture(6);
+  Animation animation;
+  EXPECT_THROW(animation.Plan(Playing::kOnce), std::runtime_error);
+  EXPECT_THROW(animation.Add(frame, 0), std::runtime_error);
+  EXPECT_THROW(animation.Add(frame, 128), std::runtime_error);
+  for (const int cells : {0, 1000, 1000, 1000, 600, 1})
+    animation.Add(frame = Changed(frame, animation.Frames(), cells), 1);
+  frame.BackgroundColour = support::Colour((frame.BackgroundColour.Number() + 1) % 16);
+  EXPECT_THROW(animation.Add(frame, 1), std::runtime_error);
+  const AnimationPlan plan = animation.Plan(Playing::kOnce);
+  EXPECT_FALSE(plan.Fits());
+  std::vector<int> missing;
+  for (const ChangeCost& cost : plan.changes) {
+    if (!cost.fits) missing.push_back(cost.to_frame);
+  }
+  EXPECT_EQ(missing, std::vector{4});
+}
+
+TEST(Changes, AreNotMadeWhenTheyAreDamaged) {
+  const Cells before = CellsOf(support::RandomPicture(1)),
+              after = CellsOf(Changed(support::RandomPicture(1), 30, 20, 7));
+  const Bytes changes = ChangesBetween(before, after);
+  Cells cells = before;
+  MakeChanges(changes, cells);
+  EXPECT_EQ(cells, after);
+  for (std::size_t size = 0; size < changes.size(); ++size) {
+    EXPECT_THROW(MakeChanges(std::span(changes).first(size), cells), std::runtime_error) << size;
+  }
+  for (const Bytes& wrong : {Bytes{50}, {0xFF, 0}, {49, 9 << 3 | 2, 0, 0, 0, 0, 0, 0, 0, 0, 0xFF}}) {
+    EXPECT_THROW(MakeChanges(wrong, cells), std::runtime_error);
+  }
+  EXPECT_EQ(cells, after);
+}
+
+}  // namespace
+}  // namespace kelvo::c64anim
