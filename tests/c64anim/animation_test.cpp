@@ -122,32 +122,52 @@ TEST_F(AnimationProgram, ShowsSixteenFramesOfAHundredCellsAt25ASecond) {
   }
 }
 
-// The fewest fields that a change is told to need are enough, and what is told to be whole is never torn.
+// How changes to `cells` cells from `first` on, every `step`-th, are told to go.
+Pace Told(const PictureImage& from, int first, int cells, int step) {
+  Cells changed = CellsOf(from);
+  const Bytes changes = ChangesBetween(changed, CellsOf(Changed(from, first, cells, step)));
+  return PaceOf(MakeChanges(changes, changed));
+}
+
+// The fewest fields that a change is told to need are enough, and what is told to be whole is never torn, up to the
+// most cells of which this is told.
 TEST_F(AnimationProgram, KeepsTheTimesThatWereTold) {
   Frames frames{support::RandomPicture(3)};
-  for (const auto& [first, cells, step] : {std::tuple{0, 1, 1},
-                                           {999, 1, 1},
-                                           {0, 60, 1},
-                                           {940, 60, 1},
-                                           {300, 99, 1},
-                                           {5, 110, 9},
-                                           {0, 170, 1},
-                                           {7, 250, 4},
-                                           {0, 500, 2},
-                                           {0, 1000, 1}}) {
+  std::vector<Turn> told{{nullptr, 1}};
+  const auto add = [&](int first, int cells, int step) {
+    const Pace pace = Told(frames.back(), first, cells, step);
+    told.push_back({nullptr, pace.fields, pace.is_overtaken});
     frames.push_back(Changed(frames.back(), first, cells, step));
+  };
+  // Side by side, in one row, at the beginning and the end, all over the picture, in columns; the most cells there are.
+  for (const auto& [first, step, most] : {std::tuple{0, 1, 1000},
+                                          {440, 1, 1000},
+                                          {900, 1, 100},
+                                          {0, 3, 333},
+                                          {2, 7, 142},
+                                          {400, 9, 66},
+                                          {1, 9, 111},
+                                          {0, 13, 76}}) {
+    for (const int fields : {1, 2}) {
+      int cells = most;
+      for (Pace pace = Told(frames.back(), first, cells, step); pace.is_overtaken || pace.fields > fields;
+           pace = Told(frames.back(), first, cells, step)) {
+        --cells;
+      }
+      EXPECT_GT(cells, 40) << first << ' ' << step;
+      add(first, cells, step);
+    }
   }
-  Animation told, timed;
-  for (const PictureImage& frame : frames) told.Add(frame, 1);
-  std::vector<Turn> shown{{&frames[0], 1}};
-  for (const ChangeCost& cost : told.Plan(Playing::kOnce).changes) {
-    shown.push_back({&frames[shown.size()], cost.pace.fields, cost.pace.is_overtaken});
+  add(0, 1000, 1);
+  Animation animation;
+  for (std::size_t i = 0; i < frames.size(); ++i) {
+    told[i].frame = &frames[i];
+    animation.Add(frames[i], told[i].fields);
   }
-  for (const Turn& turn : shown) timed.Add(*turn.frame, turn.fields);
-  const AnimationPlan plan = timed.Plan(Playing::kOnce);
+  const AnimationPlan plan = animation.Plan(Playing::kOnce);
   ASSERT_TRUE(plan.Fits());
-  EXPECT_TRUE(!shown[6].is_torn && shown.back().is_torn);
-  ExpectPlays(plan.memory, shown);
+  EXPECT_TRUE(told.back().is_torn);
+  ExpectPlays(plan.memory, told);
 }
 
 TEST(Animation, TakesNothingForWhatLooksTheSame) {
