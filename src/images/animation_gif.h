@@ -1,0 +1,33 @@
+// An animation as a GIF file: each frame in the sixteen colours of a palette, for its time, over and over.
+//
+//   AnimationGif gif;
+//   for (const auto& picture : pictures) gif.Add(ImageOf(picture, palette, ImageSize::kScreen, 2), 4);
+//   app::WriteWholeFile(path, gif.Finished());
+#pragma once
+
+#include <QImage>
+
+#include "app/bytes.h"
+
+namespace kelvo::images {
+
+class AnimationGif {
+ public:
+  static constexpr int kMostHundredths = 65535;
+
+  // `image` is one of ImageOf(), of the same size and palette as those before, and is shown for `hundredths`
+  // (1..kMostHundredths) of a second; programs that show GIFs take 1 for longer. Of a frame only the rectangle that
+  // differs from the one before is kept. Throws std::runtime_error for another image or time.
+  void Add(const QImage& image, int hundredths);
+
+  // The file. Throws std::runtime_error when nothing was added.
+  app::Bytes Finished() const;
+
+ private:
+  void PutHeader(const QImage& image);
+
+  QImage before_;
+  app::Bytes bytes_;
+};
+
+}  // namespace kelvo::images
