@@ -82,4 +82,19 @@ void WriteOutput(const std::string& output, std::string_view text) {
   WriteOutput(output, bytes);
 }
 
+void WriteOutputs(const std::vector<std::string>& outputs, const std::vector<app::Bytes>& files) {
+  std::vector<fs::path> made;
+  std::error_code ignored;
+  try {
+    for (std::size_t i = 0; i < outputs.size(); ++i) {
+      const bool is_new = !fs::exists(app::PathFromText(outputs[i]), ignored);
+      WriteOutput(outputs[i], files[i]);
+      if (is_new) made.push_back(app::PathFromText(outputs[i]));
+    }
+  } catch (const app::FileError&) {
+    for (const fs::path& file : made) fs::remove(file, ignored);
+    throw;
+  }
+}
+
 }  // namespace kelvo::cli
