@@ -77,6 +77,13 @@ TEST_F(ExportTest, PngImagesHoldThePictureBitForBit) {
             ASSERT_EQ(read.pixel(corner * scale + QPoint(x, y)), colour(expected)) << x << ' ' << y;
           }
         }
+        // It comes back as it went, in whatever palette pictures are shown.
+        app::NoProgress nobody;
+        convert::Conversion conversion(images::ReadImage(png), {palette.colours});
+        const convert::Converted again = conversion.Convert({}, nobody);
+        EXPECT_TRUE(again.exact);
+        const QImage image = images::ImageOf(convert::PictureOf(again.map), shown, size, scale);
+        EXPECT_EQ(images::PngOf(image), png);
       }
     }
   }
