@@ -44,10 +44,12 @@ std::vector<std::string> OutputsInFolder(const Arguments& arguments, std::string
 }  // namespace
 
 std::string FormatToWrite(const Arguments& arguments) {
-  const std::string output = arguments.Output(), format = arguments.Text(kTo, FormatByEnding(output));
+  const std::string output = arguments.Output();
+  std::string format = arguments.Text(kTo, FormatByEnding(output));
   if (!format.empty()) return format;
-  if (IsFolder(output))
+  if (IsFolder(output)) {
     throw UsageError(output + ": this is a folder; --to says what is to be in it", arguments.command);
+  }
   throw UsageError(NameOfOutput(output) + ": its name tells no format; --to does", arguments.command);
 }
 
