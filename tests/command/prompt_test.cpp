@@ -22,9 +22,16 @@ class ProcessCommandTest : public testing::Test, protected support::Program {
  protected:
   Lines Replies(const std::string& line) {
     prompt.lines.clear();
-    ProcessCommand(line, surroundings, kFailingAnimation);
+    ProcessCommand(line, surroundings, kFailingAnimation, images);
     return prompt.lines;
   }
+  // One image can be read; the bare word asks.
+  Lines imported;
+  const ImageImport images{[this] { imported.emplace_back("?"); },
+                           [this](const fs::path& image) {
+                             imported.push_back(app::TextFromPath(image.lexically_relative(folders.Root())));
+                             return fs::exists(image);
+                           }};
   static void WritePicture(const fs::path& path) {
     fs::create_directories(path.parent_path());
     support::WriteFile(path, support::CountingBytes(10003));
