@@ -75,6 +75,18 @@ TEST_F(ProcessCommandTest, RepliesExactly) {
   EXPECT_TRUE(messages.shown.empty());
 }
 
+TEST_F(ProcessCommandTest, ImportsImagesOfTheFolderOfPictures) {
+  support::WriteText(folders.Gfx() / "Pic.png", "");
+  EXPECT_EQ(Replies("IMPORT PIC"), Lines{});  // whoever imports replies
+  EXPECT_EQ(Replies("IMPORT"), Lines{});
+  for (const std::string line : {"IMPORT X", "IMPORT ", "IMPORT ..\\PIC", "IMPORT PIC,8"}) {
+    EXPECT_EQ(Replies(line), Lines{line + " [err 902]"});
+  }
+  const fs::path gfx = folders.Gfx().lexically_relative(folders.Root());
+  EXPECT_EQ(imported, (Lines{app::TextFromPath(gfx / "Pic.png"), "?", app::TextFromPath(gfx / "X.PNG"),
+                             app::TextFromPath(gfx / ".PNG"), app::TextFromPath(gfx / "PIC,8.PNG")}));
+}
+
 TEST_F(ProcessCommandTest, MakesFoldersInOnePlaceAndRemovesThemInAnother) {
   EXPECT_EQ(Replies("MD A B"), Lines{"FOLDER \\AB CREATED"});
   EXPECT_TRUE(fs::is_directory(folders.Root() / "AB"));

@@ -11,7 +11,7 @@ namespace {
 
 constexpr int kWheelStep = 120;  // eighths of a degree
 constexpr int kScrollPixels = 40;
-constexpr QSize kSmallest(200, 125);
+constexpr QSize kScreen(320, 200), kSmallest(200, 125);
 
 // The centre of a view that shows `share` of a length: nothing beyond the ends is seen that need not be.
 double Inside(double centre, double share) {
@@ -26,7 +26,8 @@ void SharedLook::Show(int zoom, QPointF centre) {
   emit Changed();
 }
 
-ComparePane::ComparePane(SharedLook& look, QWidget* parent) : QWidget(parent), look_(look), picture_(320, 200) {
+ComparePane::ComparePane(SharedLook& look, QWidget* parent)
+    : QWidget(parent), look_(look), picture_(kScreen), preferred_(kScreen) {
   setFocusPolicy(Qt::StrongFocus);
   setMouseTracking(true);
   setMinimumSize(kSmallest);
@@ -37,6 +38,12 @@ ComparePane::ComparePane(SharedLook& look, QWidget* parent) : QWidget(parent), l
 void ComparePane::SetPictureSize(QSize size) {
   picture_ = size;
   update();
+}
+
+void ComparePane::PreferSize(QSize room, QSize beside) {
+  const QSize free = room - beside;
+  const int factor = std::min(free.width() / 2 / kScreen.width(), free.height() / kScreen.height());
+  preferred_ = kScreen * std::max(factor, 1);
 }
 
 // The widget pixels of a picture's: a whole number of device pixels, where there is room for that.

@@ -39,6 +39,10 @@ class ComparePane : public QWidget {
   // In pixels of a display, each side 1 or more.
   void SetPictureSize(QSize size);
 
+  // As large as a display of `room` has room for two of them, and for what `beside` takes.
+  void PreferSize(QSize room, QSize beside);
+  QSize sizeHint() const override { return preferred_; }
+
  protected:
   // Where the picture lies in the widget: every pixel of it as large as the next.
   QRectF PictureRect() const;
@@ -62,7 +66,7 @@ class ComparePane : public QWidget {
   void Scroll(QPointF by);
 
   SharedLook& look_;
-  QSize picture_;
+  QSize picture_, preferred_;
   QPoint wheel_;  // what was turned and did not make a whole step yet
   std::optional<QPointF> dragged_from_;
 };

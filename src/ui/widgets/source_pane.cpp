@@ -69,8 +69,8 @@ void SourcePane::paintEvent(QPaintEvent*) {
     image_.Draw(painter, ImageRect());
     const QRectF frame = FrameRect();
     QPainterPath beside;
-    beside.addRect(QRectF(rect()));
-    beside.addRect(frame);
+    beside.addRect(ImageRect());
+    beside.addRect(frame & ImageRect());
     painter.fillPath(beside, QColor(0, 0, 0, 130));
     painter.setPen(Qt::black);
     painter.drawRect(frame.adjusted(-1, -1, 0, 0));

@@ -5,6 +5,7 @@
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
 #include <cmath>
+#include <initializer_list>
 
 #include "ui/widgets/icons.h"
 
@@ -15,7 +16,7 @@ constexpr int kPositions = 200, kPage = 10;
 
 }  // namespace
 
-ValueSlider::ValueSlider(const ValueRange& range, QGridLayout& grid, QWidget* parent)
+ValueSlider::ValueSlider(const ValueRange& range, QGridLayout& grid, int row, int column, QWidget* parent)
     : QObject(parent),
       range_(range),
       slider_(new QSlider(Qt::Horizontal, parent)),
@@ -43,16 +44,15 @@ ValueSlider::ValueSlider(const ValueRange& range, QGridLayout& grid, QWidget* pa
   reset_->setFocusPolicy(Qt::TabFocus);
   reset_->setAccessibleName(plain + " back to " + field_->textFromValue(range.usual));
   reset_->setToolTip(reset_->accessibleName());
-  const int row = grid.rowCount();
-  grid.addWidget(label, row, 0);
-  grid.addWidget(slider_, row, 1);
-  grid.addWidget(field_, row, 2);
-  grid.addWidget(reset_, row, 3);
+  for (QWidget* widget : std::initializer_list<QWidget*>{label, slider_, field_, reset_}) {
+    grid.addWidget(widget, row, column++);
+  }
   connect(slider_, &QSlider::valueChanged, this, &ValueSlider::Slide);
   connect(field_, &QDoubleSpinBox::valueChanged, this, &ValueSlider::ValueChanged);
   connect(reset_, &QToolButton::clicked, this, &ValueSlider::PutBack);
   const QSignalBlocker silence(this);
   PutBack();
+  range_.usual = Value();  // as many decimals as it can have
   ValueChanged();
 }
 

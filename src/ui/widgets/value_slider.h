@@ -20,8 +20,8 @@ class ValueSlider : public QObject {
   Q_OBJECT
 
  public:
-  // Takes the next row of `grid`, whose widgets belong to `parent`.
-  ValueSlider(const ValueRange& range, QGridLayout& grid, QWidget* parent);
+  // Takes four columns of a row of `grid`, from `column` on; its widgets belong to `parent`.
+  ValueSlider(const ValueRange& range, QGridLayout& grid, int row, int column, QWidget* parent);
 
   double Value() const { return field_->value(); }
   // A value outside the range becomes the nearest inside.

@@ -1,6 +1,5 @@
 #include "ui/windows/import_controls.h"
 
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QSignalBlocker>
 
@@ -15,6 +14,8 @@ using model::C64Colour;
 
 constexpr app::Setting kFit{"Import", "Fit", "0"}, kDither{"Import", "Dither", "0"}, kGrain{"Import", "Grain", ""},
     kBackground{"Import", "Background", "0"}, kBackdrop{"Import", "Backdrop", "0"};
+
+constexpr int kGapColumn = 2, kFirstSliderColumn = 3, kGapWidth = 16, kChoiceLetters = 21;
 
 // Of the box of dithers: between them stand those of the core.
 constexpr int kAsProposed = 0, kFirstDither = 1, kBySlider = kFirstDither + static_cast<int>(convert::kDithers.size());
@@ -76,21 +77,23 @@ void KeepValue(const ValueSlider& slider, app::SettingsStore& settings, const ap
 }  // namespace
 
 ImportControls::ImportControls(const app::SettingsStore& settings, QWidget* parent)
-    : QWidget(parent), choices_(new QGridLayout), values_(new QGridLayout) {
-  auto* row = new QHBoxLayout(this);
-  row->setContentsMargins({});
-  row->setSpacing(2 * row->spacing());
-  row->addLayout(choices_);
-  row->addLayout(values_, 1);
-  fit_ = AddChoice("cboFit", "&Fit:", {"Fill the picture", "Show all of the image", "Stretch the image"});
-  dither_ = AddChoice("cboDither", "&Dither:", DitherCaptions());
-  background_ = AddChoice("cboBackground", "Bac&kground:", {"Automatic"});
-  AddColours(*background_);
-  backdrop_ = AddChoice("cboBackdrop", "B&ehind the image:", {});
+    : QWidget(parent), grid_(new QGridLayout(this)) {
+  grid_->setContentsMargins({});
+  grid_->setColumnMinimumWidth(kGapColumn, kGapWidth);
+  grid_->setColumnStretch(1, 1);
+  grid_->setColumnStretch(kFirstSliderColumn + 1, 1);
+  dither_ = AddChoice(0, "cboDither", "&Dither:", DitherCaptions());
+  fit_ = AddChoice(1, "cboFit", "&Fit:", {"Fill the picture", "Show all of the image", "Stretch the image"});
+  background_ = AddChoice(2, "cboBackground", "Bac&kground:", {"Automatic"});
+  backdrop_ = AddChoice(3, "cboBackdrop", "B&ehind the image:", {});
   backdrop_->setToolTip("The color behind transparent parts, and beside an image that does not fill the picture");
+  AddColours(*background_);
   AddColours(*backdrop_);
-  grain_ = new ValueSlider(kGrainRange, *values_, this);
-  for (const LightSlider& light : kLightSliders) light_.push_back(new ValueSlider(light.range, *values_, this));
+  grain_ = new ValueSlider(kGrainRange, *grid_, 0, kFirstSliderColumn, this);
+  int row = 0;
+  for (const LightSlider& light : kLightSliders) {
+    light_.push_back(new ValueSlider(light.range, *grid_, ++row, kFirstSliderColumn, this));
+  }
 
   fit_->setCurrentIndex(app::ReadNumber(settings, kFit, 0, fit_->count() - 1));
   background_->setCurrentIndex(app::ReadNumber(settings, kBackground, 0, background_->count() - 1));
@@ -109,17 +112,18 @@ ImportControls::ImportControls(const app::SettingsStore& settings, QWidget* pare
   for (ValueSlider* light : light_) connect(light, &ValueSlider::Changed, this, &ImportControls::Changed);
 }
 
-QComboBox* ImportControls::AddChoice(const char* name, const QString& label, const QStringList& choices) {
+QComboBox* ImportControls::AddChoice(int row, const char* name, const QString& label, const QStringList& choices) {
   auto* box = new QComboBox(this);
   auto* words = new QLabel(label, this);
   words->setBuddy(box);
   box->setObjectName(name);
   box->setAccessibleName(QString(label).remove('&').remove(':'));
   box->addItems(choices);
+  box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  box->setMinimumContentsLength(kChoiceLetters);
   box->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-  const int row = choices_->rowCount();
-  choices_->addWidget(words, row, 0);
-  choices_->addWidget(box, row, 1);
+  grid_->addWidget(words, row, 0);
+  grid_->addWidget(box, row, 1);
   return box;
 }
 
@@ -136,11 +140,11 @@ void ImportControls::Propose(const convert::Dither& dither) {
 }
 
 void ImportControls::ShowBackgrounds(const std::array<double, C64Colour::kCount>& errors, C64Colour shown) {
-  background_->setItemText(kAutomatic, QString("Automatic: %1").arg(NameOf(shown)));
+  background_->setItemText(kAutomatic, QString(fixed_ ? "The picture's: %1" : "Automatic: %1").arg(NameOf(shown)));
   background_->setItemIcon(kAutomatic, ColourIcon(shown));
   for (int number = 0; number < C64Colour::kCount; ++number) {
     const double error = errors.at(static_cast<std::size_t>(number));
-    const QString words = QString("   (error %1)").arg(error, 0, 'f', 1);
+    const QString words = QString("   (error %1)").arg(error, 0, 'f', 2);
     background_->setItemText(kFirstColour + number, NameOf(ColourAt(number)) + (error > 0 ? words : ""));
   }
 }

@@ -36,14 +36,13 @@ class ImportControls : public QWidget {
   void Changed();
 
  private:
-  QComboBox* AddChoice(const char* name, const QString& label, const QStringList& choices);
+  QComboBox* AddChoice(int row, const char* name, const QString& label, const QStringList& choices);
   void AddColours(QComboBox& box) const;
   void ChooseDither();
   void GrainChanged();
   float Grain() const;
 
-  QGridLayout* choices_;
-  QGridLayout* values_;
+  QGridLayout* grid_;
   QComboBox* fit_;
   QComboBox* dither_;
   QComboBox* background_;

@@ -3,6 +3,7 @@
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QScreen>
 #include <QVBoxLayout>
 #include <utility>
 
@@ -14,7 +15,8 @@ namespace {
 
 constexpr app::Setting kWorstCells{"Import", "WorstCells", "0"};
 constexpr Qt::Key kOriginalKey = Qt::Key_F2;
-constexpr int kPixelWidth = 2;  // of the display
+constexpr int kPixelWidth = 2;          // of the display
+constexpr QSize kBesideViews(80, 380);  // what the rest of the dialog takes of a display
 // What has room.
 constexpr auto kUsualName = "photograph.jpeg, 4000 x 3000";
 constexpr auto kUsualResult = "32,000 of 32,000 pixels changed, in 1,000 of 1,000 cells; mean error 10.0...";
@@ -72,6 +74,9 @@ ImportDialog::ImportDialog(ImportWorker::Read read, const QString& name, const m
   column->addWidget(controls_);
   column->addWidget(place_);
   column->addLayout(LastRow());
+
+  const QSize room = screen()->availableSize();
+  for (ComparePane* pane : std::initializer_list<ComparePane*>{source_, result_}) pane->PreferSize(room, kBesideViews);
 
   connect(controls_, &ImportControls::Changed, this, &ImportDialog::ConvertAgain);
   connect(place_, &ImportPlace::Changed, this, &ImportDialog::ConvertAgain);
