@@ -2,7 +2,8 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <cstring>
+#include <string>
+#include <system_error>
 
 #include "app/whole_file.h"
 
@@ -13,7 +14,7 @@ constexpr std::size_t kChunk = 65536;
 
 [[noreturn]] void FailToWrite(int error) {
   if (MeansClosed(error)) throw OutputClosed();
-  throw app::FileError("standard output: it cannot be written: " + std::string(std::strerror(error)));
+  throw app::FileError("standard output: it cannot be written: " + std::generic_category().message(error));
 }
 
 void WriteChecked(const void* data, std::size_t size) {
@@ -46,12 +47,12 @@ void Print(std::string_view text) {
 
 void Complain(std::string_view line) {
   if (line.empty()) return;
-  std::fprintf(stderr, "kelvo-cli: %.*s\n", static_cast<int>(line.size()), line.data());
+  std::fputs(("kelvo-cli: " + std::string(line) + "\n").c_str(), stderr);
 }
 
 void ShowProgress(std::size_t done, std::size_t all) {
   if (!IsTerminalWatching()) return;
-  std::fprintf(stderr, "%zu of %zu%c", done, all, done < all ? '\r' : '\n');
+  std::fputs((std::to_string(done) + " of " + std::to_string(all) + (done < all ? "\r" : "\n")).c_str(), stderr);
 }
 
 }  // namespace kelvo::cli

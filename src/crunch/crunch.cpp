@@ -74,40 +74,57 @@ Effort EffortOf(int level) {
   return kEfforts[static_cast<std::size_t>(level - kFirstLevel)];
 }
 
-void Write(BytesView bytes, Literals literals, const Effort& effort, BitWriter& writer) {
-  const Parse parse = FindTokens(bytes, literals, effort);
+void Write(BytesView bytes, Literals literals, const Parse& parse, BitWriter& writer) {
   WriteSection(bytes, parse.tokens, literals, parse.code, writer);
+}
+
+void Write(BytesView bytes, Literals literals, const Effort& effort, BitWriter& writer) {
+  Write(bytes, literals, FindTokens(bytes, literals, effort), writer);
 }
 
 Effort Quick(const Effort& effort) {
   return {std::min(effort.passes, 3), 1, effort.window};
 }
 
-// Whether a quick look finds `one` shorter by more than `margin` bits.
-bool IsShorter(const Parse& one, const Parse& other, int margin) {
-  return one.bits + margin < other.bits;
+// A way to pack a section of which there are two, and what a quick look finds of it.
+struct Way {
+  BytesView bytes;
+  Literals literals;
+  Parse quick;
+};
+
+Way LookAt(BytesView bytes, Literals literals, const Effort& effort) {
+  return {bytes, literals, FindTokens(bytes, literals, Quick(effort))};
 }
 
-bool PacksBetterInColumns(BytesView bitmap, const Effort& effort) {
-  return IsShorter(FindTokens(ToColumns(bitmap), Literals::kBytes, Quick(effort)),
-                   FindTokens(bitmap, Literals::kBytes, Quick(effort)), kBitsForTurning);
+// Whether `one` is shorter by more than `margin` bits.
+bool IsShorter(const Way& one, const Way& other, int margin) {
+  return one.quick.bits + margin < other.quick.bits;
 }
 
-bool PacksBetterInNibbles(BytesView colours, const Effort& effort) {
-  return std::all_of(colours.begin(), colours.end(), [](std::uint8_t byte) { return byte < 16; }) &&
-         IsShorter(FindTokens(colours, Literals::kNibbles, Quick(effort)),
-                   FindTokens(colours, Literals::kBytes, Quick(effort)), kBitsForNibbles);
+void Write(const Way& way, const Effort& effort, BitWriter& writer) {
+  if (Quick(effort) == effort) return Write(way.bytes, way.literals, way.quick, writer);
+  Write(way.bytes, way.literals, effort, writer);
+}
+
+Way WayOfColours(BytesView colours, const Effort& effort) {
+  Way bytes = LookAt(colours, Literals::kBytes, effort);
+  if (std::any_of(colours.begin(), colours.end(), [](std::uint8_t byte) { return byte > 15; })) return bytes;
+  Way nibbles = LookAt(colours, Literals::kNibbles, effort);
+  return IsShorter(nibbles, bytes, kBitsForNibbles) ? nibbles : bytes;
 }
 
 void WritePicture(int layout, BytesView picture, const Effort& effort, BitWriter& writer) {
-  const BytesView bitmap = picture.first(kBitmap), colours = picture.subspan(kColours, kCells);
-  const bool in_columns = PacksBetterInColumns(bitmap, effort);
-  const Literals literals = PacksBetterInNibbles(colours, effort) ? Literals::kNibbles : Literals::kBytes;
-  writer.PutByte(layout + (in_columns ? kInColumns : 0) + (literals == Literals::kBytes ? kColoursInBytes : 0));
-  const Bytes columns = in_columns ? ToColumns(bitmap) : Bytes();
-  Write(in_columns ? columns : bitmap, Literals::kBytes, effort, writer);
+  const BytesView bitmap = picture.first(kBitmap);
+  const Bytes turned = ToColumns(bitmap);
+  const Way rows = LookAt(bitmap, Literals::kBytes, effort), columns = LookAt(turned, Literals::kBytes, effort);
+  const bool in_columns = IsShorter(columns, rows, kBitsForTurning);
+  const Way colours = WayOfColours(picture.subspan(kColours, kCells), effort);
+  const bool in_bytes = colours.literals == Literals::kBytes;
+  writer.PutByte(layout + (in_columns ? kInColumns : 0) + (in_bytes ? kColoursInBytes : 0));
+  Write(in_columns ? columns : rows, effort, writer);
   Write(picture.subspan(kBitmap, kCells), Literals::kBytes, effort, writer);
-  Write(colours, literals, effort, writer);
+  Write(colours, effort, writer);
 }
 
 }  // namespace

@@ -14,6 +14,8 @@ struct Effort {
   int passes;    // over the whole section; each tells offsets in the way that suited the tokens of the pass before
   int arrivals;  // ways to reach a place that are followed further, apart in the offset they used last
   int window;    // the farthest offset that is looked for
+
+  friend bool operator==(const Effort&, const Effort&) = default;
 };
 
 struct Parse {

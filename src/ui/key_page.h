@@ -6,8 +6,8 @@
 
 namespace kelvo::ui {
 
-// As HTML, from the tables that define the keys: menus, tools, pens, scrolling, painting by keyboard. The menus' keys are
-// those that hold in `frame` now.
+// As HTML, from the tables that define the keys: menus, tools, pens, scrolling, painting by keyboard. The menus' keys
+// are those that hold in `frame` now.
 QString KeyPage(const QWidget& frame);
 
 }  // namespace kelvo::ui

@@ -70,6 +70,15 @@ TEST(ProgramFolders, LieBesideTheProgramOnlyWhereThatCanBeWritten) {
   }
 }
 
+TEST(Settings, NonsenseReadsAsTheDefault) {
+  constexpr Setting kNumber{"Settings", "Number", "9"};
+  support::MapSettings settings;
+  for (const auto& [stored, read] : {std::pair{"16", 9}, {"-1", 9}, {"", 9}, {"5x", 9}, {"0", 0}, {"15", 15}}) {
+    settings.Write(kNumber, stored);
+    EXPECT_EQ(ReadNumber(settings, kNumber, 0, 15), read) << stored;
+  }
+}
+
 TEST(WholeFile, RefusesWhatIsNoOrdinaryFile) {
   const support::TempFolder folder;
   EXPECT_THROW(ReadWholeFile(folder.Path(), 10), FileError);

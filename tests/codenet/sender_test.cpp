@@ -46,6 +46,7 @@ class CodenetSenderTest : public testing::Test {
 };
 
 TEST_F(CodenetSenderTest, CountsUpItsPacketsAndKeepsThemEven) {
+  EXPECT_EQ(ErrorOf([this] { Write(0xFFFF, {1, 2}); }), "2 bytes at $FFFF run past $FFFF");
   Write(0x0801, support::CountingBytes(257));
   sender_.Jump(0xCF00);
   sender_.Run();

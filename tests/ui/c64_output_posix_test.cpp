@@ -142,8 +142,9 @@ TEST_F(C64OutputTest, AC64ShowsThePictureAndSavesIt) {
   codenet::ReceivingC64 c64 = server.Machine();
   EXPECT_EQ(c64.runs, 1);
   const auto memory = [&c64](int begin, int end) {
-    app::Bytes bytes{static_cast<std::uint8_t>(begin), static_cast<std::uint8_t>(begin >> 8)};
-    bytes.insert(bytes.end(), c64.memory.begin() + begin, c64.memory.begin() + end);
+    app::Bytes bytes(c64.memory.begin() + begin - 2, c64.memory.begin() + end);
+    bytes[0] = static_cast<std::uint8_t>(begin);
+    bytes[1] = static_cast<std::uint8_t>(begin >> 8);
     return bytes;
   };
   int end = 0x10000;

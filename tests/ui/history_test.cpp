@@ -117,11 +117,7 @@ TEST_F(HistoryWindowTest, CtrlZStepsBackWhereThePreferenceSaysSo) {
   Paint(Qt::Key_7, 4, 3);
   Key(Qt::Key_Z, Qt::ControlModifier);
   EXPECT_EQ(Steps().Count(), 4);  // Undo is a step itself
-  InNextDialog([](const QDialog& dialog) {
-    dialog.findChild<QCheckBox*>("CtrlZStepsBack")->setChecked(true);
-    dialog.findChild<QAbstractButton*>("cmdStd")->click();
-  });
-  Action("mnuPreferences")->trigger();
+  Prefer("CtrlZStepsBack", true);
   Action("mnuKeys")->trigger();
   const QString keys = Find<QTextBrowser>("frmKeys")->toPlainText();
   EXPECT_TRUE(keys.contains("Ctrl+Z; Ctrl+Alt+Z\nStep back: ") && !keys.contains("Undo: ")) << FromQt(keys);

@@ -106,6 +106,13 @@ class MainFrameTest : public testing::Test {
     for (const auto& [name, text] : fields) dialog.findChild<QLineEdit*>(name)->setText(text);
     dialog.findChild<QAbstractButton*>("cmdStd")->click();
   }
+  void Prefer(const char* preference, bool on) const {
+    InNextDialog([preference, on](QDialog& dialog) {
+      dialog.findChild<QCheckBox*>(preference)->setChecked(on);
+      FillIn(dialog, {});
+    });
+    Action("mnuPreferences")->trigger();
+  }
   // Answers the next message box with `button` and keeps its text.
   void AnswerNext(QMessageBox::StandardButton button) {
     InNextDialog<QMessageBox>([this, button](QMessageBox& box) {

@@ -125,11 +125,7 @@ TEST_F(PaintingWindowTest, EscapeInAnotherWindowLeavesAShapeAlone) {
 
 TEST_F(PaintingWindowTest, AFullCellIsRefusedWhereThePreferenceSaysSo) {
   FillFirstCell();
-  InNextDialog([](QDialog& dialog) {
-    dialog.findChild<QCheckBox*>("4thColReplaces")->setChecked(false);
-    FillIn(dialog, {});
-  });
-  Action("mnuPreferences")->trigger();
+  Prefer("4thColReplaces", false);
   Press(5, 1);
   CloseNextBox(false);
   MoveTo(4, 1);
