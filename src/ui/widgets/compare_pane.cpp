@@ -11,6 +11,7 @@ namespace {
 
 constexpr int kWheelStep = 120;  // eighths of a degree
 constexpr int kScrollPixels = 40;
+constexpr int kMostPreferred = 2;
 constexpr QSize kScreen(320, 200), kSmallest(200, 125);
 
 // The centre of a view that shows `share` of a length: nothing beyond the ends is seen that need not be.
@@ -43,7 +44,7 @@ void ComparePane::SetPictureSize(QSize size) {
 void ComparePane::PreferSize(QSize room, QSize beside) {
   const QSize free = room - beside;
   const int factor = std::min(free.width() / 2 / kScreen.width(), free.height() / kScreen.height());
-  preferred_ = kScreen * std::max(factor, 1);
+  preferred_ = kScreen * std::clamp(factor, 1, kMostPreferred);
 }
 
 // The widget pixels of a picture's: a whole number of device pixels, where there is room for that.

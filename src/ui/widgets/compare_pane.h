@@ -39,7 +39,7 @@ class ComparePane : public QWidget {
   // In pixels of a display, each side 1 or more.
   void SetPictureSize(QSize size);
 
-  // As large as a display of `room` has room for two of them, and for what `beside` takes.
+  // The size to begin with: what a display of `room` has for two of them, beside what else there is.
   void PreferSize(QSize room, QSize beside);
   QSize sizeHint() const override { return preferred_; }
 
