@@ -1,6 +1,5 @@
 #include "ui/windows/import_dialog.h"
 
-#include <QDialogButtonBox>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QScreen>
@@ -66,6 +65,8 @@ ImportDialog::ImportDialog(ImportWorker::Read read, const QString& name, const m
   lblImage_->setObjectName("lblImage");
   lblResult_->setObjectName("lblResult");
   lblImage_->Show(QString("Reading %1...").arg(name));
+  const QSize room = screen()->availableSize();
+  for (ComparePane* pane : std::initializer_list<ComparePane*>{source_, result_}) pane->PreferSize(room, kBesideViews);
   auto* views = new QHBoxLayout;
   views->addLayout(SourceColumn(), 1);
   views->addLayout(ResultColumn(), 1);
@@ -73,10 +74,9 @@ ImportDialog::ImportDialog(ImportWorker::Read read, const QString& name, const m
   column->addLayout(views, 1);
   column->addWidget(controls_);
   column->addWidget(place_);
-  column->addLayout(LastRow());
-
-  const QSize room = screen()->availableSize();
-  for (ComparePane* pane : std::initializer_list<ComparePane*>{source_, result_}) pane->PreferSize(room, kBesideViews);
+  column->addWidget(lblResult_);
+  column->addWidget(Buttons());
+  resize(sizeHint());  // Qt's own first size leaves a third of a display free
 
   connect(controls_, &ImportControls::Changed, this, &ImportDialog::ConvertAgain);
   connect(place_, &ImportPlace::Changed, this, &ImportDialog::ConvertAgain);
@@ -121,7 +121,7 @@ QLayout* ImportDialog::ResultColumn() {
   return column;
 }
 
-QLayout* ImportDialog::LastRow() {
+QDialogButtonBox* ImportDialog::Buttons() {
   auto* buttons = new QDialogButtonBox(this);
   ok_ = buttons->addButton("&Import", QDialogButtonBox::AcceptRole);
   ok_->setObjectName("cmdStd");
@@ -134,10 +134,7 @@ QLayout* ImportDialog::LastRow() {
   connect(buttons, &QDialogButtonBox::accepted, this, &ImportDialog::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   connect(reset, &QPushButton::clicked, this, &ImportDialog::PutBack);
-  auto* row = new QHBoxLayout;
-  row->addWidget(lblResult_, 1);
-  row->addWidget(buttons);
-  return row;
+  return buttons;
 }
 
 void ImportDialog::ShowImage(const ReadImageFacts& facts) {

@@ -3,6 +3,7 @@
 
 #include <QCheckBox>
 #include <QDialog>
+#include <QDialogButtonBox>
 #include <QPushButton>
 
 #include "model/picture_image.h"
@@ -40,7 +41,7 @@ class ImportDialog : public QDialog {
  private:
   QLayout* SourceColumn();
   QLayout* ResultColumn();
-  QLayout* LastRow();
+  QDialogButtonBox* Buttons();
   void ShowImage(const ReadImageFacts& facts);
   void ShowResult(const convert::Converted& converted, bool is_final);
   void Fail(const QString& why);
