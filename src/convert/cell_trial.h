@@ -20,12 +20,13 @@ class CellTrial {
 
   CellTrial(const Halftone& halftone, int cell);
 
-  // Every pixel takes the best colour of `set`, up to `rounds` times or until none changes.
+  // Every pixel takes the best colour of `set`, which has one to four, up to `rounds` times or until none changes.
   Outcome Try(ColourSet set, int rounds) const;
 
  private:
   using Slopes = std::array<Triple, CellGrid::kCellPixels>;
 
+  float ScoreOf(std::size_t pixel, const Triple& slope, std::uint8_t colour) const;
   void Spread(Slopes& slopes, std::size_t pixel, std::uint8_t from, std::uint8_t to) const;
 
   const PaletteLight& palette_;

@@ -29,10 +29,13 @@ Matrix FormOf(const Triple& d, float weight) {
   const auto product = [](std::size_t i, std::size_t j) {
     return kLabRows[0][i] * kLabRows[0][j] + kLabRows[1][i] * kLabRows[1][j] + kLabRows[2][i] * kLabRows[2][j];
   };
-  static const Matrix kProducts{product(0, 0), product(1, 1), product(2, 2),
-                                product(0, 1), product(0, 2), product(1, 2)};
-  return {weight * kProducts.xx * d.x * d.x, weight * kProducts.yy * d.y * d.y, weight * kProducts.zz * d.z * d.z,
-          weight * kProducts.xy * d.x * d.y, weight * kProducts.xz * d.x * d.z, weight * kProducts.yz * d.y * d.z};
+  static const Matrix kProducts{{product(0, 0), product(1, 0), product(2, 0)},
+                                {product(0, 1), product(1, 1), product(2, 1)},
+                                {product(0, 2), product(1, 2), product(2, 2)}};
+  const auto column = [&](const Triple& products, float own) {
+    return Triple{products.x * d.x, products.y * d.y, products.z * d.z} * (weight * own);
+  };
+  return {column(kProducts.x, d.x), column(kProducts.y, d.y), column(kProducts.z, d.z)};
 }
 
 }  // namespace
@@ -71,7 +74,6 @@ Halftone::Halftone(const CellGrid& grid, const LightMap& light, const PaletteLig
       static_cast<std::size_t>(stride_) * static_cast<std::size_t>(grid.Height() + 2 * Eye::kDown);
   pull_.resize(padded);
   metric_.resize(padded);
-  error_.resize(padded);
   own_.resize(grid.Pixels());
 }
 
@@ -115,9 +117,8 @@ void Halftone::Weigh() {
   InParallel(grid_.Height(), [&](int y) {
     for (int x = 0; x < grid_.Width(); ++x) {
       const std::size_t pixel = PixelAt(x, y), padded = PaddedAt(x, y);
-      error_[padded] = blurred[pixel];
-      TakeMetric(pixel, padded);
-      pull_[padded] = metric_[padded].Times(error_[padded]);
+      metric_[padded] = MetricAt(pixel, blurred[pixel]);
+      pull_[padded] = metric_[padded].Times(blurred[pixel]);
     }
   });
   InParallel(grid_.Height(), [&](int y) {
@@ -126,17 +127,16 @@ void Halftone::Weigh() {
   weighed_ = true;
 }
 
-void Halftone::TakeMetric(std::size_t pixel, std::size_t padded) {
+Matrix Halftone::MetricAt(std::size_t pixel, const Triple& error) const {
   const Triple& t = target_[pixel];
-  const Triple sum = t + error_[padded];
+  const Triple sum = t + error;
   const Triple root_of_t = CubeRoots(t);
   // The first picture is not yet one to be measured by.
   const Triple root_of_r =
       weighed_ ? CubeRoots({std::max(sum.x, 0.0F), std::max(sum.y, 0.0F), std::max(sum.z, 0.0F)}) : root_of_t;
   const float distance = std::sqrt(Square(LabFromCubeRoots(root_of_r - root_of_t)));
-  metric_[padded] =
-      FormOf({Secant(root_of_r.x, root_of_t.x), Secant(root_of_r.y, root_of_t.y), Secant(root_of_r.z, root_of_t.z)},
-             weighed_ ? 1 / (distance + kLeastDistance) : kFirstWeight);
+  return FormOf({Secant(root_of_r.x, root_of_t.x), Secant(root_of_r.y, root_of_t.y), Secant(root_of_r.z, root_of_t.z)},
+                weighed_ ? 1 / (distance + kLeastDistance) : kFirstWeight);
 }
 
 Matrix Halftone::OwnMetricAt(int x, int y) const {
@@ -144,25 +144,7 @@ Matrix Halftone::OwnMetricAt(int x, int y) const {
   for (std::size_t line = 0; line < Eye::kLines; ++line) {
     const Matrix* row = &metric_[PaddedAt(x - Eye::kAcross, y - Eye::kDown + static_cast<int>(line))];
     for (std::size_t column = 0; column < Eye::kColumns; ++column) {
-      const float square = kEye.weights[line][column] * kEye.weights[line][column];
-      const Matrix& metric = row[column];
-      sum.xx += square * metric.xx;
-      sum.yy += square * metric.yy;
-      sum.zz += square * metric.zz;
-      sum.xy += square * metric.xy;
-      sum.xz += square * metric.xz;
-      sum.yz += square * metric.yz;
-    }
-  }
-  return sum;
-}
-
-double Halftone::Objective() const {
-  double sum = 0;
-  for (int y = 0; y < grid_.Height(); ++y) {
-    for (int x = 0; x < grid_.Width(); ++x) {
-      const std::size_t pixel = PixelAt(x, y), padded = PaddedAt(x, y);
-      sum += static_cast<double>(Dot(error_[padded], pull_[padded]) + terms_[pixel][colours_[pixel]]);
+      sum.Add(row[column], kEye.weights[line][column] * kEye.weights[line][column]);
     }
   }
   return sum;
@@ -178,9 +160,9 @@ PixelChoice Halftone::ChoiceAt(int x, int y) const {
   const Matrix& own = own_[pixel];
   PixelChoice choice{pull - own.Times(palette_.lms[colours_[pixel]]), terms_[pixel]};
   for (std::size_t colour = 0; colour < kColours; ++colour) {
-    choice.base[colour] += own.xx * products_.xx[colour] + own.yy * products_.yy[colour] +
-                           own.zz * products_.zz[colour] + own.xy * products_.xy[colour] +
-                           own.xz * products_.xz[colour] + own.yz * products_.yz[colour];
+    choice.base[colour] += own.x.x * products_.xx[colour] + own.y.y * products_.yy[colour] +
+                           own.z.z * products_.zz[colour] + own.x.y * products_.xy[colour] +
+                           own.x.z * products_.xz[colour] + own.y.z * products_.yz[colour];
   }
   return choice;
 }

@@ -17,12 +17,16 @@
 
 namespace kelvo::convert {
 
-// Symmetric.
+// Symmetric; its columns.
 struct Matrix {
-  float xx = 0, yy = 0, zz = 0, xy = 0, xz = 0, yz = 0;
+  Triple x, y, z;
 
-  Triple Times(const Triple& by) const {
-    return {xx * by.x + xy * by.y + xz * by.z, xy * by.x + yy * by.y + yz * by.z, xz * by.x + yz * by.y + zz * by.z};
+  Triple Times(const Triple& by) const { return x * by.x + y * by.y + z * by.z; }
+
+  void Add(const Matrix& other, float weight) {
+    x += other.x * weight;
+    y += other.y * weight;
+    z += other.z * weight;
   }
 };
 
@@ -46,8 +50,6 @@ class Halftone {
 
   // Takes the measure of the error anew.
   void Weigh();
-  // The whole error, as the last Weigh() measures it.
-  double Objective() const;
 
   // Lets each pixel once take the colour of its cell's set that is best for the whole; returns how many changed.
   int Sweep(std::span<const ColourSet> sets);
@@ -68,8 +70,7 @@ class Halftone {
   std::size_t PaddedAt(int x, int y) const;
   std::vector<Triple> Blurred(const std::vector<Triple>& padded) const;
   std::vector<Triple> Padded(const std::vector<Triple>& values, bool continued) const;
-  void MeasureError();
-  void TakeMetric(std::size_t pixel, std::size_t padded);
+  Matrix MetricAt(std::size_t pixel, const Triple& error) const;
   Matrix OwnMetricAt(int x, int y) const;
   int SweepRow(int y, std::span<const ColourSet> sets);
 
@@ -80,8 +81,7 @@ class Halftone {
   std::vector<Triple> source_, target_;  // LMS of the source, and the same as the eye sees it
   std::vector<ColourScores> terms_;      // what each pixel's own colour costs
   std::vector<std::uint8_t> colours_;
-  std::vector<Triple> error_;   // padded: blurred picture minus target, as of the last Weigh()
-  std::vector<Triple> pull_;    // padded: the metric times the error, always up to date
+  std::vector<Triple> pull_;    // padded: the metric times the error (blurred picture minus target), always up to date
   std::vector<Matrix> metric_;  // padded
   std::vector<Matrix> own_;
   bool weighed_ = false;

@@ -155,6 +155,22 @@ TEST_F(CommandLineTest, MakesTheExamplesDisk) {
       0);
 }
 
+TEST_F(CommandLineTest, TakesTheSameSpritesForEveryAssembler) {
+  if (!support::IsInstalled("64tass")) GTEST_SKIP() << "this needs 64tass";
+  const std::string planet = "'" + (fs::path(KELVO_SHARE) / "GFX/planet.kvp").string() + "'";
+  const std::string take =
+      "for f in kelvo 64tass acme kickass ca65 bin spd; do kelvo-cli sprites --at 20,9 --grid 3x2 --format $f " +
+      planet + " $f 2>>lost; done; grep -q 'transparent$' lost && ";
+  const std::string same =
+      "for f in acme kickass ca65; do sed 's,^//,;,; s/!byte/.byte/; s/:$//' $f | cmp - 64tass || exit 1; done; ";
+  const std::string assemble =
+      "for f in kelvo 64tass; do 64tass -q -b -o $f.bytes $f || exit 1; done; cmp 64tass.bytes bin && ";
+  const std::string others =
+      "tail -c +10 spd | head -c 384 | cmp - bin && cmp -n 63 kelvo.bytes bin && [ $(wc -c <spd) = 397 ]";
+  const support::ToolRun run = Shell(take + same + assemble + others);
+  EXPECT_EQ(run.exit_code, 0) << run.errors;
+}
+
 TEST_F(CommandLineTest, DoesManyAsOneByOne) {
   support::WriteFile(out / "a.koa", support::CountingBytes(10003));
   const std::string many = "for i in $(seq 100); do cp a.koa $i.koa; done; mkdir made alone; rm a.koa; ";

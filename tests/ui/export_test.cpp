@@ -2,7 +2,10 @@
 #include <QClipboard>
 #include <QFileDialog>
 
+#include "convert/conversion.h"
+#include "convert/into_picture.h"
 #include "files/picture_content.h"
+#include "images/image_reading.h"
 #include "main_frame_fixture.h"
 #include "model/named_palettes.h"
 #include "support/pictures.h"
@@ -77,6 +80,13 @@ TEST_F(ExportTest, PngImagesHoldThePictureBitForBit) {
             ASSERT_EQ(read.pixel(corner * scale + QPoint(x, y)), colour(expected)) << x << ' ' << y;
           }
         }
+        // It comes back as it went, in whatever palette pictures are shown.
+        app::NoProgress nobody;
+        convert::Conversion conversion(images::RgbOf(read), {palette.colours});
+        const convert::Converted again = conversion.Convert({}, nobody);
+        EXPECT_TRUE(again.exact);
+        const QImage image = images::ImageOf(convert::PictureOf(again.map), shown, size, scale);
+        EXPECT_EQ(images::PngOf(image), png);
       }
     }
   }

@@ -92,7 +92,7 @@ ExitCode ReportEach(std::size_t count, const std::function<Report(std::size_t)>&
     const Report report = std::exchange(reports[i], {});
     if (!report.text.empty()) Print(report.text);
     Complain(report.notes);
-    if (count > 1) ShowProgress(i + 1, count);
+    if (report.text.empty() && count > 1) ShowProgress(i + 1, count);  // what is told tells how far it is, too
     code = std::max(code, report.code);
   });
   return code;

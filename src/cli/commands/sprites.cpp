@@ -1,10 +1,12 @@
 #include <algorithm>
+#include <set>
 
 #include "app/path_text.h"
 #include "app/text.h"
 #include "cli/commands/commands.h"
 #include "cli/commands/output.h"
 #include "cli/commands/picture_input.h"
+#include "cli/counted.h"
 #include "cli/standard_streams.h"
 #include "sprites/sprite_file.h"
 
@@ -48,6 +50,18 @@ std::vector<sprites::Sprite> Captured(const PictureImage& picture, const Argumen
   return captured;
 }
 
+// Sprites have three colours, and what is lost is said.
+std::string ColoursLost(const std::vector<sprites::Sprite>& captured, model::C64Colour background) {
+  std::set<int> colours;
+  for (const sprites::Sprite& sprite : captured) {
+    for (const model::C64Colour colour : sprite) colours.insert(colour.Number());
+  }
+  colours.erase(background.Number());
+  const int lost = static_cast<int>(colours.size()) - 3;
+  return lost > 0 ? Counted(lost, "color") + " beside the three used most: these pixels are transparent"
+                  : std::string();
+}
+
 }  // namespace
 
 ExitCode TakeSprites(const Arguments& arguments, const Ports& ports) {
@@ -56,6 +70,7 @@ ExitCode TakeSprites(const Arguments& arguments, const Ports& ports) {
   const std::string& operand = arguments.operands.front();
   const PictureImage picture = ReadPicture(operand, arguments, settings).picture;
   const auto captured = Captured(picture, arguments);
+  Complain(ColoursLost(captured, picture.BackgroundColour));
   WriteOutput(arguments.Output(),
               sprites::SpriteFile(arguments.Text(kSpriteFormat, "kelvo"), captured, picture.BackgroundColour,
                                   app::FileNamePart(NameOfInput(operand))));
