@@ -66,10 +66,10 @@ convert::RgbImage ReadImage(const std::filesystem::path& file, const std::stop_t
       QByteArray::fromRawData(reinterpret_cast<const char*>(bytes.data()), static_cast<qsizetype>(bytes.size())), stop);
 }
 
-convert::RgbImage RgbOf(const QImage& image) {
+convert::RgbImage RgbOf(QImage image) {
   RefuseTooLarge(image.size());
   if (image.isNull()) throw ImageError("the image is empty");
-  const QImage argb = image.convertToFormat(QImage::Format_ARGB32);
+  const QImage argb = std::move(image).convertToFormat(QImage::Format_ARGB32);  // most are so in their own memory
   if (argb.isNull()) throw ImageError("there is not enough memory for the image");
   convert::RgbImage rgb{argb.width(), argb.height(), {}};
   rgb.pixels.resize(static_cast<std::size_t>(rgb.width) * static_cast<std::size_t>(rgb.height));

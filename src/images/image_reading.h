@@ -26,6 +26,6 @@ convert::RgbImage ReadImage(const std::filesystem::path& file, const std::stop_t
 convert::RgbImage ReadImage(const QByteArray& bytes, const std::stop_token& stop = {});
 
 // Throws ImageError for an empty or too large one.
-convert::RgbImage RgbOf(const QImage& image);
+convert::RgbImage RgbOf(QImage image);
 
 }  // namespace kelvo::images

@@ -128,12 +128,12 @@ QDialogButtonBox* ImportDialog::Buttons() {
   ok_->setDefault(true);
   ok_->setEnabled(false);
   buttons->addButton(QDialogButtonBox::Cancel);
-  auto* reset = buttons->addButton(QDialogButtonBox::Reset);
-  reset->setObjectName("cmdReset");
-  reset->setAutoDefault(false);
+  reset_ = buttons->addButton(QDialogButtonBox::Reset);
+  reset_->setObjectName("cmdReset");
+  reset_->setAutoDefault(false);
   connect(buttons, &QDialogButtonBox::accepted, this, &ImportDialog::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-  connect(reset, &QPushButton::clicked, this, &ImportDialog::PutBack);
+  connect(reset_, &QPushButton::clicked, this, &ImportDialog::PutBack);
   return buttons;
 }
 
@@ -222,7 +222,7 @@ void ImportDialog::PutBack() {
 void ImportDialog::accept() {
   is_accepting_ = true;
   if (!is_final_) {
-    for (QWidget* widget : std::initializer_list<QWidget*>{source_, controls_, place_, whole_, ok_}) {
+    for (QWidget* widget : std::initializer_list<QWidget*>{source_, controls_, place_, whole_, ok_, reset_}) {
       widget->setEnabled(false);
     }
     return setCursor(Qt::WaitCursor);

@@ -67,6 +67,7 @@ class ImportDialog : public QDialog {
   ImportControls* controls_;
   ImportPlace* place_;
   QPushButton* ok_ = nullptr;
+  QPushButton* reset_ = nullptr;
   ShownImage image_;
   std::optional<convert::Area> crop_;
   convert::ColourMap map_;
