@@ -157,7 +157,15 @@ TEST_F(ImportTest, TheDialogMakesWhatItsControlsSay) {
   Import(file, &Accept);
   EXPECT_TRUE(Picture() == Converted(conversion, wishes));
   Import(file, [](ImportDialog& dialog) {
+    auto* source = dialog.findChild<QWidget*>("picSource");
+    const auto* whole = dialog.findChild<QAbstractButton*>("cmdWhole");
+    EXPECT_FALSE(whole->isEnabled());
+    QTest::mousePress(source, Qt::LeftButton, {}, source->rect().center() - QPoint(40, 30));
+    MoveMouse(source, source->rect().center(), Qt::LeftButton);
+    QTest::mouseRelease(source, Qt::LeftButton, {}, source->rect().center());
+    EXPECT_TRUE(whole->isEnabled());
     dialog.findChild<QAbstractButton*>("cmdReset")->click();
+    EXPECT_FALSE(whole->isEnabled());
     Accept(dialog);
   });
   EXPECT_TRUE(Picture() == Converted(conversion, ProposedWishes(conversion)));
