@@ -6,6 +6,7 @@
 #include <cmath>
 #include <limits>
 
+#include "convert/closest_fit.h"
 #include "convert/conversion.h"
 #include "goals.h"
 

@@ -13,8 +13,9 @@ using cli::Arguments;
 std::vector<std::string> Words(Input& input) {
   std::vector<std::string> words;
   const auto commands = cli::Commands();
-  if (input.Bit())
+  if (input.Bit()) {
     words.emplace_back(commands[static_cast<std::size_t>(input.Below(static_cast<int>(commands.size())))].name);
+  }
   while (!input.IsEmpty()) words.push_back(input.Line());
   return words;
 }

@@ -60,8 +60,9 @@ std::string Bash() {
 // A text within single quotes and brackets.
 std::string ZshText(std::string_view text) {
   std::string quoted;
-  for (const char c : text)
+  for (const char c : text) {
     quoted += c == '\'' ? "'\\''" : c == ':' || c == '[' || c == ']' ? std::string{'\\', c} : std::string(1, c);
+  }
   return quoted;
 }
 

@@ -7,8 +7,6 @@
 namespace kelvo::convert {
 namespace {
 
-constexpr std::size_t kPixels = CellGrid::kCellPixels;
-
 // The colours of a set side by side; where it has fewer than four, one of them again.
 struct SetLight {
   using Lanes = Triple::Lanes;
@@ -42,7 +40,7 @@ struct SetLight {
 CellTrial::CellTrial(const Halftone& halftone, int cell) : palette_(halftone.Palette()) {
   const CellGrid& grid = halftone.Grid();
   Matrix sum;
-  for (std::size_t k = 0; k < kPixels; ++k) {
+  for (std::size_t k = 0; k < colours_.size(); ++k) {
     const int x = grid.XOf(cell, static_cast<int>(k)), y = grid.YOf(cell, static_cast<int>(k));
     const PixelChoice choice = halftone.ChoiceAt(x, y);
     slopes_[k] = choice.slope;
@@ -51,14 +49,15 @@ CellTrial::CellTrial(const Halftone& halftone, int cell) : palette_(halftone.Pal
     sum.Add(halftone.OwnMetric(x, y), 1);
   }
   for (std::size_t colour = 0; colour < effects_.size(); ++colour) {
-    effects_[colour] = sum.Times(palette_.lms[colour]) * (1 / (static_cast<float>(kPixels) * kEye.overlap[0][0]));
+    effects_[colour] =
+        sum.Times(palette_.lms[colour]) * (1 / (static_cast<float>(colours_.size()) * kEye.overlap[0][0]));
   }
 }
 
 void CellTrial::Spread(Slopes& slopes, std::size_t pixel, std::uint8_t from, std::uint8_t to) const {
   const Triple effect = effects_[to] - effects_[from];
   const Triple own = slopes[pixel];  // does not follow the pixel's own colour
-  for (std::size_t k = 0; k < kPixels; ++k) {
+  for (std::size_t k = 0; k < colours_.size(); ++k) {
     slopes[k] += effect * kEye.overlap[pixel][k];
   }
   slopes[pixel] = own;
@@ -70,7 +69,7 @@ CellTrial::Outcome CellTrial::Try(ColourSet set, int rounds) const {
   Slopes slopes = slopes_;
   for (int round = 0, changed = 1; round < rounds && changed > 0; ++round) {
     changed = 0;
-    for (std::size_t k = 0; k < kPixels; ++k) {
+    for (std::size_t k = 0; k < colours_.size(); ++k) {
       const std::size_t best = light.Best(bases_[k], slopes[k] * 2);
       std::uint8_t& shown = outcome.colours[k];
       const std::uint8_t colour = light.numbers[best];

@@ -8,7 +8,6 @@
 namespace kelvo::convert {
 namespace {
 
-constexpr int kColours = model::C64Colour::kCount;
 constexpr std::size_t kPixels = CellGrid::kCellPixels;
 using PixelErrors = std::array<float, kPixels>;
 
@@ -74,7 +73,7 @@ CellFit FitCell(const std::array<PixelErrors, kColours>& errors) {
 ColourErrors ErrorsOf(const std::vector<Triple>& lab, const PaletteLight& palette) {
   ColourErrors errors(lab.size());
   for (std::size_t pixel = 0; pixel < lab.size(); ++pixel) {
-    for (std::size_t colour = 0; colour < kColours; ++colour) {
+    for (std::size_t colour = 0; colour < palette.lab.size(); ++colour) {
       errors[pixel][colour] = Square(lab[pixel] - palette.lab[colour]);
     }
   }
@@ -93,7 +92,7 @@ ClosestFit FitClosest(const CellGrid& grid, const ColourErrors& errors) {
       std::array<PixelErrors, kColours> by_colour;
       for (int k = 0; k < CellGrid::kCellPixels; ++k) {
         const auto& pixel = errors[grid.PixelOf(cell, k)];
-        for (std::size_t colour = 0; colour < kColours; ++colour) {
+        for (std::size_t colour = 0; colour < by_colour.size(); ++colour) {
           by_colour[colour][static_cast<std::size_t>(k)] = pixel[colour];
         }
       }
@@ -103,7 +102,7 @@ ClosestFit FitClosest(const CellGrid& grid, const ColourErrors& errors) {
   ClosestFit fit{std::vector<ClosestFit::ByBackground>(cells.size()), {}};
   for (std::size_t cell = 0; cell < cells.size(); ++cell) {
     fit.sets[cell] = cells[cell].sets;
-    for (std::size_t colour = 0; colour < kColours; ++colour) {
+    for (std::size_t colour = 0; colour < fit.errors.size(); ++colour) {
       fit.errors[colour] += static_cast<double>(cells[cell].errors[colour]);
     }
   }

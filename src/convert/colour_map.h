@@ -30,6 +30,8 @@ struct CellGrid {
   friend bool operator==(const CellGrid&, const CellGrid&) = default;
 };
 
+inline constexpr int kColours = model::C64Colour::kCount;
+
 // Bit n stands for colour n.
 using ColourSet = std::uint16_t;
 inline constexpr ColourSet kAllColours = 0xFFFF;

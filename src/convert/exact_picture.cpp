@@ -9,7 +9,6 @@
 namespace kelvo::convert {
 namespace {
 
-constexpr int kColours = model::C64Colour::kCount;
 constexpr int kMostOff = 2;
 constexpr std::uint32_t kOpaque = 0xFF000000;
 

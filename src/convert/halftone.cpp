@@ -12,7 +12,6 @@
 namespace kelvo::convert {
 namespace {
 
-constexpr std::size_t kColours = model::C64Colour::kCount;
 constexpr float kColourTerm = 0.02F;     // weighs a pixel's own colour beside its lightness
 constexpr float kSharpened = 0.7F;       // of the lightness that stands out: grain would drown it
 constexpr float kDarkest = 0.01F;        // bounds the weight of what is near black
@@ -29,20 +28,20 @@ Matrix FormOf(const Triple& d, float weight) {
   const auto product = [](std::size_t i, std::size_t j) {
     return kLabRows[0][i] * kLabRows[0][j] + kLabRows[1][i] * kLabRows[1][j] + kLabRows[2][i] * kLabRows[2][j];
   };
-  static const Matrix kProducts{{product(0, 0), product(1, 0), product(2, 0)},
-                                {product(0, 1), product(1, 1), product(2, 1)},
-                                {product(0, 2), product(1, 2), product(2, 2)}};
-  const auto column = [&](const Triple& products, float own) {
-    return Triple{products.x * d.x, products.y * d.y, products.z * d.z} * (weight * own);
+  static const Matrix products{{product(0, 0), product(1, 0), product(2, 0)},
+                               {product(0, 1), product(1, 1), product(2, 1)},
+                               {product(0, 2), product(1, 2), product(2, 2)}};
+  const auto column = [&](const Triple& of, float own) {
+    return Triple{of.x * d.x, of.y * d.y, of.z * d.z} * (weight * own);
   };
-  return {column(kProducts.x, d.x), column(kProducts.y, d.y), column(kProducts.z, d.z)};
+  return {column(products.x, d.x), column(products.y, d.y), column(products.z, d.z)};
 }
 
 }  // namespace
 
 Halftone::Halftone(const CellGrid& grid, const LightMap& light, const PaletteLight& palette, float grain)
     : grid_(grid), palette_(palette), products_{}, stride_(grid.Width() + 2 * Eye::kAcross) {
-  for (std::size_t colour = 0; colour < kColours; ++colour) {
+  for (std::size_t colour = 0; colour < palette_.lms.size(); ++colour) {
     const Triple& lms = palette.lms[colour];
     products_.x[colour] = lms.x;
     products_.y[colour] = lms.y;
@@ -65,7 +64,7 @@ Halftone::Halftone(const CellGrid& grid, const LightMap& light, const PaletteLig
   terms_.resize(lab.size());
   for (std::size_t pixel = 0; pixel < lab.size(); ++pixel) {
     const Triple wanted = lab[pixel] + Triple{kSharpened * (lab[pixel].x - LabFromLms(target_[pixel]).x)};
-    for (std::size_t colour = 0; colour < kColours; ++colour) {
+    for (std::size_t colour = 0; colour < palette_.lms.size(); ++colour) {
       const Triple off = palette.lab[colour] - wanted;
       terms_[pixel][colour] = grain * off.x * off.x + kColourTerm * (off.y * off.y + off.z * off.z);
     }
@@ -159,7 +158,7 @@ PixelChoice Halftone::ChoiceAt(int x, int y) const {
   const std::size_t pixel = PixelAt(x, y);
   const Matrix& own = own_[pixel];
   PixelChoice choice{pull - own.Times(palette_.lms[colours_[pixel]]), terms_[pixel]};
-  for (std::size_t colour = 0; colour < kColours; ++colour) {
+  for (std::size_t colour = 0; colour < palette_.lms.size(); ++colour) {
     choice.base[colour] += own.x.x * products_.xx[colour] + own.y.y * products_.yy[colour] +
                            own.z.z * products_.zz[colour] + own.x.y * products_.xy[colour] +
                            own.x.z * products_.xz[colour] + own.y.z * products_.yz[colour];
@@ -170,7 +169,7 @@ PixelChoice Halftone::ChoiceAt(int x, int y) const {
 ColourScores Halftone::ScoresOf(const PixelChoice& choice) const {
   ColourScores scores;
   const Triple slope = choice.slope * 2;
-  for (std::size_t colour = 0; colour < kColours; ++colour) {
+  for (std::size_t colour = 0; colour < palette_.lms.size(); ++colour) {
     scores[colour] = choice.base[colour] + slope.x * products_.x[colour] + slope.y * products_.y[colour] +
                      slope.z * products_.z[colour];
   }

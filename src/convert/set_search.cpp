@@ -12,7 +12,6 @@
 namespace kelvo::convert {
 namespace {
 
-constexpr int kColours = model::C64Colour::kCount;
 constexpr float kInside = 1, kAround = 0.25F, kClosest = 0.75F;  // weights of what speaks for a colour
 constexpr int kMargin = 2;                                       // pixels around the cell that speak, too
 constexpr int kTrialRounds = 3;
@@ -130,8 +129,9 @@ CellSets ChooseSets(const Halftone& halftone, const ClosestFit& closest, std::op
   if (!background) {
     std::array<double, kColours> sums{};
     for (const BestSets& best : cells) {
-      for (std::size_t colour = 0; colour < sums.size(); ++colour)
+      for (std::size_t colour = 0; colour < sums.size(); ++colour) {
         sums[colour] += static_cast<double>(best.gains[colour]);
+      }
     }
     const auto least = std::ranges::min_element(sums) - sums.begin();
     background = model::C64Colour::FromByte(static_cast<std::uint8_t>(least));

@@ -18,8 +18,8 @@ struct Frame {
 };
 
 constexpr std::array<Frame, 3> kFrames{{{160, 200, 0, 0, 1}, {320, 200, 0, 0, 2}, {384, 272, 32, 35, 2}}};
-constexpr int kSmallest = 100;  // how much a PNG is packed
-constexpr int kDotsPerMetre = 3780;  // as on a usual screen, whichever there is: a file says so
+constexpr int kSmallest = 100;                     // how much a PNG is packed
+constexpr int kDotsPerMetre = 3780;                // as on a usual screen, whichever there is: a file says so
 constexpr int kPalWidth = 936, kPalHeight = 1000;  // of a pixel
 
 const Frame& FrameOf(ImageSize size) {

@@ -19,8 +19,6 @@ namespace {
 
 using model::C64Colour;
 
-constexpr int kColours = C64Colour::kCount;
-
 RgbImage Painted(int width, int height, const auto& colour_at) {
   RgbImage image{width, height, {}};
   for (int y = 0; y < height; ++y) {
@@ -123,8 +121,9 @@ TEST(Conversion, FindsTheLeastErrorWithoutDither) {
   const PaletteLight palette(model::kSurfaceColours);
   const RgbImage image = Photo(16, 16, 5);
   std::vector<Triple> lab;
-  for (const Triple& light : SampleLight(image, {0, 0, 16, 16}, grid, 0))
+  for (const Triple& light : SampleLight(image, {0, 0, 16, 16}, grid, 0)) {
     lab.push_back(LabFromLms(LmsFromLinear(light)));
+  }
   const ColourErrors errors = ErrorsOf(lab, palette);
   const ClosestFit fit = FitClosest(grid, errors);
   for (int background = 0; background < kColours; ++background) {

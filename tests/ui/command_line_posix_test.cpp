@@ -129,6 +129,14 @@ TEST_F(CommandLineTest, TurnsImagesIntoPictures) {
     EXPECT_EQ(Shell("kelvo-cli check i.png && kelvo-cli diff back.kvp " + planet).exit_code, 0) << options;
   }
   EXPECT_EQ(Shell("kelvo-cli check --background 3 i.png").exit_code, 1);
+  const std::string home =
+      "mkdir -p c/Kelvo; printf '[Settings]\nPalette=Pepto\n' >c/Kelvo/Kelvo.conf; export XDG_CONFIG_HOME=$PWD/c; ";
+  for (const auto& [asks, palette] : {std::pair{"--settings ", "Pepto"}, {"", "Kelvo"}}) {
+    EXPECT_EQ(Shell(home + "kelvo-cli render " + asks + planet + " a.png; kelvo-cli render --palette " + palette + " " +
+                    planet + " - | cmp - a.png")
+                  .exit_code,
+              0);
+  }
   EXPECT_EQ(Shell("kelvo-cli check '" KELVO_EXAMPLE "/face.png'").exit_code, 1);
   const std::string face = "convert '" KELVO_EXAMPLE "/face.png' ";
   EXPECT_EQ(Shell("kelvo-cli convert --exact '" KELVO_EXAMPLE "/face.png' x.kvp").exit_code, 1);
@@ -146,13 +154,13 @@ TEST_F(CommandLineTest, MakesTheExamplesDisk) {
   if (!support::IsInstalled("64tass") || !support::IsInstalled("c1541") || !support::IsInstalled("make")) {
     GTEST_SKIP() << "this needs 64tass, c1541 and make";
   }
-  EXPECT_EQ(
-      Shell("cp '" KELVO_EXAMPLE
-            "'/* . && make -j2 && for p in sunset castle face; do c1541 pictures.d64 -read $p.prg && "
-            "kelvo-cli show $p.prg shown.png && kelvo-cli render --border $p.kvp seen.png && cmp shown.png seen.png "
-            "|| exit 1; done && make | grep 'up to date'")
-          .exit_code,
-      0);
+  EXPECT_EQ(Shell("cp '" KELVO_EXAMPLE
+                  "'/* . && make -j2 && for p in sunset castle face; do c1541 pictures.d64 -read $p.prg && "
+                  "kelvo-cli show $p.prg shown.png && kelvo-cli render --exact --border $p.kvp seen.png && cmp "
+                  "shown.png seen.png "
+                  "|| exit 1; done && make | grep 'up to date'")
+                .exit_code,
+            0);
 }
 
 TEST_F(CommandLineTest, TakesTheSameSpritesForEveryAssembler) {
@@ -186,6 +194,8 @@ TEST_F(CommandLineTest, DoesManyAsOneByOne) {
   EXPECT_EQ(run.exit_code, 2);
   EXPECT_EQ(run.errors, "kelvo-cli: 50.koa: A file of this type has 10003 bytes, this one has 6.\n");
   EXPECT_TRUE(fs::is_empty(out / "alone"));
+  EXPECT_EQ(Shell("rm 50.koa; mkdir alone/99.png; kelvo-cli convert --to png *.koa alone").exit_code, 2);
+  EXPECT_EQ(support::NamesIn(out / "alone"), support::Lines{"99.png"});
 }
 
 TEST_F(CommandLineTest, SaysWhatMakesNoSense) {

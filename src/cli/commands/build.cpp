@@ -25,10 +25,16 @@ class BuildWords final : public app::Messages, public app::PromptOutput {
  public:
   void Inform(std::string_view text) override { lines_.emplace_back(text); }
   void InformWithMore(std::string_view text, std::string_view) override { Inform(text); }
-  bool InformWithChoice(std::string_view text, std::string_view) override { return Inform(text), false; }
+  bool InformWithChoice(std::string_view text, std::string_view) override {
+    Inform(text);
+    return false;
+  }
   void Warn(std::string_view text) override { Inform(text); }
   void Tell(std::string_view text) override { Inform(text); }
-  bool Ask(std::string_view text) override { return Inform(text), false; }
+  bool Ask(std::string_view text) override {
+    Inform(text);
+    return false;
+  }
   app::UnsavedAnswer AskUnsaved(std::string_view) override { return app::UnsavedAnswer::kCancel; }
   void CommandPromptList(std::string_view line) override {
     constexpr std::string_view kArrow = "--> ";

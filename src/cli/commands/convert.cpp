@@ -35,7 +35,7 @@ ExitCode Convert(const Arguments& arguments, const Ports& ports) {
     made[i] = EncodedAs(format, PictureOrImage(inputs[i], arguments, settings, palette), palette);
     return Report();
   });
-  for (std::size_t i = 0; code == kDone && i < made.size(); ++i) WriteOutput(outputs[i], made[i]);
+  if (code == kDone) WriteOutputs(outputs, made);
   return code;
 }
 

@@ -21,7 +21,7 @@ std::string NameFor(const std::string& operand, const Arguments& arguments) {
   std::string name = arguments.Text(kName);
   std::ranges::replace(name, ' ', '.');
   if (name.empty()) name = app::TextFromPath(app::PathFromText(operand).stem());
-  const std::string on_disk = c64out::NameOnDisk(name);
+  std::string on_disk = c64out::NameOnDisk(name);
   if (c64out::FitsDisk(on_disk)) return on_disk;
   throw UsageError(
       operand + ": a disk cannot hold the name " + name + "; one like it is " + c64out::ProposedDiskName(name),

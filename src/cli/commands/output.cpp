@@ -44,10 +44,12 @@ std::vector<std::string> OutputsInFolder(const Arguments& arguments, std::string
 }  // namespace
 
 std::string FormatToWrite(const Arguments& arguments) {
-  const std::string output = arguments.Output(), format = arguments.Text(kTo, FormatByEnding(output));
+  const std::string output = arguments.Output();
+  std::string format = arguments.Text(kTo, FormatByEnding(output));
   if (!format.empty()) return format;
-  if (IsFolder(output))
+  if (IsFolder(output)) {
     throw UsageError(output + ": this is a folder; --to says what is to be in it", arguments.command);
+  }
   throw UsageError(NameOfOutput(output) + ": its name tells no format; --to does", arguments.command);
 }
 
@@ -80,6 +82,21 @@ void WriteOutput(const std::string& output, std::span<const std::uint8_t> bytes)
 void WriteOutput(const std::string& output, std::string_view text) {
   const std::vector<std::uint8_t> bytes(text.begin(), text.end());
   WriteOutput(output, bytes);
+}
+
+void WriteOutputs(const std::vector<std::string>& outputs, const std::vector<app::Bytes>& files) {
+  std::vector<fs::path> made;
+  std::error_code ignored;
+  try {
+    for (std::size_t i = 0; i < outputs.size(); ++i) {
+      const bool is_new = !fs::exists(app::PathFromText(outputs[i]), ignored);
+      WriteOutput(outputs[i], files[i]);
+      if (is_new) made.push_back(app::PathFromText(outputs[i]));
+    }
+  } catch (const app::FileError&) {
+    for (const fs::path& file : made) fs::remove(file, ignored);
+    throw;
+  }
 }
 
 }  // namespace kelvo::cli

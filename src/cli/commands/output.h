@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "app/bytes.h"
 #include "cli/commands/commands.h"
 
 namespace kelvo::cli {
@@ -28,5 +29,8 @@ void RequireOtherThanInputs(const Arguments& arguments, const std::vector<std::s
 // All of it or nothing. Throws app::FileError, also for what is there and is no ordinary file.
 void WriteOutput(const std::string& output, std::span<const std::uint8_t> bytes);
 void WriteOutput(const std::string& output, std::string_view text);
+
+// One after the other. When one cannot be written, those that are new are removed again. Throws the same.
+void WriteOutputs(const std::vector<std::string>& outputs, const std::vector<app::Bytes>& files);
 
 }  // namespace kelvo::cli

@@ -38,8 +38,9 @@ void frmHelp::ShowGuide() {
 }
 
 QVariant frmHelp::loadResource(int type, const QUrl& name) {
-  if (type == QTextDocument::HtmlResource)
+  if (type == QTextDocument::HtmlResource) {
     return InSignsOf(font(), QTextBrowser::loadResource(type, name).toByteArray());
+  }
   if (type != QTextDocument::ImageResource) return QTextBrowser::loadResource(type, name);
   const QImage image(source().resolved(name).toLocalFile());
   return image.width() > kPictureWidth ? image.scaledToWidth(kPictureWidth, Qt::SmoothTransformation) : image;
