@@ -6,7 +6,7 @@
 #include <QDoubleSpinBox>
 #include <QDropEvent>
 #include <QFileDialog>
-#include <QImageWriter>
+#include <QImageReader>
 #include <QMimeData>
 #include <QSlider>
 
@@ -285,9 +285,10 @@ TEST_F(ImportTest, OddImagesComeInAndCancelIsHeardAtEveryMoment) {
       "21F904040A0000002C0000000001000100000202440100"
       "21F904040A0000002C0000000001000100000202440100"
       "3B");
-  for (const QByteArray& bytes :
-       {BytesOf(Photo({1, 1}), "png"), BytesOf(Photo({300, 240}, QImage::Format_RGBA64), "png"),
-        BytesOf(nothing_seen, "png"), BytesOf(Photo({5000, 3}), "jpg"), animation}) {
+  QList<QByteArray> odd{BytesOf(Photo({1, 1}), "png"), BytesOf(Photo({300, 240}, QImage::Format_RGBA64), "png"),
+                        BytesOf(nothing_seen, "png"), BytesOf(Photo({5000, 3}), "jpg")};
+  if (QImageReader::supportedImageFormats().contains("gif")) odd << animation;  // not on Windows
+  for (const QByteArray& bytes : odd) {
     Import(Write("odd", bytes), &Accept);
     EXPECT_TRUE(frame->windowTitle().endsWith(" [odd.kvp]"));
     frame->Files().OpenPicture(folder / "before.kvp");
