@@ -39,6 +39,9 @@ class Monkey : public MainFrameTest {
       const auto name = "a000" + std::to_string(number) + ".kvp";
       support::WriteFile(folder / name, files::Encode(support::RandomPicture(static_cast<unsigned>(number))));
     }
+    QImage image(50, 30, QImage::Format_RGB32);
+    image.fill(Qt::darkCyan);
+    image.save(OwnFolder() + "/image.png");
     OfferFrames();
     Start();
     AnswerSoon();

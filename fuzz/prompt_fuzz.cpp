@@ -48,7 +48,7 @@ class PromptAtWork : support::Program {
     Require(line->find_first_of("\r\n") == std::string::npos, "a command is one line");
     Require(line->front() != ' ' && line->back() != ' ', "a command has no spaces around");
     prompt.lines.clear();
-    command::ProcessCommand(*line, surroundings, animation_);
+    command::ProcessCommand(*line, surroundings, animation_, images_);
     Require(messages.shown.empty(), "a typed command opens no message box");
     const std::string path = app::TextFromPath(document.file.CurrentFilePath);
     Require(path.empty() ||
@@ -77,6 +77,12 @@ class PromptAtWork : support::Program {
  private:
   bool is_animation_on_ = false;
   const command::AnimationSwitch animation_{[this] { return is_animation_on_ = !is_animation_on_; }, [](bool) {}};
+  const command::ImageImport images_{[] {},
+                                     [this](const fs::path& image) {
+                                       Require(image.parent_path() == folders.Gfx(),
+                                               "images are those of the folder of pictures");
+                                       return false;
+                                     }};
   Names names_, outside_;
 };
 

@@ -1,6 +1,6 @@
 # The Debian packages that each job needs; sourced by the other scripts.
 build_packages=(g++ cmake ninja-build ccache qt6-base-dev libgl-dev libqt6svg6 libcli11-dev cmark-gfm)
-run_packages=(libqt6gui6 libqt6widgets6 fonts-dejavu-core 64tass)
+run_packages=(libqt6gui6 libqt6widgets6 libqt6svg6 qt6-image-formats-plugins fonts-dejavu-core 64tass)
 headless_packages=(xvfb xauth openbox imagemagick)
 test_packages=(libgtest-dev)
 end_to_end_packages=(xvfb xauth openbox xdotool)

@@ -33,6 +33,7 @@ enum ErrorNumber {
 struct Call {
   const files::PictureSurroundings& with;
   const AnimationSwitch& animation;
+  const ImageImport& images;
   std::string line, word;
   std::string argument;             // in upper case
   std::string_view fixed_reply;     // from the word's row
@@ -44,10 +45,11 @@ struct Call {
   }
 };
 
-Call Split(std::string_view line, const files::PictureSurroundings& with, const AnimationSwitch& animation) {
+Call Split(std::string_view line, const files::PictureSurroundings& with, const AnimationSwitch& animation,
+           const ImageImport& images) {
   const auto space = std::min(line.find(' '), line.size());
   const std::string_view argument = line.substr(std::min(space + 1, line.size()));
-  return {with, animation, std::string(line), std::string(line.substr(0, space)), app::ToUpper(argument), {}};
+  return {with, animation, images, std::string(line), std::string(line.substr(0, space)), app::ToUpper(argument), {}};
 }
 
 void Accept(Call&) {}
@@ -80,7 +82,7 @@ void RemoveFolder(Call& call) {
   if (removed) call.Reply("FOLDER \\" + name + " REMOVED");
 }
 
-constexpr std::string_view kPictureEnding = ".PRG";
+constexpr std::string_view kPictureEnding = ".PRG", kImageEnding = ".PNG";
 
 void LoadFrom(const Call& call, const fs::path& folder, std::string_view typed) {
   const std::string_view stem =
@@ -108,6 +110,15 @@ void Load(Call& call) {
   const auto comma = typed.find(',');
   if (comma == std::string_view::npos) return LoadFrom(call, call.with.folders.Gfx(), typed);
   LoadFromDevice(call, typed.substr(comma + 1), typed.substr(0, comma));
+}
+
+// The bare word asks with the dialogs; a name never does.
+void Import(Call& call) {
+  if (call.line == call.word) return call.images.ask();
+  const std::string name = call.line.substr(call.word.size() + 1);
+  const std::string file = name + std::string(kImageEnding);
+  const bool is_read = app::IsPlainName(file) && call.images.open(app::EntryOf(call.with.folders.Gfx(), file));
+  if (!is_read) call.Fail(call.line, kNotLoaded);
 }
 
 void Reload(Call& call) {
@@ -153,6 +164,7 @@ constexpr std::array kWords{
     Word{"BF", Accept},
     Word{"BLOCKFILL", Accept},
     Word{"LOAD", Load},
+    Word{"IMPORT", Import},
     Word{"RELOAD", Reload},
     Word{"NEW", New},
     Word{"MC", Accept},
@@ -175,8 +187,9 @@ const Word& RowOf(std::string_view word) {
 
 }  // namespace
 
-void ProcessCommand(std::string_view line, const files::PictureSurroundings& with, const AnimationSwitch& animation) {
-  Call call = Split(line, with, animation);
+void ProcessCommand(std::string_view line, const files::PictureSurroundings& with, const AnimationSwitch& animation,
+                    const ImageImport& images) {
+  Call call = Split(line, with, animation, images);
   const Word& row = RowOf(call.word);
   call.fixed_reply = row.fixed_reply;
   try {

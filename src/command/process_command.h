@@ -6,10 +6,12 @@
 //
 //   900  RELOAD without a current file       904  ANIM with another argument than ON or OFF
 //   901  a device that is no number          905  a disk-drive command, which this system does not take
-//   902  a picture that cannot be loaded     906  a folder that cannot be made
-//   903  an unknown word                     907  a folder that cannot be removed
+//   902  a picture that cannot be loaded,    906  a folder that cannot be made
+//        an image that cannot be imported    907  a folder that cannot be removed
+//   903  an unknown word
 #pragma once
 
+#include <filesystem>
 #include <functional>
 #include <string_view>
 
@@ -29,9 +31,18 @@ struct AnimationSwitch {
   std::function<void(bool on)> set_flag;
 };
 
+// How the command language reaches image files.
+struct ImageImport {
+  // What the menu entry Import does.
+  std::function<void()> ask;
+  // Makes a picture of an image without a question, and replies. False for one that cannot be read.
+  std::function<bool(const std::filesystem::path& image)> open;
+};
+
 // Carries out `line`, which comes without the prompt character. Nothing is kept between calls. Names in a command are
 // those of files and folders alone: one that could lead elsewhere is a failure like any other (902, 906, 907). Throws
 // what a port throws.
-void ProcessCommand(std::string_view line, const files::PictureSurroundings& with, const AnimationSwitch& animation);
+void ProcessCommand(std::string_view line, const files::PictureSurroundings& with, const AnimationSwitch& animation,
+                    const ImageImport& images);
 
 }  // namespace kelvo::command

@@ -70,6 +70,12 @@ void Painting::Undo() {
   Active().Cancel();
 }
 
+void Painting::TakeCells(const model::PictureImage& picture, std::string_view undo_caption) {
+  if (busy_ || stroke_) return;
+  Active().Cancel();
+  undo_.Replace(picture, undo_caption);
+}
+
 void Painting::Forget() {
   stroke_.reset();
   Active().Cancel();

@@ -41,6 +41,8 @@ class Painting {
   // The same; where there is none, returns to Draw.
   void Escape();
   void Undo();
+  // An action of its own: some cells are those of `picture`, whose background is the same.
+  void TakeCells(const model::PictureImage& picture, std::string_view undo_caption);
   // Another picture is in memory: nothing of the old one is left to undo or to finish.
   void Forget();
 

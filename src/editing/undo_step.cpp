@@ -22,6 +22,12 @@ void UndoStep::SaveUndoData(std::string_view caption) {
   last_ = Step{picture_, std::string(caption)};
 }
 
+void UndoStep::Replace(const model::PictureImage& picture, std::string_view caption) {
+  SaveUndoData(caption);
+  picture_ = picture;
+  views_.PictureChanged();
+}
+
 void UndoStep::Withdraw() {
   last_ = std::exchange(earlier_, std::nullopt);
 }

@@ -18,6 +18,9 @@ class UndoStep {
   // Takes the snapshot, and tells the views that an action begins. `caption` names it in the menu: "Undo draw".
   void SaveUndoData(std::string_view caption);
 
+  // Takes the snapshot and puts `picture` in place of what there is. Its background is that of the picture.
+  void Replace(const model::PictureImage& picture, std::string_view caption);
+
   // Puts the snapshot back; nothing when there is none.
   void Undo();
 

@@ -18,12 +18,11 @@ CurrentFile SetFileParameters(const std::filesystem::path& path) {
 }
 
 std::string WindowTitle(const CurrentFile& file) {
-  return "Kelvo " + std::string(app::kVersionWord) + " by the Kelvo developers [" +
-         (file.HasFile() ? file.CurrentFileName : "unnamed.kvp") + "]";
+  return "Kelvo " + std::string(app::kVersionWord) + " by the Kelvo developers [" + file.NameOr("unnamed.kvp") + "]";
 }
 
 std::string StatusName(const CurrentFile& file) {
-  return file.HasFile() ? file.CurrentFileName : "[unnamed]";
+  return file.HasFile() ? file.CurrentFileName : "[" + file.NameOr("unnamed") + "]";
 }
 
 }  // namespace kelvo::files

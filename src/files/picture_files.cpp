@@ -136,8 +136,9 @@ bool PictureFiles::Save() {
 }
 
 bool PictureFiles::SaveAs() {
-  const fs::path proposal =
-      document_.file.HasFile() ? document_.file.CurrentFilePath : FolderForDialogs() / "unnamed.kvp";
+  const fs::path proposal = document_.file.HasFile()
+                                ? document_.file.CurrentFilePath
+                                : FolderForDialogs() / app::PathFromText(document_.file.NameOr("unnamed.kvp"));
   const auto chosen = with_.dialogs.SaveAs(proposal);
   if (!chosen) return false;
   const fs::path path = WithExtension(*chosen);
@@ -200,6 +201,14 @@ void PictureFiles::New() {
   const model::PictureImage empty{.BackgroundColour = document_.picture.BackgroundColour};
   TakeOver({.picture = empty, .kept = empty, .file = {}}, "New");
   with_.prompt.CommandPromptList("NEW");
+}
+
+bool PictureFiles::TakeImported(const model::PictureImage& picture, const fs::path& image) {
+  if (!MayThrowAwayPicture()) return false;
+  const std::string name = app::TextFromPath(image.filename());
+  TakeOver({.picture = picture, .kept = {}, .file = {{}, app::TextFromPath(image.stem()) + ".kvp"}}, "Import " + name);
+  with_.prompt.CommandPromptList("IMPORT " + name);
+  return true;
 }
 
 bool PictureFiles::Recover(const Document& rescued) {

@@ -56,6 +56,10 @@ class PictureFiles {
   // An empty picture without a file; the background colour stays.
   void New();
 
+  // Takes over what was made of an image, as unsaved work that is named after it. False when the picture in memory
+  // stays.
+  bool TakeImported(const model::PictureImage& picture, const std::filesystem::path& image);
+
   // Takes over unsaved work that outlived a crash, as unsaved work again. False when the picture in memory stays.
   bool Recover(const Document& rescued);
 

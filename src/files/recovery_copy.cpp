@@ -101,7 +101,7 @@ std::filesystem::path KeepRescueCopy(const Document& document, const app::Progra
                                      const app::Clock& clock) {
   model::PictureImage picture = document.picture;
   Sign(picture);
-  const std::string name = document.file.HasFile() ? document.file.CurrentFileName : "unnamed";
+  const std::string name = document.file.NameOr("unnamed");
   return Backups(folders, clock).Keep(Encode(picture), name, "_unsaved", ".kvp");
 }
 

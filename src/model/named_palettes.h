@@ -3,6 +3,7 @@
 
 #include <array>
 #include <string_view>
+#include <vector>
 
 #include "model/palette.h"
 
@@ -24,5 +25,11 @@ inline constexpr std::array<NamedPalette, 3> kNamedPalettes{{
      {0xFF000000, 0xFFFFFFFF, 0xFF813338, 0xFF75CEC8, 0xFF8E3C97, 0xFF56AC4D, 0xFF2E2C9B, 0xFFEDF171, 0xFF8E5029,
       0xFF553800, 0xFFC46C71, 0xFF4A4A4A, 0xFF7B7B7B, 0xFFA9FF9F, 0xFF706DEB, 0xFFB2B2B2}},
 }};
+
+inline std::vector<SurfaceColours> NamedColours() {
+  std::vector<SurfaceColours> colours;
+  for (const NamedPalette& palette : kNamedPalettes) colours.push_back(palette.colours);
+  return colours;
+}
 
 }  // namespace kelvo::model

@@ -10,6 +10,7 @@
 #include "ui/menu_table.h"
 #include "ui/ports/qt_text.h"
 #include "ui/widgets/swatch_button.h"
+#include "ui/windows/import_keys.h"
 
 namespace kelvo::ui {
 namespace {
@@ -68,11 +69,18 @@ QString KeyboardRows() {
   return rows;
 }
 
+QString ImportRows() {
+  QString rows;
+  for (const ImportKey& row : kImportKeys) rows += Row(row.keys, row.what);
+  return rows;
+}
+
 }  // namespace
 
 QString KeyPage(const QWidget& frame) {
   return Section("Menus", MenuRows(frame)) + Section("Tools", ToolRows()) + Section("Pens", PenRows()) +
-         Section("Looking", ScrollRows()) + Section("Painting by keyboard, in the zoom window", KeyboardRows());
+         Section("Looking", ScrollRows()) + Section("Painting by keyboard, in the zoom window", KeyboardRows()) +
+         Section("Importing an image", ImportRows());
 }
 
 }  // namespace kelvo::ui

@@ -14,6 +14,7 @@
 #include "ui/desks/export_desk.h"
 #include "ui/desks/frame_choices.h"
 #include "ui/desks/history_desk.h"
+#include "ui/desks/import_desk.h"
 #include "ui/desks/painting_desk.h"
 #include "ui/desks/palette_desk.h"
 #include "ui/desks/picture_windows.h"
@@ -85,7 +86,8 @@ MainFrame::MainFrame(const app::ProgramFolders& folders, app::SettingsStore& set
       history_(std::make_unique<HistoryDesk>(PictureSurroundings(), *desk_, StepsFile(folders_, slot_))),
       palette_(std::make_unique<PaletteDesk>(Surroundings(), menu_.Menu(kPaletteMenu), this)),
       exports_(std::make_unique<ExportDesk>(PictureSurroundings(), *palette_, this)),
-      commands_(std::make_unique<CommandDesk>(PictureSurroundings(), *animation_)),
+      imports_(std::make_unique<ImportDesk>(PictureSurroundings(), *desk_, *panels_, ports_->pointer, this)),
+      commands_(std::make_unique<CommandDesk>(PictureSurroundings(), *animation_, *imports_)),
       called_(std::make_unique<CalledWindows>(PictureSurroundings(), *full_view_, ports_->tools, this)) {
   setObjectName("MDIFormMenu");
   setAcceptDrops(true);

@@ -22,6 +22,7 @@ class CommandDesk;
 class ExportDesk;
 class FrameChoices;
 class HistoryDesk;
+class ImportDesk;
 class PaletteDesk;
 class PaintingDesk;
 class PaintToolBar;
@@ -69,6 +70,7 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   HistoryDesk& History() { return *history_; }
   const HistoryDesk& History() const { return *history_; }
   ExportDesk& Exports() { return *exports_; }
+  ImportDesk& Imports() { return *imports_; }
   void ToggleSetting(const app::Setting& setting);
   bool IsOn(const app::Setting& setting) const;
 
@@ -156,6 +158,7 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   std::unique_ptr<HistoryDesk> history_;
   std::unique_ptr<PaletteDesk> palette_;
   std::unique_ptr<ExportDesk> exports_;
+  std::unique_ptr<ImportDesk> imports_;
   std::unique_ptr<CommandDesk> commands_;
   std::unique_ptr<CalledWindows> called_;
 };

@@ -9,6 +9,7 @@
 #include "ui/desks/animation_desk.h"
 #include "ui/desks/build_desk.h"
 #include "ui/desks/history_desk.h"
+#include "ui/desks/import_desk.h"
 #include "ui/desks/painting_desk.h"
 #include "ui/desks/recovery_desk.h"
 #include "ui/desks/window_desk.h"
@@ -37,12 +38,15 @@ void MainFrame::changeEvent(QEvent* event) {
 }
 
 void MainFrame::dragEnterEvent(QDragEnterEvent* event) {
+  if (event->source() != nullptr) return;  // the picture itself
   const auto urls = event->mimeData()->urls();
-  if (urls.size() == 1 && urls.first().isLocalFile()) event->acceptProposedAction();
+  const bool is_file = urls.size() == 1 && urls.first().isLocalFile();
+  if (is_file || ImportDesk::IsImage(*event->mimeData())) event->acceptProposedAction();
 }
 
 void MainFrame::dropEvent(QDropEvent* event) {
   event->acceptProposedAction();
+  if (ImportDesk::IsImage(*event->mimeData())) return imports_->ImportData(*event->mimeData());
   files_.OpenPicture(PathFromQt(event->mimeData()->urls().first().toLocalFile()));
 }
 

@@ -11,6 +11,7 @@
 #include "ui/desks/command_desk.h"
 #include "ui/desks/export_desk.h"
 #include "ui/desks/history_desk.h"
+#include "ui/desks/import_desk.h"
 #include "ui/desks/painting_desk.h"
 #include "ui/desks/window_desk.h"
 #include "ui/help_pages.h"
@@ -102,6 +103,8 @@ constexpr MenuEntry kEntries[] = {
      [](MainFrame& f) { f.Files().SaveAs(); }},
     {"mnuSaveJPG", "mnuFile", "Save picture as screens&hot...", "", "Save the full view as an image",
      [](MainFrame& f) { f.Called().SaveScreenshot(); }},
+    {"mnuImport", "mnuFile", "&Import...", "Ctrl+I", "Make a picture of any image",
+     [](MainFrame& f) { f.Imports().Import(); }},
     {"mnuExport", "mnuFile", "Ex&port...", "", "Write the picture in another format, or as a PNG image",
      [](MainFrame& f) { f.Exports().Export(); }},
     SettingEntry<files::kReadFilesExactly>("mnuReadExactly", "mnuFile", "Read &files exactly",
@@ -118,6 +121,8 @@ constexpr MenuEntry kEntries[] = {
      [](MainFrame& f) { f.History().StepForward(); }, [](const MainFrame& f) { return f.History().CanStepForward(); }},
     {"mnuCopyImage", "mnuLimPaint", "&Copy as image", "Ctrl+C", "Put the picture on the clipboard as an image",
      [](MainFrame& f) { f.Exports().CopyImage(); }},
+    {"mnuPasteImage", "mnuLimPaint", "Paste i&mage...", "Ctrl+V", "Make a picture of the image on the clipboard",
+     [](MainFrame& f) { f.Imports().Paste(); }},
     {"mnuSwapPens", "mnuLimPaint", "&Swap pens", "X", "Each button takes the other's color",
      [](MainFrame& f) { f.Desk().SwapPens(); }},
     Separator("mnuLimPaint"),

@@ -101,7 +101,7 @@ TEST_F(AnimModeTest, TheCommandSetsTheFlagAloneOrSwitchesTheModeWithIt) {
         {"ANIM off", "ANIM off", "ANIM=OFF", true},
         {"ANIM", "ANIM OFF", "ANIM=OFF", false},
         {"ANIM", "ANIM ON", "ANIM=ON", true}}) {
-    command::ProcessCommand(line, surroundings, animation);
+    command::ProcessCommand(line, surroundings, animation, {});
     EXPECT_EQ(prompt.lines.back(), reply);
     EXPECT_EQ(shows.status, flag);
     EXPECT_EQ(std::pair(shows.check_mark, shows.window), std::pair(is_on, is_on)) << line;

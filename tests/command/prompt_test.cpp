@@ -22,9 +22,16 @@ class ProcessCommandTest : public testing::Test, protected support::Program {
  protected:
   Lines Replies(const std::string& line) {
     prompt.lines.clear();
-    ProcessCommand(line, surroundings, kFailingAnimation);
+    ProcessCommand(line, surroundings, kFailingAnimation, images);
     return prompt.lines;
   }
+  // One image can be read; the bare word asks.
+  Lines imported;
+  const ImageImport images{[this] { imported.emplace_back("?"); },
+                           [this](const fs::path& image) {
+                             imported.push_back(app::TextFromPath(image.lexically_relative(folders.Root())));
+                             return fs::exists(image);
+                           }};
   static void WritePicture(const fs::path& path) {
     fs::create_directories(path.parent_path());
     support::WriteFile(path, support::CountingBytes(10003));
@@ -66,6 +73,18 @@ TEST_F(ProcessCommandTest, RepliesExactly) {
   EXPECT_THROW(Replies("ANIM"), std::logic_error);
   EXPECT_TRUE(prompt.lines.empty());
   EXPECT_TRUE(messages.shown.empty());
+}
+
+TEST_F(ProcessCommandTest, ImportsImagesOfTheFolderOfPictures) {
+  support::WriteText(folders.Gfx() / "Pic.png", "");
+  EXPECT_EQ(Replies("IMPORT PIC"), Lines{});  // whoever imports replies
+  EXPECT_EQ(Replies("IMPORT"), Lines{});
+  for (const std::string line : {"IMPORT X", "IMPORT ", "IMPORT ..\\PIC", "IMPORT PIC,8"}) {
+    EXPECT_EQ(Replies(line), Lines{line + " [err 902]"});
+  }
+  const fs::path gfx = folders.Gfx().lexically_relative(folders.Root());
+  EXPECT_EQ(imported, (Lines{app::TextFromPath(gfx / "Pic.png"), "?", app::TextFromPath(gfx / "X.PNG"),
+                             app::TextFromPath(gfx / ".PNG"), app::TextFromPath(gfx / "PIC,8.PNG")}));
 }
 
 TEST_F(ProcessCommandTest, MakesFoldersInOnePlaceAndRemovesThemInAnother) {

@@ -12,7 +12,10 @@ void CommandDesk::Process(const QString& line) {
                                              return animation_.Mode().IsAnimModeChecked();
                                            },
                                            [this](bool on) { animation_.Mode().SetAnimFlag(on); }};
-  command::ProcessCommand(FromQt(line), with_, animation);
+  const command::ImageImport images{
+      [this] { imports_.Import(); },
+      [this](const std::filesystem::path& image) { return imports_.ImportAsProposed(image); }};
+  command::ProcessCommand(FromQt(line), with_, animation, images);
 }
 
 }  // namespace kelvo::ui

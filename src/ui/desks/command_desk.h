@@ -1,17 +1,19 @@
-// The command prompt's lines reach files and animation.
+// The command prompt's lines reach files, images and animation.
 #pragma once
 
 #include <QString>
 
 #include "files/picture_files.h"
 #include "ui/desks/animation_desk.h"
+#include "ui/desks/import_desk.h"
 
 namespace kelvo::ui {
 
 class CommandDesk {
  public:
   // All of it outlives the desk.
-  CommandDesk(const files::PictureSurroundings& with, AnimationDesk& animation) : with_(with), animation_(animation) {}
+  CommandDesk(const files::PictureSurroundings& with, AnimationDesk& animation, ImportDesk& imports)
+      : with_(with), animation_(animation), imports_(imports) {}
 
   void Process(const QString& line);
   bool HasLast() const { return !last_.isEmpty(); }
@@ -20,6 +22,7 @@ class CommandDesk {
  private:
   files::PictureSurroundings with_;
   AnimationDesk& animation_;
+  ImportDesk& imports_;
   QString last_;
 };
 

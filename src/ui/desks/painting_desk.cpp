@@ -170,6 +170,11 @@ void PaintingDesk::Undo() {
   ActionDone();
 }
 
+void PaintingDesk::TakeCells(const model::PictureImage& picture, const std::string& undo_caption) {
+  painting_.TakeCells(picture, undo_caption);
+  ActionDone();
+}
+
 void PaintingDesk::Tick() {
   const auto prompt = painting_.Prompt();
   if (painting_.Tick() || painting_.Prompt() != prompt) ActionDone();

@@ -37,6 +37,7 @@ class PaintingDesk : public QObject {
   void ChooseTool(editing::ToolId tool);
   void SwapPens();
   void Undo();
+  void TakeCells(const model::PictureImage& picture, const std::string& undo_caption);
   void Tick();
 
   // A key was released in the main window or a child window of it. True when it meant something.
