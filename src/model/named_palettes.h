@@ -1,6 +1,7 @@
 // Other palettes than the program's own, as others have published them.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <string_view>
 #include <vector>
@@ -27,8 +28,8 @@ inline constexpr std::array<NamedPalette, 3> kNamedPalettes{{
 }};
 
 inline std::vector<SurfaceColours> NamedColours() {
-  std::vector<SurfaceColours> colours;
-  for (const NamedPalette& palette : kNamedPalettes) colours.push_back(palette.colours);
+  std::vector<SurfaceColours> colours(kNamedPalettes.size());
+  std::ranges::transform(kNamedPalettes, colours.begin(), &NamedPalette::colours);
   return colours;
 }
 

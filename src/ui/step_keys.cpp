@@ -4,7 +4,7 @@
 
 namespace kelvo::ui {
 
-void ShowStepKeys(MainMenu& menu, app::SettingsStore& settings) {
+void ShowStepKeys(MainMenu& menu, const app::SettingsStore& settings) {
   const bool by_ctrl_z = app::ReadNumber(settings, kCtrlZStepsBack, 0, 1) == 1;
   menu.SetKeys("mnuUndo", by_ctrl_z ? "" : "Ctrl+Z");
   menu.SetKeys("mnuStepBack", by_ctrl_z ? "Ctrl+Z; Ctrl+Alt+Z" : "Ctrl+Alt+Z");

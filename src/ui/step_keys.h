@@ -7,6 +7,6 @@
 namespace kelvo::ui {
 
 // Who prefers it walks by Ctrl+Z and Ctrl+Y; Undo has no key then.
-void ShowStepKeys(MainMenu& menu, app::SettingsStore& settings);
+void ShowStepKeys(MainMenu& menu, const app::SettingsStore& settings);
 
 }  // namespace kelvo::ui

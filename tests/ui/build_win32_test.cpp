@@ -21,7 +21,8 @@ class WindowsBuild : public MainFrameTest {
     support::WriteText(place / "x64sc.exe", "an emulator, to look at");
     settings.Write(c64out::kVicePath, app::TextFromPath(place));
     Start();
-    ASSERT_TRUE(frame->Files().OpenPicture(support::WriteKoala(place / "pic.koa")));
+    support::WriteKoala(place / "pic.koa");
+    ASSERT_TRUE(frame->Files().OpenPicture(place / "pic.koa"));
     Action("mnuCreatePRGCompopic")->trigger();
     ASSERT_EQ(PromptLines().last(), "--> PRG complete.") << FromQt(PromptLines().join('\n'));
     c64::Machine machine;

@@ -66,6 +66,7 @@ QByteArray PngOfSide(quint32 side) {
 class ImportTest : public MainFrameTest {
  protected:
   ImportTest() {
+    watch.start(3 * kEndOfWork);  // a dialog stays for as long as its work takes, also with sanitizers
     Start();
     support::WriteFile(folder / "before.kvp", files::Encode(support::BlotchyPicture(3)));
     frame->Files().OpenPicture(folder / "before.kvp");

@@ -12,7 +12,7 @@ namespace {
 constexpr int kWheelStep = 120;  // eighths of a degree
 constexpr int kScrollPixels = 40;
 constexpr int kMostPreferred = 2;
-constexpr QSize kScreen(320, 200), kSmallest(200, 125);
+constexpr QSize kScreen(320, 200), kSmallestPane(200, 125);
 
 // The centre of a view that shows `share` of a length: nothing beyond the ends is seen that need not be.
 double Inside(double centre, double share) {
@@ -31,7 +31,7 @@ ComparePane::ComparePane(SharedLook& look, QWidget* parent)
     : QWidget(parent), look_(look), picture_(kScreen), preferred_(kScreen) {
   setFocusPolicy(Qt::StrongFocus);
   setMouseTracking(true);
-  setMinimumSize(kSmallest);
+  setMinimumSize(kSmallestPane);
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
   connect(&look, &SharedLook::Changed, this, qOverload<>(&QWidget::update));
 }

@@ -86,7 +86,8 @@ void ResultPane::PaintWorstCells(QPainter& painter) const {
   for (int number = 0; number < grid_.Cells(); ++number) {
     const float error = errors_.at(static_cast<std::size_t>(number));
     if (error <= 0 || error < *bound) continue;
-    const QPointF at(number % grid_.cells_wide * cell.width(), number / grid_.cells_wide * cell.height());
+    const int column = number % grid_.cells_wide, row = number / grid_.cells_wide;
+    const QPointF at(column * cell.width(), row * cell.height());
     painter.drawRect(QRectF(place.topLeft() + at, cell).adjusted(0, 0, -1, -1));
   }
 }

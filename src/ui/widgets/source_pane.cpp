@@ -10,9 +10,9 @@
 namespace kelvo::ui {
 namespace {
 
-constexpr int kCornerReach = 8;     // widget pixels
-constexpr double kSmallest = 1;     // pixels of the image, of either side of a frame
-constexpr double kKeyShare = 0.02;  // of the image, that a key moves
+constexpr int kCornerReach = 8;       // widget pixels
+constexpr double kSmallestFrame = 1;  // pixels of the image, of either side of a frame
+constexpr double kKeyShare = 0.02;    // of the image, that a key moves
 
 QRectF RectOf(const convert::Area& area) {
   return {area.left, area.top, area.width, area.height};
@@ -135,7 +135,7 @@ void SourcePane::DrawTo(QPointF image_point) {
     side = {std::copysign(width, side.x()), std::copysign(width * *shape_, side.y())};
   }
   const QRectF frame = QRectF(anchor_, QSizeF(side.x(), side.y())).normalized();
-  if (frame.width() >= kSmallest && frame.height() >= kSmallest) Choose(frame);
+  if (frame.width() >= kSmallestFrame && frame.height() >= kSmallestFrame) Choose(frame);
 }
 
 // A frame is brought into the image: as it is where it has room, else smaller.
@@ -171,7 +171,7 @@ bool SourcePane::ChangeByKey(const QKeyEvent& event) {
   } else if (event.modifiers() == Qt::ControlModifier) {
     const double width = frame_.width() + by.x() + (shape_ ? by.y() / *shape_ : 0);
     const double height = shape_ ? width * *shape_ : frame_.height() + by.y();
-    if (width >= kSmallest && height >= kSmallest) Choose({frame_.topLeft(), QSizeF(width, height)});
+    if (width >= kSmallestFrame && height >= kSmallestFrame) Choose({frame_.topLeft(), QSizeF(width, height)});
   } else {
     return false;
   }

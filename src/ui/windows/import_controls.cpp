@@ -156,8 +156,8 @@ void ImportControls::FixBackground(std::optional<C64Colour> fixed) {
 
 void ImportControls::ChooseDither() {
   const QSignalBlocker silence(grain_);
-  if (dither_->currentIndex() != kBySlider && Grain() != convert::kNoGrain)
-    grain_->SetValue(static_cast<double>(Grain()));
+  const bool is_chosen = dither_->currentIndex() != kBySlider && Grain() != convert::kNoGrain;
+  if (is_chosen) grain_->SetValue(static_cast<double>(Grain()));
 }
 
 void ImportControls::GrainChanged() {

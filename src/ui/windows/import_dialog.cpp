@@ -42,6 +42,14 @@ QString WordsOf(const convert::Converted& converted) {
       .arg(converted.mean_error, 0, 'f', 1);
 }
 
+// A view as high as there is room for, over what belongs to it.
+QLayout* ColumnOf(QWidget* view, QLayout* below) {
+  auto* column = new QVBoxLayout;
+  column->addWidget(view, 1);
+  column->addLayout(below);
+  return column;
+}
+
 }  // namespace
 
 ImportDialog::ImportDialog(ImportWorker::Read read, const QString& name, const model::PictureImage& picture,
@@ -95,10 +103,7 @@ QLayout* ImportDialog::SourceColumn() {
   auto* below = new QHBoxLayout;
   below->addWidget(lblImage_, 1);
   below->addWidget(whole_);
-  auto* column = new QVBoxLayout;
-  column->addWidget(source_, 1);
-  column->addLayout(below);
-  return column;
+  return ColumnOf(source_, below);
 }
 
 QLayout* ImportDialog::ResultColumn() {
@@ -115,10 +120,7 @@ QLayout* ImportDialog::ResultColumn() {
   below->addWidget(worst_);
   below->addStretch(1);
   below->addWidget(original_);
-  auto* column = new QVBoxLayout;
-  column->addWidget(result_, 1);
-  column->addLayout(below);
-  return column;
+  return ColumnOf(result_, below);
 }
 
 QDialogButtonBox* ImportDialog::Buttons() {
