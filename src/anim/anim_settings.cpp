@@ -16,6 +16,14 @@ void KeepPlayRate(app::SettingsStore& settings, int rate) {
   settings.Write(kPlayRate, std::to_string(std::clamp(rate, kSlowestRate, kFastestRate)));
 }
 
+Playing ReadPlaying(const app::SettingsStore& settings) {
+  return static_cast<Playing>(app::ReadNumber(settings, kPlaying, 0, static_cast<int>(Playing::kToAndFro)));
+}
+
+void KeepPlaying(app::SettingsStore& settings, Playing playing) {
+  settings.Write(kPlaying, std::to_string(static_cast<int>(playing)));
+}
+
 bool ReadOnionSkin(const app::SettingsStore& settings) {
   return app::ReadNumber(settings, kOnionSkin, 0, 1) == 1;
 }

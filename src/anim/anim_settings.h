@@ -11,8 +11,12 @@ inline constexpr app::Setting kFolder{"AnimProperties", "Folder", ""};
 inline constexpr app::Setting kAnimPrefix{"AnimProperties", "AnimPrefix", "anim"};
 inline constexpr app::Setting kPlayRate{"AnimProperties", "PlayRate", "10"};
 inline constexpr app::Setting kOnionSkin{"AnimProperties", "OnionSkin", "0"};  // 1: the frame before shines through
+inline constexpr app::Setting kPlaying{"AnimProperties", "Playing", "1"};      // a number of Playing
 
 inline constexpr int kSlowestRate = 1, kFastestRate = 25;  // frames a second
+
+// What follows the last frame when an animation is played: an end, the first frame again, or the way back.
+enum class Playing { kOnce, kRound, kToAndFro };
 
 struct AnimProperties {
   std::string folder;  // the beginning of every frame's path, used as it was typed
@@ -24,6 +28,9 @@ AnimProperties ReadAnimProperties(const app::SettingsStore& settings);
 // Frames a second, kSlowestRate..kFastestRate.
 int ReadPlayRate(const app::SettingsStore& settings);
 void KeepPlayRate(app::SettingsStore& settings, int rate);
+
+Playing ReadPlaying(const app::SettingsStore& settings);
+void KeepPlaying(app::SettingsStore& settings, Playing playing);
 
 bool ReadOnionSkin(const app::SettingsStore& settings);
 void KeepOnionSkin(app::SettingsStore& settings, bool on);
