@@ -20,6 +20,8 @@ class FrameNames {
 
   std::filesystem::path Path(int number) const;
   std::string FileName(int number) const { return FileStart() + Ending(number); }
+  // What all file names begin with.
+  std::string FileStart() const { return path_start_.substr(file_start_at_); }
 
   // The folder that the paths lead to, as the text that stands before the file names: empty, or with its separator.
   std::string FolderText() const { return path_start_.substr(0, file_start_at_); }
@@ -33,7 +35,6 @@ class FrameNames {
 
  private:
   static std::string Ending(int number);
-  std::string FileStart() const { return path_start_.substr(file_start_at_); }
 
   std::string path_start_;
   std::size_t file_start_at_;

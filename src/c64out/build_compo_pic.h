@@ -1,21 +1,10 @@
 // From the picture in memory to a program that shows it on a C64.
 #pragma once
 
-#include <filesystem>
-#include <optional>
-
-#include "c64out/build_job.h"
+#include "c64out/build_result.h"
+#include "files/document.h"
 
 namespace kelvo::c64out {
-
-// Why a build failed is in the prompt; why it was given up, a message box has told.
-enum class BuildOutcome { kDone, kStopped, kFailed, kGivenUp };
-
-struct BuildResult {
-  BuildOutcome outcome;
-  std::optional<ToolCommand> emulator;  // what is to be shown next, once other builds may begin
-  std::filesystem::path made;           // the file beside the picture; empty where there is none
-};
 
 // Builds what `choice` asks for out of `document`, which has a file: a PRG or a D64 beside the picture, or a transfer
 // to a C64. Lines in the prompt tell how far it is. Returns when it is done, failed, given up or stopped by the user.
@@ -24,8 +13,5 @@ struct BuildResult {
 // A failure is one "--> " line that says what went wrong, then "--> [err 908]"; the work files are removed then, and an
 // older result beside the picture stays as it was. The picture, its name and the dialogs' folder stay as they are.
 BuildResult BuildCompoPic(const files::Document& document, const CompoPicChoice& choice, const BuildSurroundings& with);
-
-// Runs the emulator until the user closes it or it is no longer waited for. Its failure is told like that of a build.
-BuildOutcome ShowInEmulator(const ToolCommand& emulator, const BuildSurroundings& with);
 
 }  // namespace kelvo::c64out

@@ -27,32 +27,28 @@ WorkFiles::WorkFiles(const fs::path& system)
       viewer_object(system / "bmpshow.obj"),
       viewer_packed(system / "bmpshow.pak"),
       depacker_source(system / "decrush.tmp"),
+      animation(system / "animplay.bin"),
+      player_source(system / "animplay.tmp"),
       program(system / "bmpshow.prg"),
       saver_source(system / "15x1save.tmp"),
       saver(system / "15x1save.prg") {}
 
 void WorkFiles::RemoveAll() const {
   for (const fs::path& file : {picture, viewer_half_filled, viewer_source, viewer_object, viewer_packed,
-                               depacker_source, program, saver_source, saver}) {
+                               depacker_source, animation, player_source, program, saver_source, saver}) {
     Remove(file);
   }
 }
 
-BuildJob::BuildJob(const files::Document& document, const CompoPicChoice& choice, const BuildSurroundings& with)
-    : document_(document), choice_(choice), with_(with), files_(with.folders.System()) {}
+BuildJob::BuildJob(ResultName result, const CompoPicChoice& choice, const BuildSurroundings& with)
+    : result_(std::move(result)), choice_(choice), with_(with), files_(with.folders.System()) {}
 
 std::string BuildJob::Setting(const app::Setting& setting) const {
   return std::string(app::Trimmed(with_.settings.Read(setting)));
 }
 
-std::string BuildJob::BaseName() const {
-  const std::string& name = document_.file.CurrentFileName;
-  const auto dot = name.rfind('.');
-  return dot == std::string::npos ? std::string() : name.substr(0, dot);
-}
-
-fs::path BuildJob::BesidePicture(std::string_view extension) const {
-  return document_.file.CurrentFilePath.parent_path() / app::PathFromText(BaseName() + std::string(extension));
+fs::path BuildJob::Result(std::string_view extension) const {
+  return result_.folder / app::PathFromText(result_.base + std::string(extension));
 }
 
 std::string BuildJob::DiskFileName(const app::Setting& name_setting) const {

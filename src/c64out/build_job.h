@@ -12,7 +12,6 @@
 #include "c64out/fill_template.h"
 #include "c64out/output_settings.h"
 #include "c64out/tool_runner.h"
-#include "files/document.h"
 
 namespace kelvo::c64out {
 
@@ -27,6 +26,12 @@ class BuildStopped : public std::runtime_error {
   BuildStopped() : std::runtime_error("Build stopped.") {}
 };
 
+// What a build makes: in which folder, and under which name without its ending.
+struct ResultName {
+  std::filesystem::path folder;
+  std::string base;
+};
+
 // The work files of a build, all in SYSTEM.
 struct WorkFiles {
   explicit WorkFiles(const std::filesystem::path& system);
@@ -34,15 +39,13 @@ struct WorkFiles {
   void RemoveAll() const;
 
   std::filesystem::path picture, viewer_half_filled, viewer_source, viewer_object, viewer_packed, depacker_source,
-      program, saver_source, saver;
+      animation, player_source, program, saver_source, saver;
 };
 
 class BuildJob {
  public:
-  // `document` is the picture as it is when the build begins, with its file.
-  BuildJob(const files::Document& document, const CompoPicChoice& choice, const BuildSurroundings& with);
+  BuildJob(ResultName result, const CompoPicChoice& choice, const BuildSurroundings& with);
 
-  const files::Document& Picture() const { return document_; }
   const CompoPicChoice& Choice() const { return choice_; }
   const BuildSurroundings& With() const { return with_; }
   const WorkFiles& Files() const { return files_; }
@@ -58,11 +61,9 @@ class BuildJob {
   // The lines of templates that this build asks for.
   TemplateMarks Marks() const { return {choice_.ViaCodenet, IsOn(kKeyEndsPicture), IsOn(kFadeIn)}; }
 
-  // The picture's name without its extension: everything from the last "." on goes. A name without a "." gives an empty
-  // text, on purpose.
-  std::string BaseName() const;
-  // The file beside the picture that has its base name and `extension`.
-  std::filesystem::path BesidePicture(std::string_view extension) const;
+  const std::string& BaseName() const { return result_.base; }
+  // The file that is made, with `extension`.
+  std::filesystem::path Result(std::string_view extension) const;
   // The name on the C64's disk: `name_setting` with every blank replaced by ".", or the base name where none is set.
   std::string DiskFileName(const app::Setting& name_setting) const;
 
@@ -74,7 +75,7 @@ class BuildJob {
             std::vector<std::string> arguments) const;
 
  private:
-  const files::Document& document_;
+  ResultName result_;
   CompoPicChoice choice_;
   BuildSurroundings with_;
   WorkFiles files_;

@@ -29,7 +29,7 @@ std::string NameOnDisk(std::string_view name) {
 }
 
 std::optional<ToolCommand> EndWithDisk(const BuildJob& job) {
-  const std::filesystem::path image = job.BesidePicture(".d64");
+  const std::filesystem::path image = job.Result(".d64");
   const std::string folder = job.Setting(kVicePath), name = NameOnDisk(job.DiskFileName(kVicePrgName));
   RequireDiskName(name);
   SetAside older(image);

@@ -43,6 +43,13 @@ const Option kScale{
 const Option kBorder{"--border", "", "with the border around it, 384 x 272"};
 const Option kAspect{"--aspect", "pal", "as high as a PAL screen shows it", "pal"};
 
+const Option kPrefix{"--prefix", "P", "what the frames' names begin with, if not \"anim\""};
+const Option kRate{
+    .name = "--rate", .value = "N", .help = "frames a second, if not 10", .lowest = 1, .highest = 25};
+const Option kPlaying{"--playing", "HOW", "what follows the last frame; else round", "once round to-and-fro"};
+const Option kChangeBackground{"--change-background", "", "frames may have backgrounds of their own"};
+const Option kReport{"--report", "", "tells what each frame takes"};
+
 const Option kHost{"--host", "ADDRESS", "the C64's name or address"};
 const Option kPort{.name = "--port", .value = "N", .help = "its port, if not 6462", .lowest = 1, .highest = 65535};
 const Option kRun{.name = "--run", .value = "", .help = "starts the program, as RUN does", .excludes = "--jump-to"};
@@ -102,6 +109,18 @@ const std::vector<Command> kCommands{
      "Each program is called as its picture. This needs the assembler 64tass and VICE's c1541.",
      {&kName, &kVice, &kFadeIn, &kKeyEnds, &kFrom, &kExact, &kBackground, &kSettings},
      "disk planet.kvp castle.kvp show.d64"},
+    {"animation",
+     "FOLDER [OUT]",
+     1,
+     2,
+     true,
+     "makes a C64 program, or a GIF, that plays numbered pictures",
+     "OUT is a .prg, a .d64 or a .gif; with --report it may be left out. Frames are called as anim0001.kvp; a file "
+     "anim-times.txt has a line for each that stays for more than a turn: its number and its turns. Programs are the "
+     "same bytes as the editor makes, and need the assembler 64tass.",
+     {&kPrefix, &kRate, &kPlaying, &kChangeBackground, &kReport, &kName, &kVice, &kScale, &kBorder, &kPalette, &kExact,
+      &kSettings},
+     "animation --rate 12 --prefix walk_ frames walk.prg"},
     {"show",
      "PRG [OUT.png]",
      1,

@@ -43,6 +43,6 @@ std::vector<std::string_view> WordsOf(std::string_view list);
 // By the commands that know them; each takes those that its row of the table names.
 extern const Option kHelp, kFrom, kTo, kExact, kBackground, kSettings, kJson, kPalette, kDither, kFit, kFadeIn,
     kKeyEnds, kName, kVice, kSeconds, kAt, kGrid, kSpriteFormat, kBackgroundPass, kPackingPass, kScale, kBorder,
-    kAspect, kHost, kPort, kLoadAt, kRun, kJumpTo;
+    kAspect, kPrefix, kRate, kPlaying, kChangeBackground, kReport, kHost, kPort, kLoadAt, kRun, kJumpTo;
 
 }  // namespace kelvo::cli

@@ -1,12 +1,14 @@
 #include "cli/commands/build.h"
 
 #include <atomic>
+#include <functional>
 #include <random>
 #include <stdexcept>
 #include <vector>
 
 #include "app/number_text.h"
 #include "app/whole_file.h"
+#include "c64out/build_animation.h"
 #include "c64out/build_compo_pic.h"
 #include "c64out/output_settings.h"
 
@@ -16,6 +18,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char* kPicture = "picture.kvp";
+constexpr c64out::CompoPicChoice kProgramAlone{.MakePrg = true, .AsksForVice = false};
 
 std::atomic<int> temporary_folders = 0;
 static_assert(std::atomic<int>::is_always_lock_free, "a signal handler asks");
@@ -81,6 +84,23 @@ void TakeBuildOptions(const Arguments& arguments, app::SettingsStore& settings) 
   if (arguments.Has(kKeyEnds)) settings.Write(c64out::kKeyEndsPicture, "1");
 }
 
+using Work = std::function<c64out::BuildResult(const fs::path& place, const c64out::BuildSurroundings& with)>;
+
+// What `work` builds, in a place of its own.
+BuiltProgram Build(const Arguments& arguments, const Ports& ports, const Work& work) {
+  const TemporaryFolder place;
+  const app::ProgramFolders folders(place.Path());
+  FillSystem(ports.shipped, folders);
+  ChosenSettings settings(arguments, ports);
+  TakeBuildOptions(arguments, settings);
+  const app::SystemClock clock;
+  const app::ErrorLog log(folders.ErrorLogFile(), clock);
+  BuildWords words;
+  const c64out::BuildResult result = work(place.Path(), {{folders, settings, clock, log, words, words}, ports.tools});
+  if (result.outcome != c64out::BuildOutcome::kDone) throw std::runtime_error(words.Failure());
+  return {app::ReadWholeFile(result.made, app::kMostBytesToCopy), words.Notes()};
+}
+
 }  // namespace
 
 TemporaryFolder::TemporaryFolder() {
@@ -106,20 +126,17 @@ bool TemporaryFolder::AnyIsThere() {
 }
 
 BuiltProgram BuildProgram(const model::PictureImage& picture, const Arguments& arguments, const Ports& ports) {
-  const TemporaryFolder place;
-  const app::ProgramFolders folders(place.Path());
-  FillSystem(ports.shipped, folders);
-  ChosenSettings settings(arguments, ports);
-  TakeBuildOptions(arguments, settings);
-  const app::SystemClock clock;
-  const app::ErrorLog log(folders.ErrorLogFile(), clock);
-  BuildWords words;
-  const files::Document document{.picture = picture, .file = files::SetFileParameters(place.Path() / kPicture)};
-  constexpr c64out::CompoPicChoice kProgramAlone{.MakePrg = true, .AsksForVice = false};
-  const c64out::BuildResult result =
-      c64out::BuildCompoPic(document, kProgramAlone, {{folders, settings, clock, log, words, words}, ports.tools});
-  if (result.outcome != c64out::BuildOutcome::kDone) throw std::runtime_error(words.Failure());
-  return {app::ReadWholeFile(result.made, app::kMostBytesToCopy), words.Notes()};
+  return Build(arguments, ports, [&](const fs::path& place, const c64out::BuildSurroundings& with) {
+    const files::Document document{.picture = picture, .file = files::SetFileParameters(place / kPicture)};
+    return c64out::BuildCompoPic(document, kProgramAlone, with);
+  });
+}
+
+BuiltProgram BuildProgram(c64out::Release release, const Arguments& arguments, const Ports& ports) {
+  return Build(arguments, ports, [&](const fs::path& place, const c64out::BuildSurroundings& with) {
+    release.animation.folder = place;
+    return c64out::BuildAnimation(release, kProgramAlone, with);
+  });
 }
 
 }  // namespace kelvo::cli

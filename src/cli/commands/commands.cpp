@@ -32,13 +32,14 @@ ExitCode PrintManual(const Arguments&, const Ports&) {
   return Print(ManualPage()), kDone;
 }
 
-constexpr std::array<std::pair<std::string_view, Work>, 14> kWork{{
+constexpr std::array<std::pair<std::string_view, Work>, 15> kWork{{
     {"help", Help},
     {"info", Info},
     {"convert", Convert},
     {"check", Check},
     {"program", MakeProgram},
     {"disk", MakeDisk},
+    {"animation", MakeAnimation},
     {"show", Show},
     {"sprites", TakeSprites},
     {"optimise", Optimise},

@@ -67,6 +67,7 @@ ExitCode Check(const Arguments& arguments, const Ports& ports);
 ExitCode Convert(const Arguments& arguments, const Ports& ports);
 ExitCode MakeProgram(const Arguments& arguments, const Ports& ports);
 ExitCode MakeDisk(const Arguments& arguments, const Ports& ports);
+ExitCode MakeAnimation(const Arguments& arguments, const Ports& ports);
 ExitCode Show(const Arguments& arguments, const Ports& ports);
 ExitCode TakeSprites(const Arguments& arguments, const Ports& ports);
 ExitCode Optimise(const Arguments& arguments, const Ports& ports);

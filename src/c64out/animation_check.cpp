@@ -1,0 +1,111 @@
+#include "c64out/animation_check.h"
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "c64/beam.h"
+#include "model/pixel_colour.h"
+
+namespace kelvo::c64out {
+namespace {
+
+constexpr int kMostFieldsToBegin = 250;
+
+// A frame's turn in the first round: its place, and the most fields that it takes to come.
+struct Turn {
+  std::size_t frame;
+  int fields, coming;
+};
+
+std::vector<std::size_t> OrderOfFrames(std::size_t frames, anim::Playing playing) {
+  std::vector<std::size_t> order;
+  for (std::size_t frame = 0; frame < frames; ++frame) order.push_back(frame);
+  if (playing == anim::Playing::kToAndFro) {
+    for (std::size_t frame = frames - 1; frame-- > 1;) order.push_back(frame);
+  }
+  if (playing != anim::Playing::kOnce) order.push_back(0);
+  return order;
+}
+
+// The change between two frames that follow each other, whichever comes first; from the last to the first is one, too.
+const c64anim::ChangeCost& ChangeBetween(const Release& release, std::size_t one, std::size_t other) {
+  const auto& changes = release.plan.changes;
+  const bool closes_round = one > 0 && other == 0 && one + 1 == release.fields.size() && one < changes.size();
+  return changes[closes_round ? one : std::min(one, other)];
+}
+
+std::vector<Turn> TurnsOf(const Release& release) {
+  const auto order = OrderOfFrames(release.fields.size(), release.wishes.playing);
+  std::vector<Turn> turns;
+  int fields = 0, late = 0;
+  for (std::size_t i = 0; i < order.size() && fields < kMostTriedFields; ++i) {
+    Turn turn{order[i], i + 1 == order.size() ? 1 : release.fields[order[i]], 0};
+    if (i > 0 && order[i] != order[i - 1]) {
+      const int needed = ChangeBetween(release, order[i - 1], order[i]).pace.fields;
+      turn.coming = needed - 1 + late;
+      late = std::max(0, needed - std::min(release.fields[order[i - 1]], release.fields[order[i]]));
+    }
+    fields += turn.fields;
+    turns.push_back(turn);
+  }
+  return turns;
+}
+
+using Pixels = decltype(c64::Screen::pixels);
+
+Pixels PixelsOf(const model::PictureImage& picture) {
+  Pixels pixels;
+  for (int y = 0; y < c64::Screen::kHeight; ++y) {
+    for (int x = 0; x < c64::Screen::kWidth; ++x) {
+      pixels[static_cast<std::size_t>(y * c64::Screen::kWidth + x)] =
+          static_cast<std::uint8_t>(model::GetPixelData(picture, x / 2 + 1, y + 1).colour.Number());
+    }
+  }
+  return pixels;
+}
+
+// How many of the next `most` fields pass before `wanted` is seen, which `screen` is then; `most` when it is not.
+int Await(const Pixels& wanted, int most, c64::Beam& beam, c64::Screen& screen) {
+  int waited = 0;
+  while (waited < most && screen.pixels != wanted) {
+    screen = beam.NextField();
+    ++waited;
+  }
+  return waited;
+}
+
+ProgramFinding Watch(c64::Beam& beam, const Release& release) {
+  c64::Screen screen = beam.NextField();
+  Await(PixelsOf(release.first_pictures.front()), kMostFieldsToBegin, beam, screen);
+  for (const Turn& turn : TurnsOf(release)) {
+    const Pixels wanted = PixelsOf(release.first_pictures[turn.frame]);
+    const int waited = Await(wanted, turn.coming, beam, screen);
+    for (int field = std::min(waited, turn.fields - 1); field < turn.fields; ++field, screen = beam.NextField()) {
+      if (screen.pixels == wanted) continue;
+      return {ProgramState::kShowsOther,
+              "frame " + std::to_string(release.animation.frames[turn.frame].number) + " is not seen at its time"};
+    }
+  }
+  return {ProgramState::kShowsPicture, {}};
+}
+
+}  // namespace
+
+ProgramFinding TryAnimation(std::span<const std::uint8_t> program, const Release& release, bool via_codenet) {
+  try {
+    c64::Machine machine;
+    machine.LetItChangeWhatIsShown();
+    if (via_codenet) machine.LeaveUnclean();
+    machine.Load(program);
+    c64::Beam beam(machine);
+    machine.Start();
+    return Watch(beam, release);
+  } catch (const c64::MachineCrash& crash) {
+    return {ProgramState::kCrashes, crash.what()};
+  } catch (const c64::MachineFault& fault) {
+    return {ProgramState::kCannotBeJudged, fault.what()};
+  }
+}
+
+}  // namespace kelvo::c64out

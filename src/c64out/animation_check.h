@@ -1,0 +1,19 @@
+// Plays the program of an animation in a C64 without ROMs before it is kept.
+#pragma once
+
+#include <cstdint>
+#include <span>
+
+#include "c64out/animation_release.h"
+#include "c64out/program_check.h"
+
+namespace kelvo::c64out {
+
+// The most fields that are tried, and so the most pictures that are needed for it.
+inline constexpr int kMostTriedFields = 1000;
+
+// Whether `program`, a PRG, shows every frame of `release` with every pixel, at its time and for its time, in the first
+// round. Where a change takes several fields, or more than there are, the frame may come as much later.
+ProgramFinding TryAnimation(std::span<const std::uint8_t> program, const Release& release, bool via_codenet);
+
+}  // namespace kelvo::c64out
