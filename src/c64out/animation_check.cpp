@@ -12,7 +12,7 @@ namespace {
 
 constexpr int kMostFieldsToBegin = 250;
 
-// A frame's turn in the first round: its place, and the most fields that it takes to come.
+// A frame's turn in the first round: its place, for how long it is to be seen, and the most fields that it takes to come.
 struct Turn {
   std::size_t frame;
   int fields, coming;
@@ -35,19 +35,22 @@ const c64anim::ChangeCost& ChangeBetween(const Release& release, std::size_t one
   return changes[closes_round ? one : std::min(one, other)];
 }
 
+// But for frames for which there are too few fields: they are never seen whole, and make others late.
 std::vector<Turn> TurnsOf(const Release& release) {
   const auto order = OrderOfFrames(release.fields.size(), release.wishes.playing);
-  std::vector<Turn> turns;
-  int fields = 0, late = 0;
-  for (std::size_t i = 0; i < order.size() && fields < kMostTriedFields; ++i) {
-    Turn turn{order[i], i + 1 == order.size() ? 1 : release.fields[order[i]], 0};
-    if (i > 0 && order[i] != order[i - 1]) {
-      const int needed = ChangeBetween(release, order[i - 1], order[i]).pace.fields;
-      turn.coming = needed - 1 + late;
-      late = std::max(0, needed - std::min(release.fields[order[i - 1]], release.fields[order[i]]));
+  std::vector<Turn> turns{{0, release.fields.front(), 0}};
+  int fields = release.fields.front(), late = 0;
+  for (std::size_t i = 1; i < order.size() && fields < kMostTriedFields; ++i) {
+    const std::size_t before = order[i - 1], here = order[i];
+    const int there_are = std::min(release.fields[before], release.fields[here]);
+    const int needed = ChangeBetween(release, before, here).pace.fields;
+    fields += release.fields[here];
+    if (needed > there_are) {
+      late += needed;
+    } else {
+      turns.push_back({here, i + 1 == order.size() ? 1 : release.fields[here], needed - 1 + late});
+      late = 0;
     }
-    fields += turn.fields;
-    turns.push_back(turn);
   }
   return turns;
 }
