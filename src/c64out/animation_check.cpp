@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "anim/playing_order.h"
 #include "c64/beam.h"
 #include "model/pixel_colour.h"
 
@@ -18,16 +19,6 @@ struct Turn {
   int fields, coming;
 };
 
-std::vector<std::size_t> OrderOfFrames(std::size_t frames, anim::Playing playing) {
-  std::vector<std::size_t> order;
-  for (std::size_t frame = 0; frame < frames; ++frame) order.push_back(frame);
-  if (playing == anim::Playing::kToAndFro) {
-    for (std::size_t frame = frames - 1; frame-- > 1;) order.push_back(frame);
-  }
-  if (playing != anim::Playing::kOnce) order.push_back(0);
-  return order;
-}
-
 // The change between two frames that follow each other, whichever comes first; from the last to the first is one, too.
 const c64anim::ChangeCost& ChangeBetween(const Release& release, std::size_t one, std::size_t other) {
   const auto& changes = release.plan.changes;
@@ -37,7 +28,9 @@ const c64anim::ChangeCost& ChangeBetween(const Release& release, std::size_t one
 
 // But for frames for which there are too few fields: they are never seen whole, and make others late.
 std::vector<Turn> TurnsOf(const Release& release) {
-  const auto order = OrderOfFrames(release.fields.size(), release.wishes.playing);
+  const anim::Playing playing = release.wishes.playing;
+  std::vector<std::size_t> order = anim::OrderOfRound(release.fields.size(), playing);
+  if (playing != anim::Playing::kOnce) order.push_back(0);
   std::vector<Turn> turns{{0, release.fields.front(), 0}};
   int fields = release.fields.front(), late = 0;
   for (std::size_t i = 1; i < order.size() && fields < kMostTriedFields; ++i) {

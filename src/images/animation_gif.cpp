@@ -1,38 +1,35 @@
 #include "images/animation_gif.h"
 
+#include <gif_lib.h>
+
 #include <algorithm>
+#include <array>
+#include <new>
 #include <span>
 #include <stdexcept>
 #include <string_view>
-
-#include "images/lzw.h"
+#include <vector>
 
 namespace kelvo::images {
 namespace {
 
-constexpr int kColours = 1 << kPixelBits;
-constexpr std::size_t kLargestBlock = 255;
-constexpr std::uint8_t kGlobalPalette = 0x80 | (kPixelBits - 1) << 4 | (kPixelBits - 1);
-constexpr std::uint8_t kExtension = 0x21, kTimeOfFrame = 0xF9, kStays = 1 << 2, kImage = 0x2C, kTrailer = 0x3B;
-constexpr std::string_view kLoopForEver{"\x21\xFF\x0BNETSCAPE2.0\x03\x01\x00\x00\x00", 19};
+constexpr int kColours = 16, kColourBits = 4;
+constexpr std::uint8_t kTrailer = 0x3B;
 
-void PutWord(int word, app::Bytes& bytes) {
-  bytes.push_back(static_cast<std::uint8_t>(word));
-  bytes.push_back(static_cast<std::uint8_t>(word >> 8));
-}
-
-void PutText(std::string_view text, app::Bytes& bytes) {
-  bytes.insert(bytes.end(), text.begin(), text.end());
-}
-
-void PutBlocks(std::span<const std::uint8_t> data, app::Bytes& bytes) {
-  while (!data.empty()) {
-    const auto block = data.first(std::min(data.size(), kLargestBlock));
-    bytes.push_back(static_cast<std::uint8_t>(block.size()));
-    bytes.insert(bytes.end(), block.begin(), block.end());
-    data = data.subspan(block.size());
+// Called by giflib, which knows no exceptions.
+int Append(GifFileType* gif, const GifByteType* data, int size) noexcept {
+  try {
+    auto& bytes = *static_cast<app::Bytes*>(gif->UserData);
+    bytes.insert(bytes.end(), data, data + size);
+    return size;
+  } catch (const std::bad_alloc&) {
+    return 0;
   }
-  bytes.push_back(0);
+}
+
+// What fails is memory alone.
+void Require(int result) {
+  if (result != GIF_OK) throw std::bad_alloc();
 }
 
 std::span<const std::uint8_t> Row(const QImage& image, int y) {
@@ -52,19 +49,16 @@ QRect DifferingPart(const QImage& before, const QImage& after) {
   return part.isEmpty() ? QRect(0, 0, 1, 1) : part;
 }
 
-void PutPart(const QImage& image, const QRect& part, app::Bytes& bytes) {
-  bytes.push_back(kImage);
-  for (const int number : {part.x(), part.y(), part.width(), part.height()}) PutWord(number, bytes);
-  bytes.insert(bytes.end(), {0, kPixelBits});  // no palette of its own
-  app::Bytes pixels;
-  for (int y = part.top(); y <= part.bottom(); ++y) {
-    const auto row = Row(image, y).subspan(static_cast<std::size_t>(part.x()), static_cast<std::size_t>(part.width()));
-    pixels.insert(pixels.end(), row.begin(), row.end());
-  }
-  PutBlocks(LzwPacked(pixels), bytes);
+}  // namespace
+
+AnimationGif::AnimationGif(GifLoop loop) : loop_(loop), gif_(EGifOpen(&bytes_, Append, nullptr)) {
+  if (gif_ == nullptr) throw std::bad_alloc();
+  EGifSetGifVersion(gif_, true);
 }
 
-}  // namespace
+AnimationGif::~AnimationGif() {
+  EGifCloseFile(gif_, nullptr);
+}
 
 void AnimationGif::Add(const QImage& image, int hundredths) {
   if (hundredths < 1 || hundredths > kMostHundredths) throw std::runtime_error("a GIF has no such time for a frame");
@@ -76,10 +70,8 @@ void AnimationGif::Add(const QImage& image, int hundredths) {
   if (!is_first && (image.size() != before_.size() || image.colorTable() != before_.colorTable())) {
     throw std::runtime_error("frames are to have one size and one palette");
   }
-  bytes_.insert(bytes_.end(), {kExtension, kTimeOfFrame, 4, kStays});
-  PutWord(hundredths, bytes_);
-  bytes_.insert(bytes_.end(), {0, 0});  // nothing is transparent
-  PutPart(image, is_first ? image.rect() : DifferingPart(before_, image), bytes_);
+  PutTime(hundredths);
+  PutPart(image, is_first ? image.rect() : DifferingPart(before_, image));
   before_ = image;
 }
 
@@ -91,16 +83,43 @@ app::Bytes AnimationGif::Finished() const {
 }
 
 void AnimationGif::PutHeader(const QImage& image) {
-  PutText("GIF89a", bytes_);
-  PutWord(image.width(), bytes_);
-  PutWord(image.height(), bytes_);
-  bytes_.insert(bytes_.end(), {kGlobalPalette, 0, 0});
-  for (const QRgb colour : image.colorTable()) {
-    for (const int part : {qRed(colour), qGreen(colour), qBlue(colour)}) {
-      bytes_.push_back(static_cast<std::uint8_t>(part));
-    }
+  std::array<GifColorType, kColours> table{};
+  for (std::size_t i = 0; i < table.size(); ++i) {
+    const QRgb colour = image.color(static_cast<int>(i));
+    table.at(i) = {static_cast<GifByteType>(qRed(colour)), static_cast<GifByteType>(qGreen(colour)),
+                   static_cast<GifByteType>(qBlue(colour))};
   }
-  PutText(kLoopForEver, bytes_);
+  const std::unique_ptr<ColorMapObject, decltype(&GifFreeMapObject)> colours(GifMakeMapObject(kColours, table.data()),
+                                                                             GifFreeMapObject);
+  if (!colours) throw std::bad_alloc();
+  Require(EGifPutScreenDesc(gif_, image.width(), image.height(), kColourBits, 0, colours.get()));
+  if (loop_ == GifLoop::kForEver) PutLoop();
+}
+
+void AnimationGif::PutLoop() {
+  constexpr std::string_view kName = "NETSCAPE2.0", kForEver{"\x01\x00\x00", 3};
+  Require(EGifPutExtensionLeader(gif_, APPLICATION_EXT_FUNC_CODE));
+  for (const std::string_view block : {kName, kForEver}) {
+    Require(EGifPutExtensionBlock(gif_, static_cast<int>(block.size()), block.data()));
+  }
+  Require(EGifPutExtensionTrailer(gif_));
+}
+
+void AnimationGif::PutTime(int hundredths) {
+  constexpr std::size_t kBytes = 4;
+  const GraphicsControlBlock control{DISPOSE_DO_NOT, false, hundredths, NO_TRANSPARENT_COLOR};
+  std::array<GifByteType, kBytes> bytes{};
+  EGifGCBToExtension(&control, bytes.data());
+  Require(EGifPutExtension(gif_, GRAPHICS_EXT_FUNC_CODE, kBytes, bytes.data()));
+}
+
+void AnimationGif::PutPart(const QImage& image, const QRect& part) {
+  Require(EGifPutImageDesc(gif_, part.x(), part.y(), part.width(), part.height(), false, nullptr));
+  for (int y = part.top(); y <= part.bottom(); ++y) {
+    const auto row = Row(image, y).subspan(static_cast<std::size_t>(part.x()), static_cast<std::size_t>(part.width()));
+    std::vector<GifPixelType> pixels(row.begin(), row.end());  // giflib writes into them
+    Require(EGifPutLine(gif_, pixels.data(), part.width()));
+  }
 }
 
 }  // namespace kelvo::images

@@ -23,7 +23,7 @@ TEST(AnimationGif, HoldsEachFrameForItsTime) {
   }
   for (const int scale : {1, 2, 8}) {
     SCOPED_TRACE(scale);
-    AnimationGif gif;
+    AnimationGif gif(GifLoop::kForEver);
     int hundredths = 2;
     for (const auto& picture : pictures) gif.Add(ImageOf(picture, palette, ImageSize::kBorder, scale), hundredths += 2);
     const app::Bytes bytes = gif.Finished();
@@ -46,7 +46,7 @@ TEST(AnimationGif, EndsAFrameAnywhere) {
   const QImage all = ImageOf(support::RandomPicture(3), {"Kelvo", model::kSurfaceColours}, ImageSize::kPixels, 1);
   for (int width = 1; width <= all.width(); ++width) {
     const QImage image = all.copy(0, 0, width, 1 + width % 40);
-    AnimationGif gif;
+    AnimationGif gif(GifLoop::kForEver);
     gif.Add(image, 1);
     const app::Bytes bytes = gif.Finished();
     const QImage read = QImage::fromData(bytes.data(), static_cast<int>(bytes.size()), "gif");
@@ -57,7 +57,7 @@ TEST(AnimationGif, EndsAFrameAnywhere) {
 TEST(AnimationGif, TakesFramesOfOneKindOnly) {
   const files::Palette palette{"Kelvo", model::kSurfaceColours};
   const QImage image = ImageOf({}, palette, ImageSize::kPixels, 1);
-  AnimationGif gif;
+  AnimationGif gif(GifLoop::kForEver);
   EXPECT_THROW(gif.Finished(), std::runtime_error);
   gif.Add(image, AnimationGif::kMostHundredths);
   const app::Bytes before = gif.Finished();

@@ -8,6 +8,7 @@
 #include "cli/commands/palette_choice.h"
 #include "cli/standard_streams.h"
 #include "files/load_picture.h"
+#include "images/animation_export.h"
 
 namespace kelvo::cli {
 namespace {
@@ -65,18 +66,61 @@ void PrintReport(const c64out::Release& release) {
         " frames\nrate   " + std::to_string(c64out::FastestRate(release)) + " at most\n");
 }
 
+app::Bytes GifFile(const AnimationFrames& frames, const c64out::ReleaseWishes& wishes, const Arguments& arguments,
+                   const app::SettingsStore& settings) {
+  const images::AnimationLook look{
+      .palette = ChosenPalette(arguments, settings),
+      .size = arguments.Has(kBorder) ? images::ImageSize::kBorder : images::ImageSize::kScreen,
+      .scale = arguments.Number(kScale).value_or(1),
+      .reading = wishes.reading};
+  ShownProgress progress;
+  return images::GifOf(frames, wishes.rate, wishes.playing, look, progress);
+}
+
+app::Bytes DiskFile(const app::Bytes& program, const AnimationFrames& frames, const Arguments& arguments,
+                    const Ports& ports, const app::SettingsStore& settings) {
+  const std::string name = NameFor(arguments.operands.front(), frames.name, arguments);
+  return DiskWith({program}, {name}, FindDiskTool(arguments, settings), ports);
+}
+
+enum class OutputKind { kNone, kProgram, kDisk, kGif };
+
+OutputKind KindOfOutput(const Arguments& arguments) {
+  if (arguments.operands.size() == 1 && arguments.Has(kReport)) return OutputKind::kNone;
+  const std::string ending = app::LowerExtension(arguments.Output());
+  if (ending == ".prg") return OutputKind::kProgram;
+  if (ending == ".d64") return OutputKind::kDisk;
+  if (ending == ".gif") return OutputKind::kGif;
+  throw UsageError(arguments.Output() + ": an animation becomes a .prg, a .d64 or a .gif", arguments.command);
+}
+
+// The report, and what is written but for a GIF.
+app::Bytes Released(const AnimationFrames& frames, const c64out::ReleaseWishes& wishes, OutputKind kind,
+                    const Arguments& arguments, const Ports& ports) {
+  ShownProgress progress;
+  const c64out::Release release = c64out::MakeRelease(frames, wishes, progress);
+  if (arguments.Has(kReport)) PrintReport(release);
+  for (const std::string& note : c64out::Notes(release)) Complain("Note: " + note);
+  if (kind != OutputKind::kProgram && kind != OutputKind::kDisk) return {};
+  const std::string refusal = c64out::Refusal(release);
+  if (!refusal.empty()) throw PictureSaysNo(refusal + " " + c64out::Advice(release));
+  const BuiltProgram program = BuildProgram(release, arguments, ports);
+  Complain(program.notes);
+  return program.bytes;
+}
+
 }  // namespace
 
 ExitCode MakeAnimation(const Arguments& arguments, const Ports& ports) {
   const ChosenSettings settings(arguments, ports);
+  const OutputKind kind = KindOfOutput(arguments);
   const AnimationFrames frames = FramesIn(arguments, settings);
-  ShownProgress progress;
-  const c64out::Release release = c64out::MakeRelease(frames, ChosenWishes(arguments, settings), progress);
-  if (arguments.Has(kReport)) PrintReport(release);
-  for (const std::string& note : c64out::Notes(release)) Complain(note);
-  const BuiltProgram program = BuildProgram(release, arguments, ports);
-  Complain(program.notes);
-  WriteOutput(arguments.Output(), program.bytes);
+  const c64out::ReleaseWishes wishes = ChosenWishes(arguments, settings);
+  app::Bytes made;
+  if (kind != OutputKind::kGif || arguments.Has(kReport)) made = Released(frames, wishes, kind, arguments, ports);
+  if (kind == OutputKind::kDisk) made = DiskFile(made, frames, arguments, ports, settings);
+  if (kind == OutputKind::kGif) made = GifFile(frames, wishes, arguments, settings);
+  if (kind != OutputKind::kNone) WriteOutput(arguments.Output(), made);
   return kDone;
 }
 
