@@ -95,6 +95,10 @@ int FastestRate(const Release& release) {
   return rate;
 }
 
+bool HasOtherBackgrounds(const Release& release) {
+  return !OtherBackgrounds(release).empty();
+}
+
 std::string Refusal(const Release& release) {
   const Numbers others = OtherBackgrounds(release);
   if (!others.empty() && !release.wishes.changes_background) {

@@ -52,6 +52,8 @@ int FramesThatFit(const Release& release);
 // Turns a second that the slowest change allows, up to anim::kFastestRate; 0 where one takes more than a second.
 int FastestRate(const Release& release);
 
+// Frames whose background is not that of the first.
+bool HasOtherBackgrounds(const Release& release);
 // Why no program can be made of it, in a line; empty when one can.
 std::string Refusal(const Release& release);
 // What would help where it is refused or too slow, in a line; else empty.

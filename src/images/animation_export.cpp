@@ -2,20 +2,41 @@
 
 #include "anim/frame_times.h"
 #include "anim/playing_order.h"
+#include "app/temporary_name.h"
+#include "app/whole_file.h"
 #include "files/load_picture.h"
 #include "images/animation_gif.h"
 
 namespace kelvo::images {
 namespace {
 
-constexpr int kHundredthsInField = 100 / anim::kFieldsPerSecond;
+namespace fs = std::filesystem;
 
-}  // namespace
+constexpr int kHundredthsInField = 100 / anim::kFieldsPerSecond;
 
 QImage ImageOfFrame(const anim::AnimationFrame& frame, const AnimationLook& look) {
   const auto picture = files::LoadPicture(frame.path, files::kOwnType, {}, look.reading);
   return ImageOf(picture, look.palette, look.size, look.scale);
 }
+
+// A folder beside what it is for, which goes with all that is in it.
+class PassingFolder {
+ public:
+  explicit PassingFolder(const fs::path& beside) : path_(app::TemporaryName(beside)) { fs::create_directory(path_); }
+  ~PassingFolder() {
+    std::error_code ignored;
+    fs::remove_all(path_, ignored);
+  }
+  PassingFolder(const PassingFolder&) = delete;
+  PassingFolder& operator=(const PassingFolder&) = delete;
+
+  const fs::path& Path() const { return path_; }
+
+ private:
+  fs::path path_;
+};
+
+}  // namespace
 
 app::Bytes GifOf(const anim::AnimationFrames& animation, int rate, anim::Playing playing, const AnimationLook& look,
                  app::Progress& progress) {
@@ -29,6 +50,24 @@ app::Bytes GifOf(const anim::AnimationFrames& animation, int rate, anim::Playing
     gif.Add(ImageOfFrame(animation.frames[frame], look), fields[frame] * kHundredthsInField);
   }
   return gif.Finished();
+}
+
+fs::path PngFileOf(const anim::AnimationFrame& frame, const fs::path& folder) {
+  return (folder / frame.path.filename()).replace_extension(".png");
+}
+
+void WritePngs(const anim::AnimationFrames& animation, const AnimationLook& look, const fs::path& folder,
+               app::Progress& progress) {
+  const app::ProgressScope scope(progress, static_cast<int>(animation.frames.size()));
+  const PassingFolder made(folder);
+  int done = 0;
+  for (const anim::AnimationFrame& frame : animation.frames) {
+    progress.Advance(done++);
+    app::WriteWholeFile(PngFileOf(frame, made.Path()), PngOf(ImageOfFrame(frame, look)), app::Flush::kLater);
+  }
+  for (const anim::AnimationFrame& frame : animation.frames) {
+    fs::rename(PngFileOf(frame, made.Path()), PngFileOf(frame, folder));
+  }
 }
 
 }  // namespace kelvo::images

@@ -20,6 +20,7 @@
 #include "ui/desks/picture_windows.h"
 #include "ui/desks/recent_menu.h"
 #include "ui/desks/recovery_desk.h"
+#include "ui/desks/release_desk.h"
 #include "ui/desks/window_desk.h"
 #include "ui/menu_table.h"
 #include "ui/ports/frame_ports.h"
@@ -87,6 +88,7 @@ MainFrame::MainFrame(const app::ProgramFolders& folders, app::SettingsStore& set
       palette_(std::make_unique<PaletteDesk>(Surroundings(), menu_.Menu(kPaletteMenu), this)),
       exports_(std::make_unique<ExportDesk>(PictureSurroundings(), *palette_, this)),
       imports_(std::make_unique<ImportDesk>(PictureSurroundings(), *desk_, *panels_, ports_->pointer, this)),
+      releases_(std::make_unique<ReleaseDesk>(PictureSurroundings(), *panels_, *builds_, *palette_, this)),
       commands_(std::make_unique<CommandDesk>(PictureSurroundings(), *animation_, *imports_)),
       called_(std::make_unique<CalledWindows>(PictureSurroundings(), *full_view_, ports_->tools, this)) {
   setObjectName("MDIFormMenu");

@@ -28,6 +28,7 @@ class PaintingDesk;
 class PaintToolBar;
 class PictureWindows;
 class RecoveryDesk;
+class ReleaseDesk;
 class frmBMPView;
 class frmCharData;
 class frmColors;
@@ -85,6 +86,7 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   const BuildDesk& Builds() const { return *builds_; }
   AnimationDesk& Animation() { return *animation_; }
   const AnimationDesk& Animation() const { return *animation_; }
+  ReleaseDesk& Releases() { return *releases_; }
   void ProcessCommand(const QString& line);
   void RepeatLastCommand();
   const CommandDesk& Commands() const { return *commands_; }
@@ -159,6 +161,7 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   std::unique_ptr<PaletteDesk> palette_;
   std::unique_ptr<ExportDesk> exports_;
   std::unique_ptr<ImportDesk> imports_;
+  std::unique_ptr<ReleaseDesk> releases_;
   std::unique_ptr<CommandDesk> commands_;
   std::unique_ptr<CalledWindows> called_;
 };

@@ -11,6 +11,7 @@
 #include "ui/desks/palette_desk.h"
 #include "ui/desks/picture_windows.h"
 #include "ui/desks/recovery_desk.h"
+#include "ui/desks/release_desk.h"
 #include "ui/desks/window_desk.h"
 #include "ui/main_frame.h"
 #include "ui/ports/frame_ports.h"
@@ -50,6 +51,7 @@ void MainFrame::ConnectAnimation() {
   connect(animation_.get(), &AnimationDesk::CheckMarkChanged, this, &MainFrame::RefreshMenus);
   connect(animation_.get(), &AnimationDesk::StatusChanged, this,
           [this](const QString& text) { panels_->Show(StatusPanel::kAnimation, text); });
+  connect(releases_.get(), &ReleaseDesk::PlaybackChanged, animation_.get(), &AnimationDesk::PlaybackChanged);
   connect(animation_.get(), &AnimationDesk::Word, this, [this](const QString& word) { panels_->Tell(FromQt(word)); });
   connect(animation_.get(), &AnimationDesk::KeyReleased, this, [this](QKeyEvent* event) {
     if (event->key() != Qt::Key_Escape || builds_->IsBuilding()) return keyReleaseEvent(event);

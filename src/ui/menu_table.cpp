@@ -13,6 +13,7 @@
 #include "ui/desks/history_desk.h"
 #include "ui/desks/import_desk.h"
 #include "ui/desks/painting_desk.h"
+#include "ui/desks/release_desk.h"
 #include "ui/desks/window_desk.h"
 #include "ui/help_pages.h"
 #include "ui/main_frame.h"
@@ -76,6 +77,14 @@ constexpr MenuEntry BuildEntry(const char* name, const char* text, const char* k
           nullptr,
           choice.ViaCodenet ? "Not while a build is at work"
                             : "It needs VICE, set in VICE settings, and no other build at work"};
+}
+
+template <const c64out::CompoPicChoice& choice>
+constexpr MenuEntry AnimationBuildEntry(const char* name, const char* text, const char* key, const char* tip) {
+  MenuEntry entry = BuildEntry<choice>(name, text, key, tip);
+  entry.menu = "mnuAnim";
+  entry.run = [](MainFrame& f) { f.Releases().Build(choice); };
+  return entry;
 }
 
 constexpr MenuEntry Separator(const char* menu) {
@@ -180,6 +189,20 @@ constexpr MenuEntry kEntries[] = {
      [](const MainFrame& f) { return f.Animation().Mode().IsAnimModeChecked(); }},
     {"mnuAnimProperties", "mnuAnim", "Animation &properties...", "", "Where the frames are and how they are named",
      [](MainFrame& f) { f.Animation().ShowProperties(); }},
+    Separator("mnuAnim"),
+    AnimationBuildEntry<c64out::kCreatePrg>("mnuCreatePRGAnimation", "Create animation executable as &PRG...", "Ctrl+F6",
+                                            "Make a C64 program that plays the frames, beside the frames"),
+    AnimationBuildEntry<c64out::kCreateD64>("mnuCreateD64Animation", "Create animation executable as &D64...", "",
+                                            "Make a disk image with a program that plays the frames, beside the frames"),
+    AnimationBuildEntry<c64out::kPreviewInVice>("mnuShowAnimationInVICE", "Show animation in &VICE...", "Ctrl+F5",
+                                                "Make the disk image and start VICE on it"),
+    AnimationBuildEntry<c64out::kPreviewOnC64>("mnuSendAnimationToC64", "&Send animation to C64...", "",
+                                               "Send the frames to a C64 and play them there"),
+    Separator("mnuAnim"),
+    {"mnuExportAnimationGif", "mnuAnim", "Export animation as &GIF...", "", "Write the frames as one GIF that moves",
+     [](MainFrame& f) { f.Releases().ExportGif(); }},
+    {"mnuExportAnimationPngs", "mnuAnim", "Export animation as PNG &images...", "",
+     "Write each frame as a PNG image, numbered as the frames are", [](MainFrame& f) { f.Releases().ExportPngs(); }},
 
     BuildEntry<c64out::kCreatePrg>("mnuCreatePRGCompopic", "Create compopic executable as &PRG", "F6",
                                    "Make a C64 program that shows the picture, beside the picture"),

@@ -88,6 +88,10 @@ void AnimationDesk::Move(const std::function<std::string()>& move) {
   if (frame_window_ != nullptr) ShowFrame();
 }
 
+void AnimationDesk::PlaybackChanged() {
+  if (frame_window_ != nullptr) frame_window_->SetPlayRate(anim::ReadPlayRate(with_.settings));
+}
+
 void AnimationDesk::FileChanged() {
   if (frame_window_ != nullptr && !is_moving_) ShowFrame();
 }

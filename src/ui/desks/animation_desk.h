@@ -35,6 +35,8 @@ class AnimationDesk : public QObject, private anim::AnimDisplay {
   QWidget* FrameWindow() const { return frame_window_; }
   // Closes the frame window, if there is one; its place is kept.
   void UnloadFrameWindow() override;
+  // The settings may say anew how animations are played.
+  void PlaybackChanged();
   // The current file, or what is in it, may be another one now.
   void FileChanged();
 

@@ -22,22 +22,32 @@ BuildDesk::BuildDesk(const files::PictureSurroundings& with, app::StatusLine& st
 }
 
 void BuildDesk::BuildCompoPic(const c64out::CompoPicChoice& choice) {
-  if (runner_.IsShowing()) {
-    next_ = choice;
-    return app::ReadNumber(with_.settings, c64out::kOneEmulator, 0, 1) == 1 ? runner_.EndShown() : runner_.Stop();
-  }
-  if (!IsFree() || is_running_ || (!with_.document.file.HasFile() && !with_.files.SaveAs())) return;
-  Run(choice);
-  if (!next_) return;
-  const c64out::CompoPicChoice next = *std::exchange(next_, std::nullopt);
-  QMetaObject::invokeMethod(
-      this, [this, next] { BuildCompoPic(next); }, Qt::QueuedConnection);
+  Start([this, choice]() -> Build {
+    if (!with_.document.file.HasFile() && !with_.files.SaveAs()) return {};
+    return [choice, picture = with_.document](const c64out::BuildSurroundings& with) {
+      return c64out::BuildCompoPic(picture, choice, with);
+    };
+  });
 }
 
-void BuildDesk::Run(const c64out::CompoPicChoice& choice) {
+void BuildDesk::Start(const std::function<Build()>& ask) {
+  if (runner_.IsShowing()) {
+    next_ = ask;
+    return app::ReadNumber(with_.settings, c64out::kOneEmulator, 0, 1) == 1 ? runner_.EndShown() : runner_.Stop();
+  }
+  if (!IsFree() || is_running_) return;
+  const Build build = ask();
+  if (!build) return;
+  Run(build);
+  if (!next_) return;
+  QMetaObject::invokeMethod(
+      this, [this, next = std::exchange(next_, nullptr)] { Start(next); }, Qt::QueuedConnection);
+}
+
+void BuildDesk::Run(const Build& build) {
   is_running_ = true;
   emit StateChanged();
-  c64out::BuildResult result = BuildAlone(choice);
+  c64out::BuildResult result = BuildAlone(build);
   if (result.emulator) result.outcome = c64out::ShowInEmulator(*result.emulator, ForBuilds());
   is_running_ = false;
   emit StateChanged();
@@ -60,9 +70,9 @@ void BuildDesk::TellEnd(const c64out::BuildResult& result) {
   }
 }
 
-// Programs on one program folder build in the same work files. The picture may change while tools are at work: the
-// build has its own copy.
-c64out::BuildResult BuildDesk::BuildAlone(const c64out::CompoPicChoice& choice) {
+// Programs on one program folder build in the same work files. The picture may change while tools are at work: a build
+// has its own copy.
+c64out::BuildResult BuildDesk::BuildAlone(const Build& build) {
   QLockFile lock(QtFromPath(with_.folders.System() / "build.lock"));
   lock.setStaleLockTime(0);
   if (!lock.tryLock(0) && lock.error() == QLockFile::LockFailedError) {
@@ -70,8 +80,7 @@ c64out::BuildResult BuildDesk::BuildAlone(const c64out::CompoPicChoice& choice) 
     with_.prompt.CommandPromptList("--> [err 908]");
     return {c64out::BuildOutcome::kFailed, {}, {}};
   }
-  const files::Document picture = with_.document;
-  return c64out::BuildCompoPic(picture, choice, ForBuilds());
+  return build(ForBuilds());
 }
 
 c64out::BuildSurroundings BuildDesk::ForBuilds() const {
@@ -83,7 +92,7 @@ void BuildDesk::Stop() {
 }
 
 void BuildDesk::LeaveAll() {
-  next_.reset();
+  next_ = nullptr;
   runner_.Stop();
 }
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include <QObject>
-#include <optional>
+#include <functional>
 
 #include "c64out/build_compo_pic.h"
 #include "files/picture_files.h"
@@ -19,6 +19,10 @@ class BuildDesk : public QObject {
   // Passed over while a build or a transfer is at work. A picture that has no file is saved under a name first. While
   // the emulator is waited for another build may begin: it is left running then.
   void BuildCompoPic(const c64out::CompoPicChoice& choice);
+
+  using Build = std::function<c64out::BuildResult(const c64out::BuildSurroundings&)>;
+  // The same for what `ask` gives; null is no build.
+  void Start(const std::function<Build()>& ask);
 
   // Ends a build at work. The emulator is not a part of it.
   void Stop();
@@ -42,8 +46,8 @@ class BuildDesk : public QObject {
   void Failed();
 
  private:
-  void Run(const c64out::CompoPicChoice& choice);
-  c64out::BuildResult BuildAlone(const c64out::CompoPicChoice& choice);
+  void Run(const Build& build);
+  c64out::BuildResult BuildAlone(const Build& build);
   void TellEnd(const c64out::BuildResult& result);
   c64out::BuildSurroundings ForBuilds() const;
 
@@ -52,7 +56,7 @@ class BuildDesk : public QObject {
   QWidget* window_;
   QtToolRunner& runner_;
   bool is_running_ = false, is_vice_ready_ = false;
-  std::optional<c64out::CompoPicChoice> next_;  // chosen while the emulator was waited for
+  std::function<Build()> next_;  // chosen while the emulator was waited for
 };
 
 }  // namespace kelvo::ui

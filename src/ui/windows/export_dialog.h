@@ -3,11 +3,11 @@
 
 #include <QComboBox>
 #include <QDialog>
+#include <QFormLayout>
 #include <QLabel>
-#include <QSpinBox>
 
 #include "files/export_formats.h"
-#include "images/picture_png.h"
+#include "ui/windows/image_size_rows.h"
 
 namespace kelvo::ui {
 
@@ -30,9 +30,9 @@ class ExportDialog : public QDialog {
  private:
   void ShowChoice();
 
+  QFormLayout* form_;
   QComboBox* cboFormat_;
-  QComboBox* cboSize_;
-  QSpinBox* scale_;
+  ImageSizeRows image_;
   QLabel* lblLacks_;
 };
 
