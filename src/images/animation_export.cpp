@@ -2,6 +2,7 @@
 
 #include "anim/frame_times.h"
 #include "anim/playing_order.h"
+#include "app/path_text.h"
 #include "app/temporary_name.h"
 #include "app/whole_file.h"
 #include "files/load_picture.h"
@@ -19,10 +20,18 @@ QImage ImageOfFrame(const anim::AnimationFrame& frame, const AnimationLook& look
   return ImageOf(picture, look.palette, look.size, look.scale);
 }
 
-// A folder beside what it is for, which goes with all that is in it.
+void Require(const std::error_code& error, const fs::path& file) {
+  if (error) throw app::FileError(app::TextFromPath(file) + ": it cannot be written: " + error.message());
+}
+
+// A folder in the one that it is for. It goes with all that is in it.
 class PassingFolder {
  public:
-  explicit PassingFolder(const fs::path& beside) : path_(app::TemporaryName(beside)) { fs::create_directory(path_); }
+  explicit PassingFolder(const fs::path& folder) : path_(app::TemporaryName(folder)) {
+    std::error_code error;
+    fs::create_directory(path_, error);
+    Require(error, folder);
+  }
   ~PassingFolder() {
     std::error_code ignored;
     fs::remove_all(path_, ignored);
@@ -66,7 +75,9 @@ void WritePngs(const anim::AnimationFrames& animation, const AnimationLook& look
     app::WriteWholeFile(PngFileOf(frame, made.Path()), PngOf(ImageOfFrame(frame, look)), app::Flush::kLater);
   }
   for (const anim::AnimationFrame& frame : animation.frames) {
-    fs::rename(PngFileOf(frame, made.Path()), PngFileOf(frame, folder));
+    std::error_code error;
+    fs::rename(PngFileOf(frame, made.Path()), PngFileOf(frame, folder), error);
+    Require(error, PngFileOf(frame, folder));
   }
 }
 
