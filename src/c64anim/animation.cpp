@@ -11,7 +11,8 @@ namespace kelvo::c64anim {
 namespace {
 
 ChangeCost CostOf(const Placing::Place& place, bool is_new, const std::vector<Span>& spans) {
-  ChangeCost cost{.pace = {place.fewest_fields, place.written.race.is_overtaken},
+  const Race& race = place.written.race;
+  ChangeCost cost{.pace = {place.fewest_fields, race.is_overtaken, race.is_overtaken ? FewestFields(race, 0) : 0},
                   .is_packed = place.written.is_packed,
                   .fits = place.address.has_value()};
   for (const Span& span : spans) cost.cells += span.cells;

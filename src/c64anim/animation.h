@@ -16,7 +16,8 @@ enum class Playing { kOnce, kRound, kToAndFro };
 
 struct Pace {
   int fields = 1;             // that the frame before must at least be shown
-  bool is_overtaken = false;  // a part of a field shows both frames
+  bool is_overtaken = false;  // fields show parts of both frames
+  int torn_fields = 0;        // at the most so many of those that the frame is shown
 };
 
 // The changes that lead from a frame to the next, or from the last to the first.

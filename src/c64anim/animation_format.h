@@ -32,9 +32,11 @@
 // and the last cell of a span, no other, has kLastOfSpan. A packed part unpacks to at most kBufferSize bytes:
 //
 //     packed     = run..., 0
-//     run        = 1..127, that many bytes
-//                | 128 + length - kShortestCopy, low, high    `length` bytes that stand at that address, all of them
-//                                                             steps or changes
+//     run        = 1..63, that many bytes
+//                | kNearCopy + length - kShortestNear, distance   `length` bytes that begin `distance` (1..255) before
+//                                                                 the next byte of this part; they may overlap it
+//                | kFarCopy + length - kShortestFar, low, high    `length` bytes that stand at that address, all of
+//                                                                 them steps or changes
 #pragma once
 
 #include <cstdint>
@@ -54,6 +56,8 @@ inline constexpr int kPageCells = 32, kRowCells = 40, kSpansInRow = 2, kSpans = 
 inline constexpr int kFewLines = 0x40, kColoursFollow = 0x80, kLastOfSpan = 2, kPlaceShift = 2;
 inline constexpr std::uint8_t kPackedPart = 0xFE, kEndOfChanges = 0xFF;
 
-inline constexpr int kMostLiterals = 127, kCopy = 128, kShortestCopy = 4, kLongestCopy = kShortestCopy + 127;
+inline constexpr int kMostLiterals = 63, kMostDistance = 255;
+inline constexpr int kNearCopy = 64, kShortestNear = 3, kLongestNear = kShortestNear + 63;
+inline constexpr int kFarCopy = 128, kShortestFar = 4, kLongestFar = kShortestFar + 127;
 
 }  // namespace kelvo::c64anim

@@ -4,7 +4,6 @@
 
 #include <array>
 #include <map>
-#include <optional>
 #include <span>
 
 #include "c64anim/animation_format.h"
@@ -13,13 +12,16 @@ namespace kelvo::c64anim {
 
 class Packing {
  public:
+  struct Copy {
+    int from = 0, length = 0;  // an address, or a distance
+  };
+
   // `bytes` lie at `address` for as long as the animation plays.
   void Know(int address, std::span<const std::uint8_t> bytes);
-
   // `size` bytes from `address` on are others now.
   void Forget(int address, int size);
 
-  // `part` as packed bytes. They can be unpacked wherever they lie.
+  // `part` (at most kBufferSize bytes) as packed bytes. They can be unpacked wherever they lie.
   Bytes Packed(std::span<const std::uint8_t> part) const;
 
   // What the player takes to unpack such bytes, in cycles at the most.
@@ -27,12 +29,9 @@ class Packing {
 
  private:
   static constexpr std::size_t kMemory = 0x10000;
-  using Key = std::array<std::uint8_t, kShortestCopy>;
-  struct Match {
-    int address = 0, length = 0;
-  };
+  using Key = std::array<std::uint8_t, kShortestFar>;
 
-  Match Longest(std::span<const std::uint8_t> bytes) const;
+  Copy LongestFar(std::span<const std::uint8_t> bytes) const;
 
   std::array<std::uint8_t, kMemory> memory_{};
   std::array<bool, kMemory> is_known_{};
