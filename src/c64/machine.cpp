@@ -114,12 +114,16 @@ void Machine::Interrupts() {
     cpu_.Interrupt(0xFFFA);
   } else if (IsInterrupted()) {
     cpu_.Interrupt(0xFFFE);
-    for (const std::uint8_t value : {cpu_.a, cpu_.x, cpu_.y}) cpu_.Push(value);
-    cpu_.cycles += kInterruptEntry;
+    if (Chip(0xFFFE) == Area::kRom) EnterKernal();
   } else {
     return;
   }
   CallTrap();
+}
+
+void Machine::EnterKernal() {
+  for (const std::uint8_t value : {cpu_.a, cpu_.x, cpu_.y}) cpu_.Push(value);
+  cpu_.cycles += kInterruptEntry;
 }
 
 bool Machine::IsInterrupted() {

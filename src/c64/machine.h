@@ -90,6 +90,7 @@ class Machine final : public Bus {
   bool IsShown(std::uint16_t address) const;
   std::uint16_t SysAddress() const;
   void Interrupts();
+  void EnterKernal();
   bool IsInterrupted();
   void CallTrap();
   [[noreturn]] void Fault(const std::string& what, std::uint16_t address) const;

@@ -7,11 +7,18 @@
 #pragma once
 
 #include "c64anim/animation_format.h"
-#include "c64anim/beam_race.h"
+#include "c64anim/cells.h"
+#include "c64anim/changes.h"
 
 namespace kelvo::c64anim {
 
 enum class Playing { kOnce, kRound, kToAndFro };
+
+struct Pace {
+  int fields = 1;             // that the frame before must at least be shown
+  bool is_overtaken = false;  // fields show parts of both frames
+  int torn_fields = 0;        // at the most so many of those that the frame is shown
+};
 
 // The changes that lead from a frame to the next, or from the last to the first.
 struct ChangeCost {
@@ -19,12 +26,14 @@ struct ChangeCost {
   int cells = 0;  // that change
   int bytes = 0;  // 0 when a change before has the same
   Pace pace{};
+  bool is_packed = false;
   bool fits = false;  // into what memory is left
 
   double MostRate() const { return static_cast<double>(kFieldsPerSecond) / pace.fields; }  // frames a second
 };
 
 struct AnimationPlan {
+  int first_bytes = 0;  // of the first frame
   std::vector<ChangeCost> changes;
   Bytes memory;  // from kAnimationStart on; empty when something does not fit
 
@@ -33,8 +42,11 @@ struct AnimationPlan {
 
 class Animation {
  public:
-  // `fields` (1..kMostFields) of the beam is how long the frame is shown. Throws std::runtime_error for another number
-  // and for a background that is not the first frame's.
+  // What all frames and steps can take.
+  static constexpr int kRoom =
+      kScreen - kAnimationStart + (kHighEnd - kHigh) + (kAnimationEnd - kBehindBitmap);  // bytes
+
+  // `fields` (1 or more) of the beam is how long the frame is shown. Throws std::runtime_error for another number.
   void Add(const model::PictureImage& frame, int fields);
 
   int Frames() const { return static_cast<int>(fields_.size()); }
@@ -43,10 +55,9 @@ class Animation {
 
  private:
   SteadyCells steady_;
-  Cells first_, last_;
-  model::C64Colour background_;
-  std::vector<int> fields_;     // by frame
-  std::vector<Bytes> changes_;  // to each frame but the first
+  FrameBytes first_, last_;
+  std::vector<int> fields_;                 // by frame
+  std::vector<std::vector<Span>> changes_;  // to each frame; to the first from nothing
 };
 
 }  // namespace kelvo::c64anim

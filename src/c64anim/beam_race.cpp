@@ -7,9 +7,9 @@ namespace {
 
 constexpr int kLineCycles = 63, kFieldCycles = 312 * kLineCycles, kRowCycles = 8 * kLineCycles, kRows = 25;
 // What a row of cells takes from the processor, and in each field the interrupt that counts it.
-constexpr int kStolenCycles = 43, kInterruptCycles = 90;
-// What the player takes, at the most.
-constexpr int kStepCycles = 170, kSpanCycles = 145, kCellCycles = 142, kColourCycles = 37;
+constexpr int kStolenCycles = 43, kInterruptCycles = 45;
+// What the player takes for a step, at the most: to see that its time has come, and to have the next one ready.
+constexpr int kBeginCycles = 60, kNextCycles = 180;
 
 // When the next row of cells begins after `time`. Times are cycles since the beam was at the picture's first line.
 int NextRow(int time) {
@@ -25,21 +25,34 @@ int WorkedUntil(int time, int cycles) {
   return time + cycles;
 }
 
-int CyclesOf(const ChangedSpan& span) {
-  return kSpanCycles + span.cells * kCellCycles + span.colours * kColourCycles;
+// When the beam leaves what changes there, and when it is back. The background is all over the picture.
+int TimeLeft(const Span& span) {
+  return std::min(span.Row() + 1, kRows) * kRowCycles;
+}
+
+int TimeBack(const Span& span) {
+  return kFieldCycles + (span.number == kBackgroundSpan ? 0 : span.Row() * kRowCycles);
 }
 
 }  // namespace
 
-Pace PaceOf(std::span<const ChangedSpan> spans) {
-  Pace pace;
-  int time = WorkedUntil(kRowCycles, kStepCycles + kInterruptCycles);
-  for (const ChangedSpan& span : spans) {
-    time = WorkedUntil(std::max(time, (span.Row() + 1) * kRowCycles), CyclesOf(span));
-    if (time >= kFieldCycles + span.Row() * kRowCycles) pace.is_overtaken = true;
+Race RaceOf(std::span<const Part> parts) {
+  Race race;
+  int time = WorkedUntil(kRowCycles, kBeginCycles + kInterruptCycles);
+  for (const Part& part : parts) {
+    if (&part != &parts.front()) time = WorkedUntil(time, part.unpacking);
+    for (const Span& span : part.spans) {
+      time = WorkedUntil(std::max(time, TimeLeft(span)), span.cycles);
+      race.is_overtaken = race.is_overtaken || time >= TimeBack(span);
+    }
   }
-  pace.fields = std::max(1, (time - kRowCycles + kFieldCycles - 1) / kFieldCycles);
-  return pace;
+  race.cycles = time - kRowCycles;
+  return race;
+}
+
+int FewestFields(const Race& race, int unpacking) {
+  const int ready = WorkedUntil(race.cycles + kRowCycles, unpacking + kNextCycles) - kRowCycles;
+  return std::max(1, (ready + kFieldCycles - 1) / kFieldCycles);
 }
 
 }  // namespace kelvo::c64anim

@@ -24,23 +24,24 @@ int ChangedBytes(const CellBytes& before, const CellBytes& after) {
 
 }  // namespace
 
-Cells CellsOf(const model::PictureImage& picture) {
-  Cells cells(model::PictureImage::kCells);
-  for (std::size_t cell = 0; cell < cells.size(); ++cell) {
-    std::copy_n(picture.Bitmap.begin() + 1 + static_cast<std::ptrdiff_t>(cell * 8), 8, cells[cell].lines.begin());
-    cells[cell].screen = picture.ScreenMemory[cell + 1];
-    cells[cell].colour = picture.ColourMemory[cell + 1] & 0x0F;
+FrameBytes FrameBytesOf(const model::PictureImage& picture) {
+  FrameBytes frame{.background = picture.BackgroundColour.Byte()};
+  for (std::size_t i = 0; i < frame.cells.size(); ++i) {
+    CellBytes& cell = frame.cells[i];
+    std::copy_n(picture.Bitmap.begin() + 1 + static_cast<std::ptrdiff_t>(i * 8), 8, cell.lines.begin());
+    cell.screen = picture.ScreenMemory[i + 1];
+    cell.colour = picture.ColourMemory[i + 1] & 0x0F;
   }
-  return cells;
+  return frame;
 }
 
-Cells SteadyCells::Next(const model::PictureImage& frame) {
-  const Cells drawn = CellsOf(frame);
-  const bool is_first = drawn_.empty();
-  if (is_first) steady_ = drawn;
-  for (std::size_t cell = 0; cell < drawn.size(); ++cell) {
-    if (is_first || drawn[cell] != drawn_[cell]) steady_[cell] = BytesOf(frame, cell, steady_[cell]);
+FrameBytes SteadyCells::Next(const model::PictureImage& frame) {
+  const FrameBytes drawn = FrameBytesOf(frame);
+  for (std::size_t cell = 0; cell < drawn.cells.size(); ++cell) {
+    if (drawn.cells[cell] == drawn_.cells[cell]) continue;
+    steady_.cells[cell] = BytesOf(frame, cell, steady_.cells[cell]);
   }
+  steady_.background = drawn.background;
   drawn_ = drawn;
   return steady_;
 }

@@ -19,22 +19,26 @@ struct CellBytes {
   friend auto operator<=>(const CellBytes&, const CellBytes&) = default;
 };
 
-// By cell, from 0.
-using Cells = std::vector<CellBytes>;
+// A frame as a C64 holds it; at first nothing, all bytes 0.
+struct FrameBytes {
+  std::vector<CellBytes> cells = std::vector<CellBytes>(model::PictureImage::kCells);  // by cell, from 0
+  std::uint8_t background = 0;                                                         // 0..15
 
-Cells CellsOf(const model::PictureImage& picture);
+  friend bool operator==(const FrameBytes&, const FrameBytes&) = default;
+};
+
+FrameBytes FrameBytesOf(const model::PictureImage& picture);
 
 // Writes the cells of frames down so that what looks the same is the same: a cell that looks as it did in any frame
 // before has the bytes that it had then, and one that looks new those with the fewest changes against the frame before.
 class SteadyCells {
  public:
-  // The cells of the next frame. All frames have the background of the first.
-  Cells Next(const model::PictureImage& frame);
+  FrameBytes Next(const model::PictureImage& frame);
 
  private:
   CellBytes BytesOf(const model::PictureImage& frame, std::size_t cell, const CellBytes& before);
 
-  Cells drawn_, steady_;  // the frame before, as it came and as it went
+  FrameBytes drawn_, steady_;  // the frame before, as it came and as it went
   std::array<std::map<CellBytes, CellBytes>, model::PictureImage::kCells> known_;  // by the look of a cell
 };
 

@@ -1,10 +1,14 @@
 #include "c64anim/changes.h"
 
-#include <optional>
-#include <stdexcept>
+#include <algorithm>
 
 namespace kelvo::c64anim {
 namespace {
+
+// What the player takes, at the most; that the bytes go on in another page is spread over cells and spans.
+constexpr int kSpanCycles = 245, kAllLinesCycles = 140, kColourCycles = 36, kFewLinesCycles = 119, kOneLineCycles = 19,
+              kFewColourCycles = 48;
+constexpr std::ptrdiff_t kMostFewLines = 5;  // more take hardly fewer bytes than all, and longer
 
 // Where `one` differs from the `other`.
 CellBytes Difference(const CellBytes& one, const CellBytes& other) {
@@ -22,94 +26,82 @@ int SpanOf(int cell) {
   return row * kSpansInRow + cell / kPageCells - row * kRowCells / kPageCells;
 }
 
-int PageOf(int span) {
-  return span / kSpansInRow * kRowCells / kPageCells + span % kSpansInRow;
+void PutFewLines(const CellBytes& difference, Bytes& bytes) {
+  const std::size_t which = bytes.size();
+  bytes.push_back(0);
+  for (std::size_t line = 0; line < 8; ++line) {
+    if (difference.lines[line] == 0) continue;
+    bytes[which] |= static_cast<std::uint8_t>(0x80 >> line);
+    bytes.push_back(difference.lines[line]);
+  }
 }
 
-void PutCell(int place, const CellBytes& difference, Bytes& changes) {
-  const bool has_colours = difference.screen != 0 || difference.colour != 0;
-  changes.push_back(static_cast<std::uint8_t>(place << kPlaceShift | (has_colours ? kColoursFollow : 0)));
-  changes.insert(changes.end(), difference.lines.begin(), difference.lines.end());
-  if (has_colours) changes.insert(changes.end(), {difference.screen, difference.colour});
+bool HasFewLines(const CellBytes& difference) {
+  return 8 - std::ranges::count(difference.lines, 0) <= kMostFewLines;
 }
 
-class Reader {
- public:
-  explicit Reader(std::span<const std::uint8_t> bytes) : bytes_(bytes) {}
+bool HasColours(const CellBytes& difference) {
+  return difference.screen != 0 || difference.colour != 0;
+}
 
-  std::uint8_t Next() {
-    Require(at_ < bytes_.size());
-    return bytes_[at_++];
-  }
-  void RequireEnd() const { Require(at_ == bytes_.size()); }
-  static void Require(bool is_sound) {
-    if (!is_sound) throw std::runtime_error("these are no changes of an animation");
-  }
+int CyclesOf(const CellBytes& difference) {
+  const bool has_colours = HasColours(difference);
+  if (!HasFewLines(difference)) return kAllLinesCycles + (has_colours ? kColourCycles : 0);
+  const auto lines = static_cast<int>(8 - std::ranges::count(difference.lines, 0));
+  return kFewLinesCycles + lines * kOneLineCycles + (has_colours ? kFewColourCycles : 0);
+}
 
- private:
-  std::span<const std::uint8_t> bytes_;
-  std::size_t at_ = 0;
+// A span while it grows.
+struct Growing {
+  Span span;
+  std::size_t last_cell = 0;  // where its flags stand
+
+  void Put(int place, const CellBytes& difference) {
+    last_cell = span.bytes.size();
+    span.bytes.push_back(
+        static_cast<std::uint8_t>(place << kPlaceShift | (HasColours(difference) ? kColoursFollow : 0)));
+    if (HasFewLines(difference)) {
+      PutFewLines(difference, span.bytes);
+    } else {
+      span.bytes.insert(span.bytes.end(), difference.lines.begin(), difference.lines.end());
+    }
+    if (HasColours(difference)) span.bytes.insert(span.bytes.end(), {difference.screen, difference.colour});
+    ++span.cells;
+    span.cycles += CyclesOf(difference);
+  }
+  void EndIn(std::vector<Span>& spans) {
+    if (span.cells == 0) return;
+    span.bytes[last_cell] |= kLastOfSpan;
+    spans.push_back(std::move(span));
+  }
 };
 
-// The difference that follows `flags`.
-CellBytes ReadDifference(Reader& reader, int flags) {
-  CellBytes difference;
-  for (std::uint8_t& line : difference.lines) line = reader.Next();
-  if ((flags & kColoursFollow) == 0) return difference;
-  difference.screen = reader.Next();
-  difference.colour = reader.Next();
-  Reader::Require(difference.colour < 16);
-  return difference;
-}
-
-ChangedSpan ReadSpan(int number, Reader& reader, Cells& cells) {
-  Reader::Require(number < kSpans);
-  ChangedSpan span{.number = number};
-  int flags = 0;
-  for (int last = -1; (flags & kLastOfSpan) == 0; ++span.cells) {
-    flags = reader.Next();
-    const int cell = PageOf(number) * kPageCells + (flags >> kPlaceShift);
-    Reader::Require(cell > last && cell < model::PictureImage::kCells && SpanOf(cell) == number);
-    last = cell;
-    CellBytes& changed = cells[static_cast<std::size_t>(cell)];
-    changed = Difference(changed, ReadDifference(reader, flags));
-    span.colours += flags & kColoursFollow;
-  }
-  return span;
+Growing Begun(int number, int flag) {
+  return {{.number = number, .cells = 0, .cycles = kSpanCycles, .bytes = {static_cast<std::uint8_t>(number | flag)}}};
 }
 
 }  // namespace
 
-Bytes ChangesBetween(const Cells& one, const Cells& other) {
-  Bytes changes;
-  std::optional<int> span;
-  std::size_t last_cell = 0;  // where its flags stand
-  for (int cell = 0; cell < model::PictureImage::kCells; ++cell) {
-    const auto index = static_cast<std::size_t>(cell);
-    if (one[index] == other[index]) continue;
-    if (span != SpanOf(cell)) {
-      if (span) changes[last_cell] |= kLastOfSpan;
-      span = SpanOf(cell);
-      changes.push_back(static_cast<std::uint8_t>(*span));
+std::vector<Span> SpansBetween(const FrameBytes& one, const FrameBytes& other) {
+  std::vector<Span> spans;
+  for (int cell = 0; cell < model::PictureImage::kCells;) {
+    const int number = SpanOf(cell);
+    Growing all = Begun(number, 0), few = Begun(number, kFewLines);
+    for (; cell < model::PictureImage::kCells && SpanOf(cell) == number; ++cell) {
+      const auto index = static_cast<std::size_t>(cell);
+      if (one.cells[index] == other.cells[index]) continue;
+      const CellBytes difference = Difference(one.cells[index], other.cells[index]);
+      (HasFewLines(difference) ? few : all).Put(cell % kPageCells, difference);
     }
-    last_cell = changes.size();
-    PutCell(cell % kPageCells, Difference(one[index], other[index]), changes);
+    all.EndIn(spans);
+    few.EndIn(spans);
   }
-  if (span) changes[last_cell] |= kLastOfSpan;
-  changes.push_back(kEndOfChanges);
-  return changes;
-}
-
-std::vector<ChangedSpan> MakeChanges(std::span<const std::uint8_t> changes, Cells& cells) {
-  Reader reader(changes);
-  Cells changed = cells;
-  std::vector<ChangedSpan> spans;
-  for (int number = reader.Next(); number != kEndOfChanges; number = reader.Next()) {
-    Reader::Require(spans.empty() || number > spans.back().number);
-    spans.push_back(ReadSpan(number, reader, changed));
+  if (one.background != other.background) {
+    spans.push_back({.number = kBackgroundSpan,
+                     .cells = 0,
+                     .cycles = kSpanCycles,
+                     .bytes = {kBackgroundSpan, static_cast<std::uint8_t>(one.background ^ other.background)}});
   }
-  reader.RequireEnd();
-  cells = changed;
   return spans;
 }
 

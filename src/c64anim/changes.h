@@ -1,26 +1,27 @@
-// The changes between two frames, as animation_format.h tells them.
+// The changes between two frames, as animation_format.h tells them, and what they cost the player.
 #pragma once
 
-#include <span>
+#include <vector>
 
 #include "c64anim/animation_format.h"
 #include "c64anim/cells.h"
 
 namespace kelvo::c64anim {
 
-// What leads from `one` frame to the `other`, and back.
-Bytes ChangesBetween(const Cells& one, const Cells& other);
+// The changes of a span, or of the background. Where all lines of some cells change and few of others, these are two
+// spans of one number.
+struct Span {
+  int number = 0;  // 0..kBackgroundSpan
+  int cells = 0;   // that change
+  int cycles = 0;  // that the player takes for them, at the most
+  Bytes bytes;
 
-// A span of changes: which it is, and what it takes.
-struct ChangedSpan {
-  int number = 0;              // 0..kSpans - 1
-  int cells = 0, colours = 0;  // that change, and those of them whose colours do
+  int Row() const { return number / kSpansInRow; }  // of cells, 0..24; the background's is 25
 
-  int Row() const { return number / kSpansInRow; }  // of cells, 0..24
+  friend bool operator==(const Span&, const Span&) = default;
 };
 
-// Makes `changes` in `cells` and tells their spans. Throws std::runtime_error for bytes that ChangesBetween() did not
-// make; the cells are then what they were.
-std::vector<ChangedSpan> MakeChanges(std::span<const std::uint8_t> changes, Cells& cells);
+// What leads from `one` frame to the `other`, and back.
+std::vector<Span> SpansBetween(const FrameBytes& one, const FrameBytes& other);
 
 }  // namespace kelvo::c64anim
