@@ -19,30 +19,23 @@ struct Turn {
   int fields, coming;
 };
 
-// The change between two frames that follow each other, whichever comes first; from the last to the first is one, too.
-const c64anim::ChangeCost& ChangeBetween(const Release& release, std::size_t one, std::size_t other) {
-  const auto& changes = release.plan.changes;
-  const bool closes_round = one > 0 && other == 0 && one + 1 == release.fields.size() && one < changes.size();
-  return changes[closes_round ? one : std::min(one, other)];
-}
-
-// But for frames for which there are too few fields: they are never seen whole, and make others late.
+// But for frames for which there are too few fields: they may never be seen whole, and make others late.
 std::vector<Turn> TurnsOf(const Release& release) {
   const anim::Playing playing = release.wishes.playing;
   std::vector<std::size_t> order = anim::OrderOfRound(release.fields.size(), playing);
   if (playing != anim::Playing::kOnce) order.push_back(0);
-  std::vector<Turn> turns{{0, release.fields.front(), 0}};
-  int fields = release.fields.front(), late = 0;
-  for (std::size_t i = 1; i < order.size() && fields < kMostTriedFields; ++i) {
-    const std::size_t before = order[i - 1], here = order[i];
-    const int there_are = std::min(release.fields[before], release.fields[here]);
-    const int needed = ChangeBetween(release, before, here).pace.fields;
-    fields += release.fields[here];
-    if (needed > there_are) {
-      late += needed;
+  const std::vector<ReleaseRow> rows = RowsOf(release);
+  std::vector<Turn> turns;
+  int fields = 0, late = 0;
+  for (std::size_t i = 0; i < order.size() && fields < kMostTriedFields; ++i) {
+    const ReleaseRow& row = rows[order[i]];
+    const int shown = i + 1 < order.size() ? release.fields[order[i]] : 1;
+    fields += shown;
+    if (i > 0 && row.is_slow) {
+      late += row.fields;
     } else {
-      turns.push_back({here, i + 1 == order.size() ? 1 : release.fields[here], needed - 1 + late});
-      late = 0;
+      turns.push_back({order[i], shown, late + (i > 0 ? std::max(0, row.torn_fields - 1) : 0)});
+      late = std::max(0, row.fields - shown);
     }
   }
   return turns;

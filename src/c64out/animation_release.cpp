@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "c64anim/steps.h"
 #include "c64out/animation_check.h"
 #include "files/load_picture.h"
 
@@ -9,18 +10,6 @@ namespace kelvo::c64out {
 namespace {
 
 using Numbers = std::vector<int>;
-
-c64anim::Playing PlayingOf(anim::Playing playing) {
-  switch (playing) {
-    case anim::Playing::kOnce:
-      return c64anim::Playing::kOnce;
-    case anim::Playing::kRound:
-      return c64anim::Playing::kRound;
-    case anim::Playing::kToAndFro:
-      return c64anim::Playing::kToAndFro;
-  }
-  return {};
-}
 
 Numbers OtherBackgrounds(const Release& release) {
   Numbers numbers;
@@ -42,6 +31,18 @@ std::string Counted(int number, const std::string& one) {
 
 }  // namespace
 
+c64anim::Playing PlayingOf(const Release& release) {
+  switch (release.wishes.playing) {
+    case anim::Playing::kOnce:
+      return c64anim::Playing::kOnce;
+    case anim::Playing::kRound:
+      return c64anim::Playing::kRound;
+    case anim::Playing::kToAndFro:
+      return c64anim::Playing::kToAndFro;
+  }
+  return {};
+}
+
 Release MakeRelease(const anim::AnimationFrames& animation, const ReleaseWishes& wishes, app::Progress& progress) {
   Release release{.wishes = wishes, .animation = animation, .fields = anim::FieldsOf(animation, wishes.rate)};
   const app::ProgressScope scope(progress, static_cast<int>(animation.frames.size()));
@@ -53,44 +54,51 @@ Release MakeRelease(const anim::AnimationFrames& animation, const ReleaseWishes&
     release.backgrounds.push_back(picture.BackgroundColour);
     if (i < kMostTriedFields) release.first_pictures.push_back(picture);
   }
-  release.plan = core.Plan(PlayingOf(wishes.playing));
+  release.plan = core.Plan(PlayingOf(release));
   return release;
 }
 
 std::vector<ReleaseRow> RowsOf(const Release& release) {
-  std::vector<ReleaseRow> rows;
   const std::size_t frames = release.fields.size();
+  std::vector<ReleaseRow> rows;
+  for (const anim::AnimationFrame& frame : release.animation.frames) rows.push_back({frame.number});
+  rows.front().bytes = release.plan.first_bytes;
+  const bool goes_back = release.wishes.playing == anim::Playing::kToAndFro;
   for (const c64anim::ChangeCost& cost : release.plan.changes) {
     const auto to = static_cast<std::size_t>(cost.to_frame - 1), from = (to + frames - 1) % frames;
-    const int there_are = std::min(release.fields[from], release.fields[to]);
-    rows.push_back({release.animation.frames[to].number, cost.cells, cost.bytes, cost.pace.fields,
-                    cost.pace.is_overtaken, cost.pace.fields > there_are, cost.fits});
+    rows[to].cells = cost.cells;
+    rows[to].bytes += cost.bytes;
+    rows[to].fits = cost.fits;
+    rows[from].fields = std::max(rows[from].fields, cost.pace.fields);
+    rows[to].torn_fields = std::max(rows[to].torn_fields, cost.pace.torn_fields);
+    if (!goes_back) continue;
+    rows[to].fields = std::max(rows[to].fields, cost.pace.fields);
+    rows[from].torn_fields = std::max(rows[from].torn_fields, cost.pace.torn_fields);
+  }
+  for (std::size_t i = 0; i < frames; ++i) {
+    rows[i].fields = std::max(rows[i].fields, rows[i].torn_fields);
+    rows[i].is_slow = rows[i].fields > release.fields[i];
   }
   return rows;
 }
 
 int BytesOf(const Release& release) {
-  const std::size_t forth = release.fields.size(), back = release.wishes.playing == anim::Playing::kToAndFro ? forth : 0;
-  int bytes = static_cast<int>(forth + back) * c64anim::kStepBytes;
+  const auto steps = c64anim::StepsOf(release.fields, PlayingOf(release)).size() + 1;
+  int bytes = release.plan.first_bytes + static_cast<int>(steps) * c64anim::kStepBytes;
   for (const c64anim::ChangeCost& cost : release.plan.changes) bytes += cost.bytes;
   return bytes;
 }
 
-int MostBytes() {
-  return (c64anim::kColours - c64anim::kAnimationStart) + (c64anim::kAnimationEnd - c64anim::kBehindBitmap);
-}
-
 int FramesThatFit(const Release& release) {
-  const auto& changes = release.plan.changes;
-  const auto missing = std::ranges::find(changes, false, &c64anim::ChangeCost::fits);
-  return missing == changes.end() ? static_cast<int>(release.fields.size())
-                                  : static_cast<int>(missing - changes.begin()) + 1;
+  const std::vector<ReleaseRow> rows = RowsOf(release);
+  return static_cast<int>(std::ranges::find(rows, false, &ReleaseRow::fits) - rows.begin());
 }
 
 int FastestRate(const Release& release) {
   int rate = anim::kFastestRate;
-  for (const c64anim::ChangeCost& cost : release.plan.changes) {
-    rate = std::min(rate, c64anim::kFieldsPerSecond / cost.pace.fields);
+  const std::vector<ReleaseRow> rows = RowsOf(release);
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    rate = std::min(rate, release.animation.frames[i].turns * c64anim::kFieldsPerSecond / rows[i].fields);
   }
   return rate;
 }
@@ -131,7 +139,7 @@ std::vector<std::string> Notes(const Release& release) {
   Numbers slow, torn;
   for (const ReleaseRow& row : rows) {
     if (row.is_slow) slow.push_back(row.frame);
-    if (row.is_torn) torn.push_back(row.frame);
+    if (row.torn_fields > 0) torn.push_back(row.frame);
   }
   if (!slow.empty()) notes.push_back(anim::FramesNamed(slow) + (slow.size() == 1 ? " comes" : " come") + " late.");
   if (!torn.empty()) notes.push_back(anim::FramesNamed(torn) + (torn.size() == 1 ? " comes" : " come") + " in from above.");

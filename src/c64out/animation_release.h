@@ -29,27 +29,29 @@ struct Release {
   c64anim::AnimationPlan plan{};
 };
 
+c64anim::Playing PlayingOf(const Release& release);
+
 // Reads the frames. Progress counts them. Throws app::FileError for one that cannot be read any more, and what
 // c64anim::Animation does.
 Release MakeRelease(const anim::AnimationFrames& animation, const ReleaseWishes& wishes, app::Progress& progress);
 
-// A change from a frame to another, in the user's terms.
+// A frame, and the changes that lead to it from the one before; the first one is drawn from nothing.
 struct ReleaseRow {
-  int frame;  // the number of the one that it leads to
-  int cells, bytes, fields;
-  bool is_torn;    // a part of a field shows both
-  bool is_slow;    // it takes more fields than there are
-  bool fits;       // into memory
+  int frame = 0;             // its number
+  int cells = 0, bytes = 0;  // that change
+  int fields = 1;            // for which it must at least be shown
+  int torn_fields = 0;       // of these, that show the frame before, too: it comes in from above
+  bool is_slow = false;      // there are not so many fields
+  bool fits = true;          // into memory
 };
 std::vector<ReleaseRow> RowsOf(const Release& release);
 
-// How many bytes frames have, and can have.
+// What all of it has in the C64's memory; at most c64anim::Animation::kRoom where it fits.
 int BytesOf(const Release& release);
-int MostBytes();
 
 // How many frames from the first on fit.
 int FramesThatFit(const Release& release);
-// Turns a second that the slowest change allows, up to anim::kFastestRate; 0 where one takes more than a second.
+// Turns a second that the slowest frame allows, up to anim::kFastestRate; 0 where one takes more than a second.
 int FastestRate(const Release& release);
 
 // Frames whose background is not that of the first.

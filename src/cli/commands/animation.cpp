@@ -59,9 +59,9 @@ void PrintReport(const c64out::Release& release) {
     };
     text += number(row.frame, 5) + number(row.cells, 7) + number(row.bytes, 7) + number(row.fields, 8);
     text += std::string(row.fits ? "" : "  does not fit") + (row.is_slow ? "  too slow" : "") +
-            (row.is_torn ? "  torn" : "") + "\n";
+            (row.torn_fields > 0 ? "  torn" : "") + "\n";
   }
-  Print(text + "bytes  " + std::to_string(c64out::BytesOf(release)) + " of " + std::to_string(c64out::MostBytes()) +
+  Print(text + "bytes  " + std::to_string(c64out::BytesOf(release)) + " of " + std::to_string(c64anim::Animation::kRoom) +
         "\nfit    " + std::to_string(c64out::FramesThatFit(release)) + " of " + std::to_string(release.fields.size()) +
         " frames\nrate   " + std::to_string(c64out::FastestRate(release)) + " at most\n");
 }

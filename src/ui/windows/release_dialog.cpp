@@ -43,7 +43,7 @@ QString Summary(const c64out::Release& release) {
       .arg(frames)
       .arg(fitting)
       .arg(c64out::BytesOf(release))
-      .arg(c64out::MostBytes())
+      .arg(c64anim::Animation::kRoom)
       .arg(rate == 0 ? QString("The slowest frame takes more than a second.")
                      : QString("The slowest frame allows %1 frames a second.").arg(rate));
 }

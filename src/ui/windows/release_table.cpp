@@ -19,7 +19,7 @@ constexpr std::array<Column, 6> kColumns{{
     {"Cells changed", [](const ReleaseRow& row) { return QVariant(row.cells); }},
     {"Bytes", [](const ReleaseRow& row) { return QVariant(row.bytes); }},
     {"Fields needed", [](const ReleaseRow& row) { return QVariant(row.fields); }},
-    {"Shown", [](const ReleaseRow& row) { return QVariant(row.is_torn ? "torn" : "whole"); }},
+    {"Shown", [](const ReleaseRow& row) { return QVariant(row.torn_fields > 0 ? "torn" : "whole"); }},
     {"Fits", [](const ReleaseRow& row) { return QVariant(!row.fits ? "no" : row.is_slow ? "too slow" : "yes"); }},
 }};
 
