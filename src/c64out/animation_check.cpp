@@ -28,7 +28,8 @@ std::vector<Turn> TurnsOf(const Release& release) {
   std::vector<Turn> turns;
   int fields = 0, late = 0;
   for (std::size_t i = 0; i < order.size() && fields < kMostTriedFields; ++i) {
-    const ReleaseRow& row = rows[order[i]];
+    const bool closes_round = i > 0 && order[i] == 0 && playing == anim::Playing::kRound;
+    const ReleaseRow& row = closes_round ? rows.back() : rows[order[i]];
     const int shown = i + 1 < order.size() ? release.fields[order[i]] : 1;
     fields += shown;
     if (i > 0 && row.is_slow) {

@@ -1,6 +1,7 @@
 #include "c64out/animation_release.h"
 
 #include <algorithm>
+#include <set>
 
 #include "c64anim/steps.h"
 #include "c64out/animation_check.h"
@@ -19,10 +20,13 @@ Numbers OtherBackgrounds(const Release& release) {
   return numbers;
 }
 
-// The first row of which that holds; null for none.
-const ReleaseRow* FirstRow(const std::vector<ReleaseRow>& rows, bool ReleaseRow::*what, bool is) {
-  const auto found = std::ranges::find(rows, is, what);
-  return found == rows.end() ? nullptr : &*found;
+// Of the frames of which `is` holds, each once.
+Numbers NumbersOf(const std::vector<ReleaseRow>& rows, bool (*is)(const ReleaseRow& row)) {
+  std::set<int> numbers;
+  for (const ReleaseRow& row : rows) {
+    if (is(row)) numbers.insert(row.frame);
+  }
+  return {numbers.begin(), numbers.end()};
 }
 
 std::string Counted(int number, const std::string& one) {
@@ -59,25 +63,26 @@ Release MakeRelease(const anim::AnimationFrames& animation, const ReleaseWishes&
 }
 
 std::vector<ReleaseRow> RowsOf(const Release& release) {
-  const std::size_t frames = release.fields.size();
+  const bool goes_back = release.wishes.playing == anim::Playing::kToAndFro;
   std::vector<ReleaseRow> rows;
   for (const anim::AnimationFrame& frame : release.animation.frames) rows.push_back({frame.number});
+  const auto& changes = release.plan.changes;
+  if (changes.size() == rows.size()) rows.push_back(rows.front());
   rows.front().bytes = release.plan.first_bytes;
-  const bool goes_back = release.wishes.playing == anim::Playing::kToAndFro;
-  for (const c64anim::ChangeCost& cost : release.plan.changes) {
-    const auto to = static_cast<std::size_t>(cost.to_frame - 1), from = (to + frames - 1) % frames;
-    rows[to].cells = cost.cells;
-    rows[to].bytes += cost.bytes;
-    rows[to].fits = cost.fits;
-    rows[from].fields = std::max(rows[from].fields, cost.pace.fields);
-    rows[to].torn_fields = std::max(rows[to].torn_fields, cost.pace.torn_fields);
+  for (std::size_t i = 0; i < changes.size(); ++i) {
+    ReleaseRow &from = rows[i], &to = rows[i + 1];
+    to.cells = changes[i].cells;
+    to.bytes = changes[i].bytes;
+    to.fits = changes[i].fits;
+    to.torn_fields = changes[i].pace.torn_fields;
+    from.fields = std::max(from.fields, changes[i].pace.fields);
     if (!goes_back) continue;
-    rows[to].fields = std::max(rows[to].fields, cost.pace.fields);
-    rows[from].torn_fields = std::max(rows[from].torn_fields, cost.pace.torn_fields);
+    to.fields = changes[i].pace.fields;
+    from.torn_fields = std::max(from.torn_fields, changes[i].pace.torn_fields);
   }
-  for (std::size_t i = 0; i < frames; ++i) {
+  for (std::size_t i = 0; i < rows.size(); ++i) {
     rows[i].fields = std::max(rows[i].fields, rows[i].torn_fields);
-    rows[i].is_slow = rows[i].fields > release.fields[i];
+    rows[i].is_slow = rows[i].fields > release.fields[i % release.fields.size()];
   }
   return rows;
 }
@@ -90,15 +95,18 @@ int BytesOf(const Release& release) {
 }
 
 int FramesThatFit(const Release& release) {
+  const auto frames = static_cast<int>(release.fields.size());
+  if (release.plan.Fits()) return frames;
   const std::vector<ReleaseRow> rows = RowsOf(release);
-  return static_cast<int>(std::ranges::find(rows, false, &ReleaseRow::fits) - rows.begin());
+  return std::min(frames - 1, static_cast<int>(std::ranges::find(rows, false, &ReleaseRow::fits) - rows.begin()));
 }
 
 int FastestRate(const Release& release) {
   int rate = anim::kFastestRate;
   const std::vector<ReleaseRow> rows = RowsOf(release);
   for (std::size_t i = 0; i < rows.size(); ++i) {
-    rate = std::min(rate, release.animation.frames[i].turns * c64anim::kFieldsPerSecond / rows[i].fields);
+    const int turns = release.animation.frames[i % release.fields.size()].turns;
+    rate = std::min(rate, turns * c64anim::kFieldsPerSecond / rows[i].fields);
   }
   return rate;
 }
@@ -115,16 +123,17 @@ std::string Refusal(const Release& release) {
   }
   if (release.plan.Fits()) return {};
   const std::vector<ReleaseRow> rows = RowsOf(release);
-  const ReleaseRow* row = FirstRow(rows, &ReleaseRow::fits, false);
-  if (row == nullptr) return "The animation does not fit into the memory of a C64.";
-  return "Frame " + std::to_string(row->frame) + " does not fit into the memory of a C64: " +
+  const auto row = std::ranges::find(rows, false, &ReleaseRow::fits);
+  if (row == rows.end()) return "The animation does not fit into the memory of a C64.";
+  const bool leads_back = row - rows.begin() == std::ssize(release.fields);
+  return (leads_back ? "The way back to frame " : "Frame ") + std::to_string(row->frame) + " does not fit into the memory of a C64: " +
          Counted(row->cells, "cell") + " changed, " + Counted(row->bytes, "byte") + ".";
 }
 
 std::string Advice(const Release& release) {
-  if (!release.plan.Fits()) return "Fewer frames would help, or fewer cells that change from frame to frame.";
+  if (!release.plan.Fits()) return "Fewer frames would help, fewer cells that change, or a lower rate, at which more can be packed.";
   const std::vector<ReleaseRow> rows = RowsOf(release);
-  if (FirstRow(rows, &ReleaseRow::is_slow, true) == nullptr) return {};
+  if (std::ranges::find(rows, true, &ReleaseRow::is_slow) == rows.end()) return {};
   const int rate = FastestRate(release);
   return (rate > 0 ? "At most " + std::to_string(rate) + " frames a second would help, or" : std::string("It would help")) +
          " that fewer cells change in the frames that are slow.";
@@ -132,17 +141,16 @@ std::string Advice(const Release& release) {
 
 std::vector<std::string> Notes(const Release& release) {
   std::vector<std::string> notes;
-  const Numbers& missing = release.animation.missing;
-  if (!missing.empty()) notes.push_back(anim::FramesNamed(missing) + (missing.size() == 1 ? " is" : " are") + " missing.");
+  const auto note = [&notes](const Numbers& frames, const std::string& one, const std::string& many) {
+    if (!frames.empty()) notes.push_back(anim::FramesNamed(frames) + (frames.size() == 1 ? one : many));
+  };
+  note(release.animation.missing, " is missing.", " are missing.");
   if (release.fields.size() == 1) notes.push_back("There is one frame only: nothing moves.");
   const std::vector<ReleaseRow> rows = RowsOf(release);
-  Numbers slow, torn;
-  for (const ReleaseRow& row : rows) {
-    if (row.is_slow) slow.push_back(row.frame);
-    if (row.torn_fields > 0) torn.push_back(row.frame);
-  }
-  if (!slow.empty()) notes.push_back(anim::FramesNamed(slow) + (slow.size() == 1 ? " comes" : " come") + " late.");
-  if (!torn.empty()) notes.push_back(anim::FramesNamed(torn) + (torn.size() == 1 ? " comes" : " come") + " in from above.");
+  note(NumbersOf(rows, [](const ReleaseRow& row) { return row.is_slow; }), " stays longer than it should.",
+       " stay longer than they should.");
+  note(NumbersOf(rows, [](const ReleaseRow& row) { return row.torn_fields > 0; }), " comes in from above.",
+       " come in from above.");
   return notes;
 }
 

@@ -35,7 +35,8 @@ c64anim::Playing PlayingOf(const Release& release);
 // c64anim::Animation does.
 Release MakeRelease(const anim::AnimationFrames& animation, const ReleaseWishes& wishes, app::Progress& progress);
 
-// A frame, and the changes that lead to it from the one before; the first one is drawn from nothing.
+// A frame, and the changes that lead to it from the one before; the first one is drawn from nothing. Of an animation that
+// plays round and round, the first frame comes once more behind the last.
 struct ReleaseRow {
   int frame = 0;             // its number
   int cells = 0, bytes = 0;  // that change
