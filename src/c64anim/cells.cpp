@@ -37,8 +37,9 @@ FrameBytes FrameBytesOf(const model::PictureImage& picture) {
 
 FrameBytes SteadyCells::Next(const model::PictureImage& frame) {
   const FrameBytes drawn = FrameBytesOf(frame);
+  const bool is_background_same = drawn.background == drawn_.background;
   for (std::size_t cell = 0; cell < drawn.cells.size(); ++cell) {
-    if (drawn.cells[cell] == drawn_.cells[cell]) continue;
+    if (is_background_same && drawn.cells[cell] == drawn_.cells[cell]) continue;
     steady_.cells[cell] = BytesOf(frame, cell, steady_.cells[cell]);
   }
   steady_.background = drawn.background;
@@ -48,7 +49,7 @@ FrameBytes SteadyCells::Next(const model::PictureImage& frame) {
 
 CellBytes SteadyCells::BytesOf(const model::PictureImage& frame, std::size_t cell, const CellBytes& before) {
   const auto orders = optimise::SlotOrdersOf(frame, static_cast<int>(cell) + 1);
-  const auto [known, is_new] = known_[cell].try_emplace(Written(orders.front(), {}));
+  const auto [known, is_new] = known_[cell].try_emplace({frame.BackgroundColour.Byte(), Written(orders.front(), {})});
   if (!is_new) return known->second;
   const auto changes = [&](const optimise::SlotOrder& order) { return ChangedBytes(before, Written(order, before)); };
   known->second =

@@ -5,6 +5,7 @@
 #include <compare>
 #include <cstdint>
 #include <map>
+#include <utility>
 #include <vector>
 
 #include "model/picture_image.h"
@@ -38,8 +39,10 @@ class SteadyCells {
  private:
   CellBytes BytesOf(const model::PictureImage& frame, std::size_t cell, const CellBytes& before);
 
+  using Look = std::pair<std::uint8_t, CellBytes>;  // the background, and a cell on it
+
   FrameBytes drawn_, steady_;  // the frame before, as it came and as it went
-  std::array<std::map<CellBytes, CellBytes>, model::PictureImage::kCells> known_;  // by the look of a cell
+  std::array<std::map<Look, CellBytes>, model::PictureImage::kCells> known_;
 };
 
 }  // namespace kelvo::c64anim
