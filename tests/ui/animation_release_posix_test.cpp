@@ -2,9 +2,9 @@
 // time; and what cannot be made is said in a line, and leaves all as it was.
 #include <QComboBox>
 #include <QFileDialog>
-#include <QImageReader>
+#include <functional>
 
-#include "anim/frame_times.h"
+#include "anim/frame_names.h"
 #include "c64/beam.h"
 #include "c64out/output_settings.h"
 #include "files/picture_format.h"
@@ -13,7 +13,6 @@
 #include "main_frame_fixture.h"
 #include "support/pictures.h"
 #include "support/run_tool.h"
-#include "ui/windows/release_dialog.h"
 
 namespace kelvo::ui {
 namespace {
@@ -39,6 +38,10 @@ class AnimationReleaseTest : public MainFrameTest {
   fs::path FrameFile(int number) const {
     return frames / anim::FrameNames({{}, "walk_"}).FileName(number);
   }
+  void WriteFrame(int number, model::PictureImage picture) const {
+    files::Sign(picture);
+    support::WriteFile(FrameFile(number), files::Encode(picture));
+  }
   // Frames of a random ground, in each of which other cells look otherwise.
   void WriteFrames(const std::vector<int>& numbers, int cells) {
     pictures.clear();
@@ -49,9 +52,8 @@ class AnimationReleaseTest : public MainFrameTest {
         support::SetCell(picture, (number * 131 + i * 7) % 1000 + 1, {line, 27, line, 228, 1, 2, line, 99}, number % 16,
                          (number + i) % 16, i % 16);
       }
-      pictures.push_back(picture);
-      support::WriteFile(FrameFile(number), files::Encode(picture));
-      pictures.back() = files::Decode(files::FormatOf(files::kOwnType), support::ReadFile(FrameFile(number)), {});
+      WriteFrame(number, picture);
+      pictures.push_back(files::Decode(files::FormatOf(files::kOwnType), support::ReadFile(FrameFile(number)), {}));
     }
   }
 
@@ -63,12 +65,18 @@ class AnimationReleaseTest : public MainFrameTest {
     EXPECT_EQ(run.exit_code, 0) << run.errors;
     return support::ReadFile(out / name);
   }
+  // Does `work` with the dialog of that name, once it is open: another may show how far the frames are read.
+  void InDialog(const char* name, const std::function<void(QDialog&)>& work) {
+    QTimer::singleShot(5, frame.get(), [this, name, work] {
+      auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+      dialog != nullptr && dialog->objectName() == name ? work(*dialog) : InDialog(name, work);
+    });
+  }
   // Chooses an entry of the menu and goes through its dialog, which is as `look` finds it.
-  template <typename Look>
-  void Release(const char* entry, Look look) {
-    InNextDialog([look](QDialog& dialog) {
+  void Release(const char* entry, const std::function<void(QDialog&)>& look) {
+    InDialog("frmRelease", [look](QDialog& dialog) {
       look(dialog);
-      QAbstractButton* create = dialog.findChild<QAbstractButton*>("cmdStd");
+      auto* create = dialog.findChild<QAbstractButton*>("cmdStd");
       create->isEnabled() ? create->click() : dialog.reject();
     });
     Action(entry)->trigger();
@@ -145,6 +153,134 @@ TEST_F(AnimationReleaseTest, TheMenuAndTheCommandLineMakeTheSameAndItPlays) {
     Action("mnuExportAnimationGif")->trigger();
     EXPECT_EQ(Made(options + " --scale 2", "cli.gif"), support::ReadFile(out / "menu.gif"));
   }
+}
+
+// What is wrong in the folder, what is said of it, and whether that is when the frames are there already.
+TEST_F(AnimationReleaseTest, WhatCannotBeMadeIsSaidInALineAndLeavesWhatIsThere) {
+  const auto times = [this](const std::string& list) { support::WriteText(frames / "walk-times.txt", list); };
+  struct Case {
+    std::string says;
+    std::function<void()> spoil;
+    bool is_refused = false;
+  };
+  for (const Case& wrong : std::vector<Case>{
+           {"There are no frames such as", [this] { fs::remove_all(frames), create_directories(frames); }},
+           {"walk_0003.kvp: A file of this type has 10050 or 10057 bytes, this one has 2.",
+            [this] { support::WriteText(FrameFile(3), "no"); }},
+           {"walk-times.txt, line 2: a frame's number and", [&] { times("3 600\n3\n"); }},
+           {"line 1: a frame's number and", [&] { times("3 601"); }},
+           {"line 1: a frame's number and", [&] { times("0 1"); }},
+           {"line 1: a frame's number and", [&] { times("3 1 1"); }},
+           {"line 3: frame 3 has its turns already", [&] { times("3 1 # one\n4 2\n3 2"); }},
+           {"Frame 3 has another background color than frame 1.",
+            [this] {
+              pictures[2].BackgroundColour = support::Colour(pictures[0].BackgroundColour.Number() ^ 1);
+              WriteFrame(3, pictures[2]);
+            },
+            true},
+           {"does not fit into the memory of a C64: 9", [this] { WriteFrames({1, 2, 3, 4, 5, 6, 7, 8, 9}, 990); }, true},
+       }) {
+    SCOPED_TRACE(wrong.says);
+    fs::remove(frames / "walk-times.txt");
+    WriteFrames({1, 2, 3}, 5);
+    wrong.spoil();
+    for (const fs::path& older : {frames / "walk.prg", out / "x.prg"}) support::WriteText(older, "older");
+    const support::ToolRun run = Cli("'" + frames.string() + "' x.prg");
+    EXPECT_EQ(run.exit_code, wrong.is_refused ? 1 : 2);
+    EXPECT_NE(run.errors.find(wrong.says), std::string::npos) << run.errors;
+    box_text.clear();
+    if (wrong.is_refused) {
+      Release("mnuCreatePRGAnimation", [this](const QDialog& dialog) {
+        EXPECT_FALSE(dialog.findChild<QAbstractButton*>("cmdStd")->isEnabled());
+        box_text = dialog.findChild<QLabel*>("lblAdvice")->text();
+      });
+    } else {
+      AnswerNext(QMessageBox::Ok);
+      Action("mnuCreatePRGAnimation")->trigger();
+    }
+    EXPECT_TRUE(box_text.contains(ToQt(wrong.says))) << FromQt(box_text);
+    for (const fs::path& older : {frames / "walk.prg", out / "x.prg"}) EXPECT_TRUE(support::ReadText(older) == "older");
+  }
+}
+
+// Two of the cells have a slot of their own in the colour that the background has, or gets.
+TEST_F(AnimationReleaseTest, ABackgroundChangesWithItsFrameWhereThatIsWanted) {
+  for (const int background : {3, 4}) {
+    pictures.push_back(support::PictureWithCell(500, support::kAllSlots, 3, 5, 6, background));
+    support::SetCell(pictures.back(), 501, support::kAllSlots, 4, 5, 6);
+    WriteFrame(background, pictures.back());
+    pictures.back() = files::Decode(files::FormatOf(files::kOwnType), support::ReadFile(FrameFile(background)), {});
+  }
+  Release("mnuCreatePRGAnimation", [](const QDialog& dialog) { dialog.findChild<QCheckBox*>("chkBackground")->click(); });
+  EXPECT_EQ(PromptLines().last(), "--> PRG complete.");
+  EXPECT_EQ(Made("--change-background", "cli.prg"), support::ReadFile(frames / "walk.prg"));
+  EXPECT_EQ(Played(support::ReadFile(frames / "walk.prg"), 3), (Shown{{0, 5}, {1, 5}, {0, 5}}));
+}
+
+// A player that counts each field twice.
+TEST_F(AnimationReleaseTest, ABuildTellsWhatAC64WouldNotPlay) {
+  WriteFrames({1, 2, 3}, 5);
+  const fs::path player = folders.System() / "animplay.src";
+  std::string source = support::ReadText(player);
+  source.insert(source.find("inc fields"), "inc fields\n                ");
+  support::WriteText(player, source);
+  Release("mnuCreatePRGAnimation", [](const QDialog&) {});
+  EXPECT_TRUE(PromptLines().contains("--> Note: on a C64 this does not play the animation; frame 1 is not seen at its time."));
+  support::WriteText(player, "  oops [animation]\n");
+  Release("mnuCreatePRGAnimation", [](const QDialog&) {});
+  EXPECT_TRUE(PromptLines()[PromptLines().size() - 2].startsWith("--> animplay.src, line 1: "));
+  EXPECT_EQ(PromptLines().last(), "--> [err 908]");
+  EXPECT_FALSE(fs::exists(folders.System() / "animplay.bin") || fs::exists(folders.System() / "animplay.tmp"));
+}
+
+TEST_F(AnimationReleaseTest, EscapeAndFramesThatGoLeaveNothingHalfMade) {
+  WriteFrames({1, 2}, 5);
+  for (int number = 3; number <= 3000; ++number) fs::create_hard_link(FrameFile(number % 2 + 1), FrameFile(number));
+  // As soon as it is seen how far the work is, it is given up.
+  QTimer look;
+  QObject::connect(&look, &QTimer::timeout, [] {
+    QWidget* dialog = QApplication::activeModalWidget();
+    if (dialog != nullptr && dialog->objectName() == "frmWork") QTest::keyClick(dialog, Qt::Key_Escape);
+  });
+  look.start(20);
+  const auto export_to = [this](const char* entry, const fs::path& file) {
+    InNextDialog([this, file](QDialog& dialog) {
+      ChooseFile(file);
+      dialog.findChild<QSpinBox*>("scale")->setValue(8);
+      dialog.findChild<QAbstractButton*>("cmdStd")->click();
+    });
+    Action(entry)->trigger();
+    EXPECT_EQ(Panel("pnlWord"), "Export stopped") << entry;
+  };
+  export_to("mnuExportAnimationGif", out / "x.gif");
+  export_to("mnuExportAnimationPngs", out);
+  EXPECT_TRUE(fs::is_empty(out));
+  look.stop();
+
+  for (int number = 4; number <= 3000; ++number) fs::remove(FrameFile(number));
+  Release("mnuCreatePRGAnimation", [this](QDialog& dialog) {
+    fs::remove(FrameFile(3));
+    AnswerNext(QMessageBox::Ok);
+    dialog.findChild<QSpinBox*>("rate")->setValue(7);
+  });
+  EXPECT_EQ(box_text, ToQt(app::TextFromPath(FrameFile(3)) + ": there is no such file"));
+  EXPECT_FALSE(fs::exists(frames / "walk.prg"));
+}
+
+TEST_F(AnimationReleaseTest, ImagesAreNumberedAsTheFramesAreAndReplacedWhenThatIsWanted) {
+  WriteFrames({2, 9}, 5);
+  const auto export_pngs = [this] {
+    InNextDialog([this](QDialog& dialog) {
+      ChooseFile(out);
+      dialog.findChild<QAbstractButton*>("cmdStd")->click();
+    });
+    Action("mnuExportAnimationPngs")->trigger();
+  };
+  export_pngs();
+  EXPECT_EQ(support::NamesIn(out), (support::Lines{"walk_0002.png", "walk_0009.png"}));
+  const files::Palette palette = files::LoadPalette("Kelvo");
+  EXPECT_EQ(support::ReadFile(out / "walk_0009.png"),
+            images::PngOf(images::ImageOf(pictures[1], palette, images::ImageSize::kScreen, 1)));
 }
 
 }  // namespace
