@@ -190,7 +190,7 @@ constexpr MenuEntry kEntries[] = {
     {"mnuAnimProperties", "mnuAnim", "Animation &properties...", "", "Where the frames are and how they are named",
      [](MainFrame& f) { f.Animation().ShowProperties(); }},
     Separator("mnuAnim"),
-    AnimationBuildEntry<c64out::kCreatePrg>("mnuCreatePRGAnimation", "Create animation executable as &PRG...", "Ctrl+F6",
+    AnimationBuildEntry<c64out::kCreatePrg>("mnuCreatePRGAnimation", "Create animation executable as P&RG...", "Ctrl+F6",
                                             "Make a C64 program that plays the frames, beside the frames"),
     AnimationBuildEntry<c64out::kCreateD64>("mnuCreateD64Animation", "Create animation executable as &D64...", "",
                                             "Make a disk image with a program that plays the frames, beside the frames"),
