@@ -19,15 +19,16 @@ struct AnimationFrame {
 struct AnimationFrames {
   std::vector<AnimationFrame> frames{};  // one at least, in their order
   std::vector<int> missing{};            // numbers between the first and the last that have no file
-  std::filesystem::path folder;        // where what is made of them goes
-  std::string name;                    // how it is called, without an ending
+  std::filesystem::path folder;          // where what is made of them goes
+  std::string name;                      // how it is called, without an ending
 };
 
-// As the folder is now. Throws std::runtime_error that says which file is wrong: no frames, one that has not the size of a
-// picture, a list of times (NAME-times.txt) with a wrong line.
+// As the folder is now. Throws std::runtime_error that says which file is wrong: no frames, one that has not the size
+// of a picture, a list of times (NAME-times.txt) with a wrong line.
 AnimationFrames FindFrames(const AnimProperties& properties);
 
-// How long each frame is seen, in fields of a PAL machine's beam, at `rate` (kSlowestRate..kFastestRate) turns a second.
+// How long each frame is seen, in fields of a PAL machine's beam, at `rate` (kSlowestRate..kFastestRate) turns a
+// second.
 std::vector<int> FieldsOf(const AnimationFrames& animation, int rate);
 
 // "Frames 3, 5 and 7": what numbers are called in a text; of many the first few.

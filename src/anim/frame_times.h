@@ -28,8 +28,8 @@ class FrameTimes {
 
 inline constexpr int kFieldsPerSecond = 50;  // of a PAL machine's beam
 
-// For how many fields frames are seen that have so many turns each, at `rate` (1..50) turns a second. Each ends where its
-// time does, to the nearest field, so that many are as long as they should be.
+// For how many fields frames are seen that have so many turns each, at `rate` (1..50) turns a second. Each ends where
+// its time does, to the nearest field, so that many are as long as they should be.
 std::vector<int> FieldsOf(const std::vector<int>& turns, int rate);
 
 }  // namespace kelvo::anim

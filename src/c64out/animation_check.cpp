@@ -13,7 +13,8 @@ namespace {
 
 constexpr int kMostFieldsToBegin = 250;
 
-// A frame's turn in the first round: its place, for how long it is to be seen, and the most fields that it takes to come.
+// A frame's turn in the first round: its place, for how long it is to be seen, and the most fields that it takes to
+// come.
 struct Turn {
   std::size_t frame;
   int fields, coming;

@@ -13,8 +13,8 @@ namespace kelvo::c64out {
 inline constexpr int kMostTriedFields = 1000;
 
 // Whether `program`, a PRG, shows every frame of `release` with every pixel, at its time and for its time, in the first
-// round. Where a change takes several fields the frame may come as much later, and where there are too few it need not be
-// seen.
+// round. Where a change takes several fields the frame may come as much later, and where there are too few it need not
+// be seen.
 ProgramFinding TryAnimation(std::span<const std::uint8_t> program, const Release& release, bool via_codenet);
 
 }  // namespace kelvo::c64out

@@ -118,24 +118,27 @@ bool HasOtherBackgrounds(const Release& release) {
 std::string Refusal(const Release& release) {
   const Numbers others = OtherBackgrounds(release);
   if (!others.empty() && !release.wishes.changes_background) {
-    return anim::FramesNamed(others) + (others.size() == 1 ? " has" : " have") + " another background color than frame " +
-           std::to_string(release.animation.frames.front().number) + ".";
+    return anim::FramesNamed(others) + (others.size() == 1 ? " has" : " have") +
+           " another background color than frame " + std::to_string(release.animation.frames.front().number) + ".";
   }
   if (release.plan.Fits()) return {};
   const std::vector<ReleaseRow> rows = RowsOf(release);
   const auto row = std::ranges::find(rows, false, &ReleaseRow::fits);
   if (row == rows.end()) return "The animation does not fit into the memory of a C64.";
   const bool leads_back = row - rows.begin() == std::ssize(release.fields);
-  return (leads_back ? "The way back to frame " : "Frame ") + std::to_string(row->frame) + " does not fit into the memory of a C64: " +
-         Counted(row->cells, "cell") + " changed, " + Counted(row->bytes, "byte") + ".";
+  return (leads_back ? "The way back to frame " : "Frame ") + std::to_string(row->frame) +
+         " does not fit into the memory of a C64: " + Counted(row->cells, "cell") + " changed, " +
+         Counted(row->bytes, "byte") + ".";
 }
 
 std::string Advice(const Release& release) {
-  if (!release.plan.Fits()) return "Fewer frames would help, fewer cells that change, or a lower rate, at which more can be packed.";
+  if (!release.plan.Fits())
+    return "Fewer frames would help, fewer cells that change, or a lower rate, at which more can be packed.";
   const std::vector<ReleaseRow> rows = RowsOf(release);
   if (std::ranges::find(rows, true, &ReleaseRow::is_slow) == rows.end()) return {};
   const int rate = FastestRate(release);
-  return (rate > 0 ? "At most " + std::to_string(rate) + " frames a second would help, or" : std::string("It would help")) +
+  return (rate > 0 ? "At most " + std::to_string(rate) + " frames a second would help, or"
+                   : std::string("It would help")) +
          " that fewer cells change in the frames that are slow.";
 }
 

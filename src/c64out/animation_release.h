@@ -23,7 +23,7 @@ struct ReleaseWishes {
 struct Release {
   ReleaseWishes wishes;
   anim::AnimationFrames animation;
-  std::vector<int> fields;                          // by frame, as the next ones
+  std::vector<int> fields;  // by frame, as the next ones
   std::vector<model::C64Colour> backgrounds{};
   std::vector<model::PictureImage> first_pictures{};  // as many as a build tries
   c64anim::AnimationPlan plan{};
@@ -35,8 +35,8 @@ c64anim::Playing PlayingOf(const Release& release);
 // c64anim::Animation does.
 Release MakeRelease(const anim::AnimationFrames& animation, const ReleaseWishes& wishes, app::Progress& progress);
 
-// A frame, and the changes that lead to it from the one before; the first one is drawn from nothing. Of an animation that
-// plays round and round, the first frame comes once more behind the last.
+// A frame, and the changes that lead to it from the one before; the first one is drawn from nothing. Of an animation
+// that plays round and round, the first frame comes once more behind the last.
 struct ReleaseRow {
   int frame = 0;             // its number
   int cells = 0, bytes = 0;  // that change

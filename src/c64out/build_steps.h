@@ -13,8 +13,8 @@
 
 namespace kelvo::c64out {
 
-// Says what is made, does `steps`, then ends as the choice says: with the program beside the picture, on a disk, or sent.
-// Tells how it went; the work files are gone then, but for those of a build that was given up.
+// Says what is made, does `steps`, then ends as the choice says: with the program beside the picture, on a disk, or
+// sent. Tells how it went; the work files are gone then, but for those of a build that was given up.
 BuildResult RunBuild(const BuildJob& job, const std::function<void()>& steps);
 
 // For `steps`: nothing can be assembled where tools cannot be run. Gives the build up then, and removes `source`.

@@ -44,8 +44,7 @@ const Option kBorder{"--border", "", "with the border around it, 384 x 272"};
 const Option kAspect{"--aspect", "pal", "as high as a PAL screen shows it", "pal"};
 
 const Option kPrefix{"--prefix", "P", "what the frames' names begin with, if not \"anim\""};
-const Option kRate{
-    .name = "--rate", .value = "N", .help = "frames a second, if not 10", .lowest = 1, .highest = 25};
+const Option kRate{.name = "--rate", .value = "N", .help = "frames a second, if not 10", .lowest = 1, .highest = 25};
 const Option kPlaying{"--playing", "HOW", "what follows the last frame; else round", "once round to-and-fro"};
 const Option kChangeBackground{"--change-background", "", "frames may have backgrounds of their own"};
 const Option kReport{"--report", "", "tells what each frame takes"};

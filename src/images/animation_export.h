@@ -26,8 +26,8 @@ app::Bytes GifOf(const anim::AnimationFrames& animation, int rate, anim::Playing
 // Where the image of a frame goes in `folder`: anim0001.png for anim0001.kvp.
 std::filesystem::path PngFileOf(const anim::AnimationFrame& frame, const std::filesystem::path& folder);
 
-// A PNG for each frame, in place of what has its name. All of them are made before the first comes to its place, so that
-// what fails on the way, and what `progress` throws, leaves the folder as it was. Throws the same as GifOf().
+// A PNG for each frame, in place of what has its name. All of them are made before the first comes to its place, so
+// that what fails on the way, and what `progress` throws, leaves the folder as it was. Throws the same as GifOf().
 void WritePngs(const anim::AnimationFrames& animation, const AnimationLook& look, const std::filesystem::path& folder,
                app::Progress& progress);
 

@@ -41,19 +41,6 @@ TEST(AnimationGif, HoldsEachFrameForItsTime) {
   }
 }
 
-// Each length is another place at which the packed bits of a frame end.
-TEST(AnimationGif, EndsAFrameAnywhere) {
-  const QImage all = ImageOf(support::RandomPicture(3), {"Kelvo", model::kSurfaceColours}, ImageSize::kPixels, 1);
-  for (int width = 1; width <= all.width(); ++width) {
-    const QImage image = all.copy(0, 0, width, 1 + width % 40);
-    AnimationGif gif(GifLoop::kForEver);
-    gif.Add(image, 1);
-    const app::Bytes bytes = gif.Finished();
-    const QImage read = QImage::fromData(bytes.data(), static_cast<int>(bytes.size()), "gif");
-    ASSERT_EQ(read.convertToFormat(QImage::Format_RGB32), image.convertToFormat(QImage::Format_RGB32)) << width;
-  }
-}
-
 TEST(AnimationGif, TakesFramesOfOneKindOnly) {
   const files::Palette palette{"Kelvo", model::kSurfaceColours};
   const QImage image = ImageOf({}, palette, ImageSize::kPixels, 1);

@@ -1,14 +1,15 @@
-// Animations leave Kelvo by the menu and by kelvo-cli as the same programs, disks and GIFs, which play every frame for its
-// time; and what cannot be made is said in a line, and leaves all as it was.
+// Animations leave Kelvo by the menu and by kelvo-cli as the same programs, disks and GIFs, which play every frame for
+// its time; and what cannot be made is said in a line, and leaves all as it was.
 #include <QComboBox>
 #include <QFileDialog>
+#include <QImageReader>
 #include <functional>
 
 #include "anim/frame_names.h"
 #include "c64/beam.h"
 #include "c64out/output_settings.h"
-#include "files/picture_format.h"
 #include "files/palette_file.h"
+#include "files/picture_format.h"
 #include "images/picture_png.h"
 #include "main_frame_fixture.h"
 #include "support/pictures.h"
@@ -35,9 +36,7 @@ class AnimationReleaseTest : public MainFrameTest {
     Start();
   }
 
-  fs::path FrameFile(int number) const {
-    return frames / anim::FrameNames({{}, "walk_"}).FileName(number);
-  }
+  fs::path FrameFile(int number) const { return frames / anim::FrameNames({{}, "walk_"}).FileName(number); }
   void WriteFrame(int number, model::PictureImage picture) const {
     files::Sign(picture);
     support::WriteFile(FrameFile(number), files::Encode(picture));
@@ -58,7 +57,8 @@ class AnimationReleaseTest : public MainFrameTest {
   }
 
   support::ToolRun Cli(const std::string& line) const {
-    return support::RunTool("sh", {"-c", "cd '" + out.string() + "' && '" KELVO_CLI "' animation --prefix walk_ " + line});
+    return support::RunTool("sh",
+                            {"-c", "cd '" + out.string() + "' && '" KELVO_CLI "' animation --prefix walk_ " + line});
   }
   app::Bytes Made(const std::string& options, const std::string& name) const {
     const support::ToolRun run = Cli(options + " '" + frames.string() + "' " + name);
@@ -86,6 +86,21 @@ class AnimationReleaseTest : public MainFrameTest {
       dialog.findChild<QLineEdit*>("fileNameEdit")->setText(ToQt(app::TextFromPath(path)));
       QTest::keyClick(&dialog, Qt::Key_Return);
     });
+  }
+
+  // Each frame at twice its size, for its fields, as Qt reads it.
+  void ExpectGif(const fs::path& file, const std::vector<int>& places, const std::vector<int>& fields,
+                 int loops) const {
+    QImageReader reader(ToQt(app::TextFromPath(file)));
+    EXPECT_EQ(reader.imageCount(), static_cast<int>(places.size()));
+    EXPECT_EQ(reader.loopCount(), loops);
+    for (const int place : places) {
+      const auto index = static_cast<std::size_t>(place);
+      const QImage wanted =
+          images::ImageOf(pictures[index], files::LoadPalette("Kelvo"), images::ImageSize::kScreen, 2);
+      ASSERT_EQ(reader.read().convertToFormat(QImage::Format_RGB32), wanted.convertToFormat(QImage::Format_RGB32));
+      EXPECT_EQ(reader.nextImageDelay(), 20 * fields[index]);
+    }
   }
 
   int PlaceOf(const c64::Screen& screen) const {
@@ -152,6 +167,9 @@ TEST_F(AnimationReleaseTest, TheMenuAndTheCommandLineMakeTheSameAndItPlays) {
     });
     Action("mnuExportAnimationGif")->trigger();
     EXPECT_EQ(Made(options + " --scale 2", "cli.gif"), support::ReadFile(out / "menu.gif"));
+    const bool goes_back = playing == 2;
+    ExpectGif(out / "menu.gif", goes_back ? std::vector{0, 1, 2, 3, 2, 1} : std::vector{0, 1, 2, 3}, {4, 4, 13, 4},
+              playing == 0 ? 0 : -1);
   }
 }
 
@@ -178,7 +196,11 @@ TEST_F(AnimationReleaseTest, WhatCannotBeMadeIsSaidInALineAndLeavesWhatIsThere) 
               WriteFrame(3, pictures[2]);
             },
             true},
-           {"does not fit into the memory of a C64: 9", [this] { WriteFrames({1, 2, 3, 4, 5, 6, 7, 8, 9}, 990); }, true},
+           {"does not fit into the memory of a C64: 9",
+            [this] {
+              WriteFrames({1, 2, 3, 4, 5, 6, 7, 8, 9}, 990);
+            },
+            true},
        }) {
     SCOPED_TRACE(wrong.says);
     fs::remove(frames / "walk-times.txt");
@@ -211,7 +233,8 @@ TEST_F(AnimationReleaseTest, ABackgroundChangesWithItsFrameWhereThatIsWanted) {
     WriteFrame(background, pictures.back());
     pictures.back() = files::Decode(files::FormatOf(files::kOwnType), support::ReadFile(FrameFile(background)), {});
   }
-  Release("mnuCreatePRGAnimation", [](const QDialog& dialog) { dialog.findChild<QCheckBox*>("chkBackground")->click(); });
+  Release("mnuCreatePRGAnimation",
+          [](const QDialog& dialog) { dialog.findChild<QCheckBox*>("chkBackground")->click(); });
   EXPECT_EQ(PromptLines().last(), "--> PRG complete.");
   EXPECT_EQ(Made("--change-background", "cli.prg"), support::ReadFile(frames / "walk.prg"));
   EXPECT_EQ(Played(support::ReadFile(frames / "walk.prg"), 3), (Shown{{0, 5}, {1, 5}, {0, 5}}));
@@ -225,7 +248,8 @@ TEST_F(AnimationReleaseTest, ABuildTellsWhatAC64WouldNotPlay) {
   source.insert(source.find("inc fields"), "inc fields\n                ");
   support::WriteText(player, source);
   Release("mnuCreatePRGAnimation", [](const QDialog&) {});
-  EXPECT_TRUE(PromptLines().contains("--> Note: on a C64 this does not play the animation; frame 1 is not seen at its time."));
+  EXPECT_TRUE(
+      PromptLines().contains("--> Note: on a C64 this does not play the animation; frame 1 is not seen at its time."));
   support::WriteText(player, "  oops [animation]\n");
   Release("mnuCreatePRGAnimation", [](const QDialog&) {});
   EXPECT_TRUE(PromptLines()[PromptLines().size() - 2].startsWith("--> animplay.src, line 1: "));

@@ -61,9 +61,10 @@ void PrintReport(const c64out::Release& release) {
     text += std::string(row.fits ? "" : "  does not fit") + (row.is_slow ? "  too slow" : "") +
             (row.torn_fields > 0 ? "  torn" : "") + "\n";
   }
-  Print(text + "bytes  " + std::to_string(c64out::BytesOf(release)) + " of " + std::to_string(c64anim::Animation::kRoom) +
-        "\nfit    " + std::to_string(c64out::FramesThatFit(release)) + " of " + std::to_string(release.fields.size()) +
-        " frames\nrate   " + std::to_string(c64out::FastestRate(release)) + " at most\n");
+  Print(text + "bytes  " + std::to_string(c64out::BytesOf(release)) + " of " +
+        std::to_string(c64anim::Animation::kRoom) + "\nfit    " + std::to_string(c64out::FramesThatFit(release)) +
+        " of " + std::to_string(release.fields.size()) + " frames\nrate   " +
+        std::to_string(c64out::FastestRate(release)) + " at most\n");
 }
 
 app::Bytes GifFile(const AnimationFrames& frames, const c64out::ReleaseWishes& wishes, const Arguments& arguments,

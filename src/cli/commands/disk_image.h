@@ -10,8 +10,8 @@
 
 namespace kelvo::cli {
 
-// What a program is called on a disk, as the editor calls it: by --name, else `otherwise`. Throws UsageError, which begins
-// with `operand`, for a name that a disk cannot hold.
+// What a program is called on a disk, as the editor calls it: by --name, else `otherwise`. Throws UsageError, which
+// begins with `operand`, for a name that a disk cannot hold.
 std::string NameFor(const std::string& operand, const std::string& otherwise, const Arguments& arguments);
 
 // Where --vice says, else the settings, else on the search path. Throws std::runtime_error.

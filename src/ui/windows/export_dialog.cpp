@@ -31,7 +31,11 @@ QString ExportChoice::Ending() const {
 }
 
 ExportDialog::ExportDialog(QWidget* parent)
-    : QDialog(parent), form_(new QFormLayout), cboFormat_(AddFormats(form_, this)), image_(form_, this), lblLacks_(new QLabel(this)) {
+    : QDialog(parent),
+      form_(new QFormLayout),
+      cboFormat_(AddFormats(form_, this)),
+      image_(form_, this),
+      lblLacks_(new QLabel(this)) {
   setObjectName("frmExport");
   setWindowTitle("Export");
   lblLacks_->setWordWrap(true);

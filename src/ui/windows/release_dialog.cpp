@@ -103,9 +103,8 @@ bool ReleaseDialog::MakeRelease() {
                                      .playing = playback_->Playing(),
                                      .changes_background = chkBackground_->isChecked(),
                                      .reading = files::ReadingBy(settings_)};
-  return DoWatched(isVisible() ? this : parentWidget(), "Reading the frames", [&](app::Progress& progress) {
-    release_ = c64out::MakeRelease(animation_, wishes, progress);
-  });
+  return DoWatched(isVisible() ? this : parentWidget(), "Reading the frames",
+                   [&](app::Progress& progress) { release_ = c64out::MakeRelease(animation_, wishes, progress); });
 }
 
 void ReleaseDialog::MakeAnew() {

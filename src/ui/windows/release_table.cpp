@@ -20,7 +20,9 @@ constexpr std::array<Column, 6> kColumns{{
     {"Bytes", [](const ReleaseRow& row) { return QVariant(row.bytes); }},
     {"Fields needed", [](const ReleaseRow& row) { return QVariant(row.fields); }},
     {"Shown", [](const ReleaseRow& row) { return QVariant(row.torn_fields > 0 ? "torn" : "whole"); }},
-    {"Fits", [](const ReleaseRow& row) { return QVariant(!row.fits ? "no" : row.is_slow ? "too slow" : "yes"); }},
+    {"Fits", [](const ReleaseRow& row) { return QVariant(!row.fits     ? "no"
+                                                         : row.is_slow ? "too slow"
+                                                                       : "yes"); }},
 }};
 
 }  // namespace
