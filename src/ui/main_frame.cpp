@@ -130,6 +130,10 @@ void MainFrame::PictureSaved() {
   history_->PictureSaved();
 }
 
+void MainFrame::FilesMoved(const files::WhereNow& now) {
+  history_->FilesMoved(now);
+}
+
 void MainFrame::MakeChildren() {
   steps_ = new frmHistory(history_->Steps(), this);
   windows_->Add(ChildWindowId::kFullView, full_view_);

@@ -108,6 +108,7 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   void ShowFile(const files::CurrentFile& file) override;
   void PictureReplaced() override;
   void PictureSaved() override;
+  void FilesMoved(const files::WhereNow& now) override;
   void MakeChildren();
   void ConnectChildren();
   void ConnectChoices();
