@@ -6,6 +6,7 @@
 #include "ui/desks/cell_use_desk.h"
 #include "ui/desks/export_desk.h"
 #include "ui/desks/frame_choices.h"
+#include "ui/desks/frame_strip_desk.h"
 #include "ui/desks/history_desk.h"
 #include "ui/desks/painting_desk.h"
 #include "ui/desks/palette_desk.h"
@@ -82,6 +83,7 @@ void MainFrame::ConnectPalette() {
     views_->PictureChanged();
     desk_->ShowColours();
     steps_->StartAfresh();
+    frame_strip_->StartAfresh();
     for (QWidget* widget : findChildren<QWidget*>()) widget->update();
   });
 }
