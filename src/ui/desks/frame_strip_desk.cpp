@@ -29,6 +29,8 @@ void FrameStripDesk::StartAfresh() {
 void FrameStripDesk::Do(FrameDeed deed, int number) {
   if (deed == FrameDeed::kGo) return animation_.GoTo(number);
   Change([&] { return WordOf(deed, number); });
+  const auto current = animation_.Navigation().CurrentFrame();
+  if (current && deed != FrameDeed::kDelete) strip_.Select(*current);
 }
 
 std::string FrameStripDesk::WordOf(FrameDeed deed, int number) {
