@@ -52,7 +52,7 @@ bool AnimMode::MayStart() {
   const AnimProperties properties = ReadAnimProperties(with_.settings);
   if (const auto lack = WhatIsLacking(properties); !lack.empty()) return Refuse(lack);
   const FrameNames names(properties);
-  const bool missing = !FrameRow(names).Has(kFirstFrame);
+  const bool missing = !LookAtFrames(names).Has(kFirstFrame);
   if (missing && !with_.messages.Ask(FirstFrameQuestion(properties))) return false;
   const bool there = !missing || with_.files.SaveTo(names.Path(kFirstFrame));
   return IsFolder(properties.folder) ? there : Refuse("Animation folder can not be found");

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "model/onion_skin.h"
+
 namespace kelvo::anim {
 
 AnimProperties ReadAnimProperties(const app::SettingsStore& settings) {
@@ -30,6 +32,22 @@ bool ReadOnionSkin(const app::SettingsStore& settings) {
 
 void KeepOnionSkin(app::SettingsStore& settings, bool on) {
   settings.Write(kOnionSkin, on ? "1" : "0");
+}
+
+OnionFrames ReadOnionFrames(const app::SettingsStore& settings) {
+  return static_cast<OnionFrames>(app::ReadNumber(settings, kOnionFrames, 0, static_cast<int>(OnionFrames::kBoth)));
+}
+
+void KeepOnionFrames(app::SettingsStore& settings, OnionFrames frames) {
+  settings.Write(kOnionFrames, std::to_string(static_cast<int>(frames)));
+}
+
+int ReadOnionStrength(const app::SettingsStore& settings) {
+  return app::ReadNumber(settings, kOnionStrength, model::OnionSkin::kFaintest, model::OnionSkin::kStrongest);
+}
+
+void KeepOnionStrength(app::SettingsStore& settings, int quarters) {
+  settings.Write(kOnionStrength, std::to_string(quarters));
 }
 
 }  // namespace kelvo::anim

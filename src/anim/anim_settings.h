@@ -13,6 +13,9 @@ inline constexpr app::Setting kPlayRate{"AnimProperties", "PlayRate", "10"};
 inline constexpr app::Setting kOnionSkin{"AnimProperties", "OnionSkin", "0"};  // 1: the frame before shines through
 inline constexpr app::Setting kPlaying{"AnimProperties", "Playing", "1"};      // a number of Playing
 
+inline constexpr app::Setting kOnionFrames{"AnimProperties", "OnionFrames", "0"};      // a number of OnionFrames
+inline constexpr app::Setting kOnionStrength{"AnimProperties", "OnionStrength", "1"};  // quarters
+
 inline constexpr int kSlowestRate = 1, kFastestRate = 25;  // frames a second
 
 // What follows the last frame when an animation is played: an end, the first frame again, or the way back.
@@ -34,5 +37,12 @@ void KeepPlaying(app::SettingsStore& settings, Playing playing);
 
 bool ReadOnionSkin(const app::SettingsStore& settings);
 void KeepOnionSkin(app::SettingsStore& settings, bool on);
+
+// Which frames shine through, and how much of what is to be seen is theirs, in quarters.
+enum class OnionFrames { kBefore, kAfter, kBoth };
+OnionFrames ReadOnionFrames(const app::SettingsStore& settings);
+void KeepOnionFrames(app::SettingsStore& settings, OnionFrames frames);
+int ReadOnionStrength(const app::SettingsStore& settings);
+void KeepOnionStrength(app::SettingsStore& settings, int quarters);
 
 }  // namespace kelvo::anim

@@ -44,7 +44,7 @@ void RequirePictureSize(const fs::path& frame) {
 
 AnimationFrames FindFrames(const AnimProperties& properties) {
   const FrameNames names(properties);
-  const FrameRow row(names);
+  const FrameRow row = LookAtFrames(names);
   if (row.Count() == 0) {
     throw std::runtime_error("There are no frames such as " + app::TextFromPath(names.Path(kFirstFrame)));
   }

@@ -81,12 +81,25 @@ std::optional<int> FrameNavigation::CurrentFrame() const {
 }
 
 void FrameNavigation::Refresh() {
-  row_ = FrameRow(Names());
+  row_ = LookAtFrames(Names());
 }
 
 std::optional<model::PictureImage> FrameNavigation::PictureBefore() const {
-  const auto before = row_.ReadableBefore(CurrentFrame().value_or(0));
-  return before ? ReadFrame(row_.Path(*before), files::ReadingBy(with_.settings)) : std::nullopt;
+  return PictureOf(row_.ReadableBefore(CurrentFrame().value_or(0)));
+}
+
+std::optional<model::PictureImage> FrameNavigation::PictureAfter() const {
+  const auto current = CurrentFrame();
+  return current ? PictureOf(row_.ReadableAfter(*current)) : std::nullopt;
+}
+
+std::optional<model::PictureImage> FrameNavigation::PictureOf(std::optional<int> number) const {
+  return number ? ReadFrame(row_.Path(*number), files::ReadingBy(with_.settings)) : std::nullopt;
+}
+
+void FrameNavigation::FramesRenumbered(const std::function<std::optional<int>(int)>& number_now) {
+  if (shown_before_) shown_before_ = number_now(*shown_before_);
+  Refresh();
 }
 
 FrameNames FrameNavigation::Names() const {

@@ -1,6 +1,7 @@
 // Going from frame to frame: the buttons of the frame window and its number field.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -43,11 +44,17 @@ class FrameNavigation {
   const FrameRow& Row() const { return row_; }
   void Refresh();
 
-  // The picture of the frame before the current one, for the onion skin; empty when there is none.
+  FrameNames Names() const;
+
+  // The pictures of the frames before and after the current one; empty when there is none.
   std::optional<model::PictureImage> PictureBefore() const;
+  std::optional<model::PictureImage> PictureAfter() const;
+
+  // Frames have other numbers now: that of the frame that was `number`, empty when it is gone.
+  void FramesRenumbered(const std::function<std::optional<int>(int)>& number_now);
 
  private:
-  FrameNames Names() const;
+  std::optional<model::PictureImage> PictureOf(std::optional<int> number) const;
   std::string GoToNumber(int number, const std::string& word);
   std::string OfferToCreate(int number);
   bool SaveChanges();

@@ -7,22 +7,28 @@
 #include <optional>
 #include <vector>
 
+#include "anim/anim_settings.h"
 #include "files/picture_format.h"
 #include "model/picture_image.h"
 
 namespace kelvo::anim {
 
-// Runs through the frames over and over, at a steady pace: a frame's turn follows from the time since the start alone,
+// Runs through the frames at a steady pace: a frame's turn follows from the time since the start alone,
 // so a view that comes late once does not fall behind. Holds one picture, however many frames there are; the picture in
 // memory is never touched. A frame that cannot be read any more leaves the one before to be seen.
 class FramePlayer {
  public:
   using Milliseconds = std::chrono::milliseconds;
 
-  // The frames in their order, frames a second, kSlowestRate..kFastestRate, and how files are read.
-  FramePlayer(std::vector<std::filesystem::path> paths, int rate, files::Reading reading = files::Reading::kDocumented);
+  // The frames in their order, frames a second, kSlowestRate..kFastestRate, how files are read, and what follows the
+  // last frame. To and fro, the first and the last frame have one turn each time.
+  FramePlayer(std::vector<std::filesystem::path> paths, int rate, files::Reading reading = files::Reading::kDocumented,
+              Playing playing = Playing::kRound);
 
   bool IsEmpty() const { return paths_.empty(); }
+
+  // Whether the turn of the last frame has passed, of frames that play once.
+  bool IsOver(Milliseconds since_start) const;
 
   // The picture whose turn has come, `since_start` after the start; null while the one shown last still has its turn.
   // It stands until the next call.
@@ -38,11 +44,13 @@ class FramePlayer {
   using Turn = std::chrono::milliseconds::rep;
 
   Turn TurnAt(Milliseconds since_start) const;
+  std::size_t IndexAt(Turn turn) const;
   void Read(Turn turn);
 
   std::vector<std::filesystem::path> paths_;
   int rate_;
   files::Reading reading_;
+  Playing playing_;
   Turn shown_turn_ = -1;
   std::optional<std::size_t> read_index_;
   std::optional<model::PictureImage> read_;

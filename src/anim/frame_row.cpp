@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <exception>
 
+#include "anim/renaming.h"
 #include "app/path_text.h"
 #include "files/load_picture.h"
 
@@ -10,12 +11,6 @@ namespace kelvo::anim {
 namespace {
 
 namespace fs = std::filesystem;
-
-bool HasPictureSize(const fs::path& path) {
-  std::error_code error;
-  const std::uintmax_t size = fs::file_size(path, error);
-  return !error && files::FormatOf(files::kOwnType).Takes(size);
-}
 
 template <typename Entries>
 std::optional<int> FirstReadable(Entries from, Entries to) {
@@ -38,6 +33,12 @@ FrameRow::FrameRow(const FrameNames& names) {
   }
 }
 
+std::vector<int> FrameRow::Numbers() const {
+  std::vector<int> numbers;
+  for (const auto& [number, path] : paths_) numbers.push_back(number);
+  return numbers;
+}
+
 std::optional<int> FrameRow::ReadableAfter(int number) const {
   return FirstReadable(paths_.upper_bound(number), paths_.end());
 }
@@ -52,6 +53,21 @@ std::vector<fs::path> FrameRow::ReadablePaths() const {
     if (HasPictureSize(path)) paths.push_back(path);
   }
   return paths;
+}
+
+FrameRow LookAtFrames(const FrameNames& names) {
+  try {
+    SettleRenaming(names.Folder());
+  } catch (const RenamingError&) {
+    // what can be read of the folder is shown; who renames is told
+  }
+  return FrameRow(names);
+}
+
+bool HasPictureSize(const fs::path& path) {
+  std::error_code error;
+  const std::uintmax_t size = fs::file_size(path, error);
+  return !error && files::FormatOf(files::kOwnType).Takes(size);
 }
 
 std::optional<model::PictureImage> ReadFrame(const fs::path& path, files::Reading reading) {

@@ -22,6 +22,7 @@ class FrameRow {
   int Count() const { return static_cast<int>(paths_.size()); }
   bool Has(int number) const { return paths_.contains(number); }
   const std::filesystem::path& Path(int number) const { return paths_.at(number); }  // of a frame that it has
+  std::vector<int> Numbers() const;
   int Last() const { return paths_.empty() ? 0 : paths_.rbegin()->first; }
 
   // The nearest frame after or before `number` (0 or more) whose file has the size of a picture.
@@ -31,9 +32,17 @@ class FrameRow {
   // The paths of all frames whose files have the size of a picture.
   std::vector<std::filesystem::path> ReadablePaths() const;
 
+  friend bool operator==(const FrameRow&, const FrameRow&) = default;
+
  private:
   std::map<int, std::filesystem::path> paths_;
 };
+
+// The frames that are there now, once what a program left halfway is put right.
+FrameRow LookAtFrames(const FrameNames& names);
+
+// Whether a file has the size of a picture.
+bool HasPictureSize(const std::filesystem::path& path);
 
 // The picture in a frame's file; empty when it cannot be read.
 std::optional<model::PictureImage> ReadFrame(const std::filesystem::path& path, files::Reading reading);

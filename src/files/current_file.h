@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -17,6 +18,9 @@ struct CurrentFile {
     return CurrentFileName.empty() ? std::string(unnamed) : CurrentFileName;
   }
 };
+
+// Where a file is now that was at a path: the same path for one that was not moved, an empty one for one that is gone.
+using WhereNow = std::function<std::filesystem::path(const std::filesystem::path&)>;
 
 // The name that goes with `path`: the file name without a trailing ".PRG" in any case.
 std::string NameOfPath(const std::filesystem::path& path);

@@ -34,6 +34,8 @@ class FileDisplay {
   virtual void PictureReplaced() = 0;
   // The picture was saved: its file holds just what is in memory.
   virtual void PictureSaved() = 0;
+  // Files of pictures have other paths now, the current one perhaps among them.
+  virtual void FilesMoved(const WhereNow& now) = 0;
 };
 
 }  // namespace kelvo::files

@@ -241,6 +241,14 @@ bool PictureFiles::MayClose() {
   return answer == app::UnsavedAnswer::kDiscard || (answer == app::UnsavedAnswer::kSave && Save());
 }
 
+void PictureFiles::FilesMoved(const WhereNow& now) {
+  recent_.Follow(now);
+  with_.display.FilesMoved(now);
+  if (!document_.file.HasFile()) return;
+  document_.file = SetFileParameters(now(document_.file.CurrentFilePath));
+  with_.display.ShowFile(document_.file);
+}
+
 void PictureFiles::ThinBackups() {
   app::Guarded(with_.log, "MDIFormMenu_ThinBackups", [this] {
     Backups(with_.folders, with_.clock).Thin(app::ReadNumber(with_.settings, kKeepBackupsDays, 0, kMostBackupDays));

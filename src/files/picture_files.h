@@ -70,6 +70,9 @@ class PictureFiles {
   // True when the program may end: nothing is unsaved, or the user saved it or gave it up.
   bool MayClose();
 
+  // Files of pictures have other paths now: the current file, the recent list and the display go along with them.
+  void FilesMoved(const WhereNow& now);
+
   // Removes backups that nobody would miss, as the settings say.
   void ThinBackups();
 

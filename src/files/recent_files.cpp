@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "app/path_text.h"
 
@@ -30,6 +31,17 @@ std::vector<std::filesystem::path> RecentFiles::Paths() const {
 void RecentFiles::Add(const std::filesystem::path& path) {
   std::vector<std::filesystem::path> paths = Paths();
   if (std::find(paths.begin(), paths.end(), path) == paths.end()) paths.insert(paths.begin(), path);
+  Write(std::move(paths));
+}
+
+void RecentFiles::Follow(const WhereNow& now) {
+  std::vector<std::filesystem::path> paths = Paths();
+  for (std::filesystem::path& path : paths) path = now(path);
+  std::erase(paths, std::filesystem::path());
+  Write(std::move(paths));
+}
+
+void RecentFiles::Write(std::vector<std::filesystem::path> paths) {
   paths.resize(kMost);
   for (std::size_t i = 0; i < kPlaces.size(); ++i) settings_.Write(kPlaces[i], app::TextFromPath(paths[i]));
 }

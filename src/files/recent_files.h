@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "app/settings_store.h"
+#include "files/current_file.h"
 
 namespace kelvo::files {
 
@@ -20,7 +21,12 @@ class RecentFiles {
   // A path that is in the list keeps its place; a new one goes to the front, and the last of five drops out.
   void Add(const std::filesystem::path& path);
 
+  // Files have other paths now; those that are gone drop out.
+  void Follow(const WhereNow& now);
+
  private:
+  void Write(std::vector<std::filesystem::path> paths);
+
   app::SettingsStore& settings_;
 };
 

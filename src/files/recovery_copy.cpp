@@ -50,8 +50,9 @@ void RecoveryFiles::RemoveSteps() const {
 
 void RecoveryCopy::Keep(Time now) {
   if (!document_.HasUnsavedWork()) return Remove();
-  if (last_try_ && now - *last_try_ < kBetweenCopies) return;
-  if (written_ == document_.picture) return;
+  const bool is_moved = written_ && written_for_ != document_.file.CurrentFilePath;
+  if (!is_moved && last_try_ && now - *last_try_ < kBetweenCopies) return;
+  if (!is_moved && written_ == document_.picture) return;
   last_try_ = now;
   KeepNow();
 }
@@ -64,6 +65,7 @@ void RecoveryCopy::KeepNow() {
       place.is_used = true;
       Write(place.files);
       written_ = document_.picture;
+      written_for_ = document_.file.CurrentFilePath;
       return RemoveBut(&place);
     } catch (const app::FileError& error) {
       why = error.what();

@@ -38,9 +38,9 @@ class RecoveryCopy {
   // Another place for the copy, for when it cannot be written to those that were added before.
   void AddPlace(RecoveryFiles files) { places_.push_back({std::move(files)}); }
 
-  // Brings the copy up to date: writes unsaved work at once when it begins, then at most once a minute while it
-  // changes, and removes the copy of work that was saved or thrown away. Cheap enough to be called often. Throws
-  // app::FileError when the copy could be written nowhere; the next try is a minute later.
+  // Brings the copy up to date: writes unsaved work at once when it begins and when its file gets another name, then at
+  // most once a minute while it changes, and removes the copy of work that was saved or thrown away. Cheap enough to be
+  // called often. Throws app::FileError when the copy could be written nowhere; the next try is a minute later.
   void Keep(Time now);
   // The same at once, when the program has to end.
   void KeepNow();
@@ -61,6 +61,7 @@ class RecoveryCopy {
   const Document& document_;
   std::vector<Place> places_;
   std::optional<model::PictureImage> written_;  // what the copy holds; empty where there is none
+  std::filesystem::path written_for_;           // the file it belongs to
   std::optional<Time> last_try_;
 };
 

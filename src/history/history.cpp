@@ -78,6 +78,25 @@ void History::Saved() {
   KeepCurrent();
 }
 
+void History::FilesMoved(const files::WhereNow& now) {
+  std::map<std::filesystem::path, Kept> kept;
+  for (auto& [path, state] : kept_) {
+    if (auto there = now(path); !there.empty()) kept.emplace(std::move(there), std::move(state));
+  }
+  kept_ = std::move(kept);
+  std::vector<bool> is_moved;
+  for (Opened& opened : opened_) {
+    const std::filesystem::path before = opened.file.CurrentFilePath, after = now(before);
+    is_moved.push_back(before != after);
+    if (is_moved.back()) opened.file = {after, files::NameOfPath(after.empty() ? before : after)};
+  }
+  for (StepId step = 0; step < Count(); ++step) {
+    const std::size_t opened = FactsOf(step).opened;
+    if (is_moved[opened]) Tell(kAmendment, step, {});
+    is_moved[opened] = false;
+  }
+}
+
 // Saving signs the picture: bytes that nobody sees change without an action.
 void History::Amend() {
   const app::Bytes delta = Difference(current_.Shown(), StateOf(document_.picture));

@@ -27,6 +27,8 @@ class History {
   bool Record(std::string_view caption);
   // Another picture took the document's place: a step in any case.
   void Open(std::string_view caption);
+  // Files have other paths now. Steps of one that is gone have none any more.
+  void FilesMoved(const files::WhereNow& now);
   // The document was saved: its file holds the current step now.
   void Saved();
 

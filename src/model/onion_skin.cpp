@@ -3,44 +3,51 @@
 #include <algorithm>
 
 #include "model/cell_palette.h"
-#include "model/mix_quarter.h"
+#include "model/mix_colours.h"
 #include "model/pixel_place.h"
 
 namespace kelvo::model {
 namespace {
 
-void MixInto(const Rect& box, std::uint32_t colour, Surface& surface) {
+void MixInto(const Rect& box, std::uint32_t colour, int quarters, Surface& surface) {
   for (int y = box.y; y < box.y + box.height; ++y) {
     std::uint32_t* row = surface.Row(y) + box.x;
-    std::transform(row, row + box.width, row, [&](std::uint32_t under) { return MixQuarter(under, colour); });
+    std::transform(row, row + box.width, row,
+                   [&](std::uint32_t under) { return MixQuarters(under, colour, quarters); });
   }
+}
+
+// What a cell of all the pictures looks like, of which there is at least one.
+CellPixels PixelsOfSkin(const OnionSkin& skin, int cell) {
+  CellPixels pixels = PixelsOfCell(skin.pictures.front(), cell);
+  if (skin.pictures.size() == 1) return pixels;
+  const CellPixels others = PixelsOfCell(skin.pictures.back(), cell);
+  std::transform(pixels.begin(), pixels.end(), others.begin(), pixels.begin(), MixHalf);
+  return pixels;
 }
 
 }  // namespace
 
-void MixOnionSkin(const PictureImage& other, const ZoomArea& area, Surface& surface) {
-  for (int cell = 1; cell <= PictureImage::kCells; ++cell) MixOnionSkinCell(other, cell, area, surface);
+void MixOnionSkin(const OnionSkin& skin, const ZoomArea& area, Surface& surface) {
+  for (int cell = 1; cell <= PictureImage::kCells; ++cell) MixOnionSkinCell(skin, cell, area, surface);
 }
 
-void MixOnionSkinCell(const PictureImage& other, int cell, const ZoomArea& area, Surface& surface) {
-  if (!area.ShowsCell(cell)) return;
-  const CellPalette palette = PaletteOfCell(other, cell);
+void MixOnionSkinCell(const OnionSkin& skin, int cell, const ZoomArea& area, Surface& surface) {
+  if (skin.pictures.empty() || !area.ShowsCell(cell)) return;
   const Rect at = area.CellRect(cell);
-  const std::uint8_t* bytes = &other.Bitmap[static_cast<std::size_t>(BaseOfCell(cell) + 1)];
-  for (int line = 0; line < 8; ++line) {
-    for (int position = 1; position <= 4; ++position) {
-      const Rect box{at.x + (position - 1) * area.BoxWidth(), at.y + line * area.BoxHeight(), area.BoxWidth(),
-                     area.BoxHeight()};
-      MixInto(box, PixelIn(palette, bytes[line], position), surface);
-    }
+  Rect box{at.x, at.y, area.BoxWidth(), area.BoxHeight()};
+  for (const std::uint32_t colour : PixelsOfSkin(skin, cell)) {
+    MixInto(box, colour, skin.quarters, surface);
+    box.x += box.width;
+    if (box.x == at.x + at.width) box = {at.x, box.y + box.height, box.width, box.height};
   }
 }
 
-void MixOnionSkinPixel(const PictureImage& other, int x, int y, const ZoomArea& area, Surface& surface) {
-  if (!area.ShowsPixel(x, y)) return;
+void MixOnionSkinPixel(const OnionSkin& skin, int x, int y, const ZoomArea& area, Surface& surface) {
+  if (skin.pictures.empty() || !area.ShowsPixel(x, y)) return;
   const PixelPlace place = LookUpPixel(x, y);
-  const std::uint8_t byte = other.Bitmap[static_cast<std::size_t>(place.byte)];
-  MixInto(area.PixelRect(x, y), PixelIn(PaletteOfCell(other, place.cell), byte, place.position), surface);
+  const CellPixels pixels = PixelsOfSkin(skin, place.cell);
+  MixInto(area.PixelRect(x, y), pixels[PixelInCell(place.line, place.position)], skin.quarters, surface);
 }
 
 }  // namespace kelvo::model

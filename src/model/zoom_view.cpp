@@ -4,7 +4,7 @@
 
 #include "model/cell_palette.h"
 #include "model/full_view.h"
-#include "model/mix_quarter.h"
+#include "model/mix_colours.h"
 #include "model/palette.h"
 #include "model/pixel_place.h"
 

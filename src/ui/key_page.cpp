@@ -10,6 +10,7 @@
 #include "ui/menu_table.h"
 #include "ui/ports/qt_text.h"
 #include "ui/widgets/swatch_button.h"
+#include "ui/windows/frame_deeds.h"
 #include "ui/windows/import_keys.h"
 
 namespace kelvo::ui {
@@ -75,12 +76,21 @@ QString ImportRows() {
   return rows;
 }
 
+QString FrameRows() {
+  QString rows;
+  for (const FrameDeedRow& row : kFrameDeeds) {
+    rows +=
+        Row(QKeySequence(row.key).toString(QKeySequence::NativeText), QString(row.text).remove('&') + ": " + row.tip);
+  }
+  return rows;
+}
+
 }  // namespace
 
 QString KeyPage(const QWidget& frame) {
   return Section("Menus", MenuRows(frame)) + Section("Tools", ToolRows()) + Section("Pens", PenRows()) +
          Section("Looking", ScrollRows()) + Section("Painting by keyboard, in the zoom window", KeyboardRows()) +
-         Section("Importing an image", ImportRows());
+         Section("Importing an image", ImportRows()) + Section("In the frame strip", FrameRows());
 }
 
 }  // namespace kelvo::ui

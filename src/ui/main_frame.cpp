@@ -6,6 +6,7 @@
 
 #include "app/path_text.h"
 #include "files/recovery_copy.h"
+#include "ui/desks/animation_choices.h"
 #include "ui/desks/animation_desk.h"
 #include "ui/desks/build_desk.h"
 #include "ui/desks/called_windows.h"
@@ -13,6 +14,7 @@
 #include "ui/desks/command_desk.h"
 #include "ui/desks/export_desk.h"
 #include "ui/desks/frame_choices.h"
+#include "ui/desks/frame_strip_desk.h"
 #include "ui/desks/history_desk.h"
 #include "ui/desks/import_desk.h"
 #include "ui/desks/painting_desk.h"
@@ -27,6 +29,7 @@
 #include "ui/ports/qt_text.h"
 #include "ui/step_keys.h"
 #include "ui/windows/frm_command.h"
+#include "ui/windows/frm_frames.h"
 #include "ui/windows/frm_history.h"
 #include "ui/windows/frm_what_if.h"
 #include "ui/windows/preferences.h"
@@ -65,6 +68,7 @@ MainFrame::MainFrame(const app::ProgramFolders& folders, app::SettingsStore& set
       zoom_(new frmZoom(document_.picture, this)),
       command_(new frmCommand(prompt_, this)),
       pens_(new frmPens(this)),
+      strip_(new frmFrames(settings, this)),
       Toolbar1_(new PaintToolBar(this)),
       menu_(*this),
       panels_(new StatusPanels(statusBar())),
@@ -82,6 +86,10 @@ MainFrame::MainFrame(const app::ProgramFolders& folders, app::SettingsStore& set
           PaintingWindows{*full_view_, *zoom_, *colors_, *pens_, *char_data_, *Toolbar1_})),
       cell_use_(std::make_unique<CellUseDesk>(document_, *full_view_, *zoom_, *colors_)),
       animation_(std::make_unique<AnimationDesk>(PictureSurroundings(), *this, *windows_, *full_view_, *zoom_)),
+      animation_choices_(std::make_unique<AnimationChoices>(
+          AnimationChoices::Menus{menu_.Menu(kPlayMenu), menu_.Menu(kOnionFramesMenu), menu_.Menu(kOnionStrengthMenu)},
+          settings, *animation_)),
+      frame_strip_(std::make_unique<FrameStripDesk>(PictureSurroundings(), *animation_, *strip_)),
       builds_(std::make_unique<BuildDesk>(PictureSurroundings(), *panels_, ports_->tools, this)),
       recovery_(std::make_unique<RecoveryDesk>(PictureSurroundings(), slot_)),
       history_(std::make_unique<HistoryDesk>(PictureSurroundings(), *desk_, StepsFile(folders_, slot_))),
@@ -132,6 +140,10 @@ void MainFrame::PictureSaved() {
   history_->PictureSaved();
 }
 
+void MainFrame::FilesMoved(const files::WhereNow& now) {
+  history_->FilesMoved(now);
+}
+
 void MainFrame::MakeChildren() {
   steps_ = new frmHistory(history_->Steps(), this);
   windows_->Add(ChildWindowId::kFullView, full_view_);
@@ -141,6 +153,7 @@ void MainFrame::MakeChildren() {
   windows_->Add(ChildWindowId::kPrompt, command_);
   windows_->Add(ChildWindowId::kZoom, zoom_);
   windows_->Add(ChildWindowId::kHistory, steps_);
+  windows_->Add(ChildWindowId::kFrames, strip_);
 }
 
 void MainFrame::ArrangeWindows() {

@@ -14,6 +14,7 @@
 
 namespace kelvo::ui {
 
+class AnimationChoices;
 class AnimationDesk;
 class BuildDesk;
 class CalledWindows;
@@ -21,6 +22,7 @@ class CellUseDesk;
 class CommandDesk;
 class ExportDesk;
 class FrameChoices;
+class FrameStripDesk;
 class HistoryDesk;
 class ImportDesk;
 class PaletteDesk;
@@ -33,6 +35,7 @@ class frmBMPView;
 class frmCharData;
 class frmColors;
 class frmCommand;
+class frmFrames;
 class frmHistory;
 class frmPens;
 class frmZoom;
@@ -110,6 +113,7 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   void ShowFile(const files::CurrentFile& file) override;
   void PictureReplaced() override;
   void PictureSaved() override;
+  void FilesMoved(const files::WhereNow& now) override;
   void MakeChildren();
   void ConnectChildren();
   void ConnectChoices();
@@ -142,6 +146,7 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   frmCommand* command_;
   frmPens* pens_;
   frmHistory* steps_ = nullptr;
+  frmFrames* strip_;
   PaintToolBar* Toolbar1_;
   MainMenu menu_;
   StatusPanels* panels_;
@@ -155,6 +160,8 @@ class MainFrame : public QMainWindow, private files::FileDisplay {
   std::unique_ptr<PaintingDesk> desk_;
   std::unique_ptr<CellUseDesk> cell_use_;
   std::unique_ptr<AnimationDesk> animation_;
+  std::unique_ptr<AnimationChoices> animation_choices_;
+  std::unique_ptr<FrameStripDesk> frame_strip_;
   std::unique_ptr<BuildDesk> builds_;
   std::unique_ptr<RecoveryDesk> recovery_;
   std::unique_ptr<HistoryDesk> history_;

@@ -6,6 +6,7 @@
 #include "ui/desks/cell_use_desk.h"
 #include "ui/desks/export_desk.h"
 #include "ui/desks/frame_choices.h"
+#include "ui/desks/frame_strip_desk.h"
 #include "ui/desks/history_desk.h"
 #include "ui/desks/painting_desk.h"
 #include "ui/desks/palette_desk.h"
@@ -51,7 +52,7 @@ void MainFrame::ConnectAnimation() {
   connect(animation_.get(), &AnimationDesk::CheckMarkChanged, this, &MainFrame::RefreshMenus);
   connect(animation_.get(), &AnimationDesk::StatusChanged, this,
           [this](const QString& text) { panels_->Show(StatusPanel::kAnimation, text); });
-  connect(releases_.get(), &ReleaseDesk::PlaybackChanged, animation_.get(), &AnimationDesk::PlaybackChanged);
+  connect(releases_.get(), &ReleaseDesk::PlayingChanged, animation_.get(), &AnimationDesk::PlayingChanged);
   connect(animation_.get(), &AnimationDesk::Word, this, [this](const QString& word) { panels_->Tell(FromQt(word)); });
   connect(animation_.get(), &AnimationDesk::KeyReleased, this, [this](QKeyEvent* event) {
     if (event->key() != Qt::Key_Escape || builds_->IsBuilding()) return keyReleaseEvent(event);
@@ -84,6 +85,7 @@ void MainFrame::ConnectPalette() {
     views_->PictureChanged();
     desk_->ShowColours();
     steps_->StartAfresh();
+    frame_strip_->StartAfresh();
     for (QWidget* widget : findChildren<QWidget*>()) widget->update();
   });
 }

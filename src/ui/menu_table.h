@@ -16,6 +16,9 @@ inline constexpr const char* kBackgroundMenu = "mnuBG";
 inline constexpr const char* kGridMenu = "mnuGrid";
 inline constexpr const char* kBorderMenu = "mnuZB";
 inline constexpr const char* kPaletteMenu = "mnuPalette";
+inline constexpr const char* kPlayMenu = "mnuPlay";
+inline constexpr const char* kOnionFramesMenu = "mnuOnionFrames";
+inline constexpr const char* kOnionStrengthMenu = "mnuOnionStrength";
 inline constexpr const char* kFullViewMenu = "mnuFullViewScale";
 
 struct MenuRow {

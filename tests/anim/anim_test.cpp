@@ -269,23 +269,32 @@ TEST_F(FramesTest, OneFileCountsWhereSeveralDifferInCase) {
 TEST_F(FramesTest, ThePreviewKeepsItsPaceWhateverTheViewDoes) {
   WriteFrames({1, 2, 3, 4, 5});
   support::WriteFile(File(4), {});
-  const std::array<int, 4> seeds{1, 2, 3, 5};
   frames.Refresh();
   std::mt19937 random(3);
-  for (const int rate : {1, 7, 24, 25}) {
-    FramePlayer player(frames.Row().ReadablePaths(), rate);
-    std::int64_t shown = -1;
-    for (milliseconds now{0}; now < milliseconds{20000}; now += milliseconds(random() % 90)) {
-      const std::int64_t turn = now.count() * rate / 1000;
-      const auto* picture = player.Due(now);
-      ASSERT_EQ(picture ? picture->Bitmap[1] : 0, turn == shown ? 0 : seeds[static_cast<std::size_t>(turn % 4)]);
-      if (random() % 2 == 0) player.ReadAhead();
-      shown = turn;
-      const milliseconds next = now + player.UntilNext(now);
-      ASSERT_EQ(next.count() * rate / 1000, turn + 1);
-      ASSERT_EQ((next.count() - 1) * rate / 1000, turn);
+  const std::vector<int> once{1, 2, 3, 5, 5, 5, 5, 5};  // in turn, and from the first one on again
+  for (const auto& [playing, seeds] : {std::pair{Playing::kRound, std::vector<int>{1, 2, 3, 5}},
+                                       {Playing::kToAndFro, {1, 2, 3, 5, 3, 2}},
+                                       {Playing::kOnce, once}}) {
+    for (const int rate : {1, 7, 24, 25}) {
+      FramePlayer player(frames.Row().ReadablePaths(), rate, files::Reading::kDocumented, playing);
+      std::int64_t shown = -1;
+      const milliseconds end{playing == Playing::kOnce ? 8000 / rate - 100 : 20000};
+      for (milliseconds now{0}; now < end; now += milliseconds(random() % 90)) {
+        const std::int64_t turn = now.count() * rate / 1000;
+        const auto* picture = player.Due(now);
+        ASSERT_EQ(picture ? picture->Bitmap[1] : 0,
+                  turn == shown ? 0 : seeds[static_cast<std::size_t>(turn) % seeds.size()]);
+        if (random() % 2 == 0) player.ReadAhead();
+        shown = turn;
+        ASSERT_EQ(player.IsOver(now), playing == Playing::kOnce && turn >= 4);
+        const milliseconds next = now + player.UntilNext(now);
+        ASSERT_EQ(next.count() * rate / 1000, turn + 1);
+        ASSERT_EQ((next.count() - 1) * rate / 1000, turn);
+      }
     }
   }
+  FramePlayer alone({File(1)}, 25, files::Reading::kDocumented, Playing::kToAndFro);
+  for (const int turn : {0, 1, 2}) ASSERT_EQ(alone.Due(milliseconds(turn * 40))->Bitmap[1], 1);
   FramePlayer player(frames.Row().ReadablePaths(), 25);
   fs::remove_all(folder / "a");
   EXPECT_EQ(player.Due(milliseconds(0)), nullptr);

@@ -56,6 +56,9 @@ TEST_F(RecoveryCopyTest, KnowsItsFileAndGoesWithTheWork) {
   Paint(1);
   copy.Keep(now);
   EXPECT_EQ(recovery.Read()->file.CurrentFilePath, "/art/\u00e4 b.kvp");
+  document.file = SetFileParameters("b.kvp");  // it was renamed
+  copy.Keep(now);
+  EXPECT_EQ(recovery.Read()->file.CurrentFilePath, "b.kvp");
   document.kept = document.picture;  // as a save does
   copy.Keep(now);
   EXPECT_FALSE(exists(recovery.picture) || exists(recovery.name));

@@ -136,6 +136,20 @@ TEST(History, KnowsWhichStepItsFileHolds) {
   EXPECT_EQ(document.file.CurrentFileName, "c");
   EXPECT_TRUE(document.HasUnsavedWork());
   EXPECT_EQ(history.After(first), second);
+
+  history.FilesMoved([](const std::filesystem::path& path) { return path == "c" ? "b" : path == "b" ? "c" : path; });
+  History restored(document);
+  restored.Restore(history.TakeNews());
+  for (const auto& [step, name] : {std::pair{third, "b"}, {opened, "c"}}) {
+    go(step);
+    EXPECT_EQ(document.file.CurrentFilePath, name);
+    EXPECT_EQ(document.HasUnsavedWork(), step == third);
+    EXPECT_EQ(restored.FileOf(step).CurrentFilePath, name);
+  }
+  history.FilesMoved([](const std::filesystem::path& path) { return path == "c" ? std::filesystem::path() : path; });
+  go(opened);
+  EXPECT_FALSE(document.file.HasFile());
+  EXPECT_TRUE(document.HasUnsavedWork());
 }
 
 }  // namespace

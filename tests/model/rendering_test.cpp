@@ -69,9 +69,9 @@ Surface Drawn(const PictureImage& picture, const ZoomArea& area) {
   return surface;
 }
 
-Surface DrawnThrough(const PictureImage& picture, const PictureImage& other, const ZoomArea& area) {
+Surface DrawnThrough(const PictureImage& picture, const OnionSkin& skin, const ZoomArea& area) {
   Surface surface = Drawn(picture, area);
-  MixOnionSkin(other, area, surface);
+  MixOnionSkin(skin, area, surface);
   return surface;
 }
 
@@ -139,20 +139,25 @@ TEST(ZoomView, ShowsEachPixelAsABoxUnderTheGrid) {
   }
 }
 
-TEST(OnionSkin, GivesAQuarterToTheOtherPicture) {
+TEST(OnionSkin, GivesOneToThreeQuartersToTheOtherPictures) {
   const PictureImage white{.BackgroundColour = C64Colour::FromByte(1)}, black;
   const ZoomArea area = AreaAt(4);
   const Rect box = area.PixelRect(100, 150);
-  const auto mixed = [&](const PictureImage& picture, const PictureImage& other) {
-    return DrawnThrough(picture, other, area).At(box.x + 1, box.y + 1);
+  const auto mixed = [&](const PictureImage& picture, const OnionSkin& skin) {
+    return DrawnThrough(picture, skin, area).At(box.x + 1, box.y + 1);
   };
-  EXPECT_EQ(mixed(white, black), 0xFFC0C0C0U);
-  EXPECT_EQ(mixed(black, white), 0xFF3F3F3FU);
-  EXPECT_EQ(mixed(white, white), 0xFFFFFFFFU);
+  EXPECT_EQ(mixed(white, {{black}}), 0xFFC0C0C0U);
+  EXPECT_EQ(mixed(black, {{white}}), 0xFF3F3F3FU);
+  EXPECT_EQ(mixed(black, {{white}, 2}), 0xFF7F7F7FU);
+  EXPECT_EQ(mixed(black, {{white}, 3}), 0xFFC0C0C0U);
+  EXPECT_EQ(mixed(black, {{white, black}, 2}), 0xFF404040U);
+  EXPECT_EQ(mixed(white, {{white, white}, 3}), 0xFFFFFFFFU);
+  EXPECT_EQ(mixed(white, {}), 0xFFFFFFFFU);
 }
 
 TEST(ZoomView, OneCellOrOnePixelDrawnAnewWithItsOnionSkinEqualsTheWholeDrawnAnew) {
-  const PictureImage before = support::RandomPicture(4), other = support::RandomPicture(2);
+  const PictureImage before = support::RandomPicture(4);
+  const OnionSkin other{{support::RandomPicture(2), support::RandomPicture(5)}, 3};
   for (const int magnification : {4, 8}) {
     PictureImage after = before;
     const ZoomArea area = AreaAt(magnification);

@@ -131,8 +131,10 @@ class RecordingDisplay final : public files::FileDisplay {
   void ShowFile(const files::CurrentFile& file) override { title = files::WindowTitle(file); }
   void PictureReplaced() override { ++replaced; }
   void PictureSaved() override { ++saved; }
+  void FilesMoved(const files::WhereNow& now) override { where_now = now(followed); }
   std::string title;
   int replaced = 0, saved = 0;
+  std::filesystem::path followed, where_now;  // a file's path, and the one that it was moved to last
 };
 
 struct Program {

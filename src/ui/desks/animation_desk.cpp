@@ -27,7 +27,7 @@ AnimationDesk::AnimationDesk(const files::PictureSurroundings& with, QMainWindow
 
 void AnimationDesk::ShowProperties() {
   frmAnimProperties(with_.settings, &frame_).exec();
-  if (frame_window_ != nullptr) ShowFrame();
+  ShowFrame();
 }
 
 void AnimationDesk::ShowCheckMark(bool) {
@@ -49,17 +49,15 @@ void AnimationDesk::MakeFrameWindow() {
   windows_.Floating().Place(*frame_window_, ReadFrameWindowPlace(with_.settings));
   frame_window_->SetPlayRate(anim::ReadPlayRate(with_.settings));
   frame_window_->SetOnionSkin(anim::ReadOnionSkin(with_.settings));
-  connect(frame_window_, &frmAnim::MoveAsked, this, [this](anim::FrameMove move) {
-    StopPlay();
-    Move([this, move] { return navigation_.Move(move); });
-  });
+  connect(frame_window_, &frmAnim::MoveAsked, this,
+          [this](anim::FrameMove move) { Change([this, move] { return navigation_.Move(move); }); });
   connect(frame_window_, &frmAnim::NumberTyped, this,
           [this](const QString& number) { Move([&] { return navigation_.GoTo(FromQt(number)); }); });
   connect(frame_window_, &frmAnim::PlayAsked, this, &AnimationDesk::TogglePlay);
   connect(frame_window_, &frmAnim::PlayWindowAsked, this, &AnimationDesk::ShowPlayWindow);
   connect(frame_window_, &frmAnim::PlayRateChanged, this, [this](int rate) {
     anim::KeepPlayRate(with_.settings, rate);
-    if (player_) StartPlay();
+    PlayingChanged();
   });
   connect(frame_window_, &frmAnim::OnionSkinChanged, this, [this](bool on) {
     anim::KeepOnionSkin(with_.settings, on);
@@ -71,7 +69,7 @@ void AnimationDesk::MakeFrameWindow() {
     delete play_window_;
     frame_window_->disconnect(this);  // until it is deleted it may be closed again
     std::exchange(frame_window_, nullptr)->deleteLater();
-    zoom_.SetOnionSkin(std::nullopt);
+    zoom_.SetOnionSkin({});
     KeepFrameWindowPlace(with_.settings, at);
     mode_.FrameWindowUnloaded();
   });
@@ -85,26 +83,63 @@ void AnimationDesk::Move(const std::function<std::string()>& move) {
   const QScopedValueRollback moving(is_moving_, true);
   const std::string word = move();
   if (!word.empty()) emit Word(ToQt(word));
-  if (frame_window_ != nullptr) ShowFrame();
+  ShowFrame();
 }
 
-void AnimationDesk::PlaybackChanged() {
-  if (frame_window_ != nullptr) frame_window_->SetPlayRate(anim::ReadPlayRate(with_.settings));
+void AnimationDesk::GoTo(int number) {
+  Change([this, number] { return navigation_.GoTo(std::to_string(number)); });
+}
+
+void AnimationDesk::Change(const std::function<std::string()>& change) {
+  StopPlay();
+  Move(change);
 }
 
 void AnimationDesk::FileChanged() {
-  if (frame_window_ != nullptr && !is_moving_) ShowFrame();
+  if (!is_moving_) ShowFrame();
 }
 
 void AnimationDesk::ShowFrame() {
-  navigation_.Refresh();
-  const auto current = navigation_.CurrentFrame();
-  frame_window_->ShowFrame(current ? QString::number(*current) : QString(), navigation_.Row().Count());
-  ShowOnionSkin();
+  if (frame_window_ != nullptr || tints_changes_) navigation_.Refresh();
+  if (frame_window_ != nullptr) {
+    const auto current = navigation_.CurrentFrame();
+    frame_window_->ShowFrame(current ? QString::number(*current) : QString(), navigation_.Row().Count());
+    ShowOnionSkin();
+  }
+  ShowChangedCells();
+  emit FrameShown();
 }
 
 void AnimationDesk::ShowOnionSkin() {
-  zoom_.SetOnionSkin(anim::ReadOnionSkin(with_.settings) ? navigation_.PictureBefore() : std::nullopt);
+  if (frame_window_ == nullptr) return;
+  const anim::OnionFrames frames = anim::ReadOnionFrames(with_.settings);
+  model::OnionSkin skin{{}, anim::ReadOnionStrength(with_.settings)};
+  const auto add = [&skin](const std::optional<model::PictureImage>& picture) {
+    if (picture) skin.pictures.push_back(*picture);
+  };
+  if (anim::ReadOnionSkin(with_.settings)) {
+    if (frames != anim::OnionFrames::kAfter) add(navigation_.PictureBefore());
+    if (frames != anim::OnionFrames::kBefore) add(navigation_.PictureAfter());
+  }
+  zoom_.SetOnionSkin(std::move(skin));
+}
+
+void AnimationDesk::ToggleChangedCells() {
+  tints_changes_ = !tints_changes_;
+  ShowFrame();
+  if (!tints_changes_) zoom_.ShowChangesFrom(std::nullopt);
+}
+
+// A picture that is no frame has none before it.
+void AnimationDesk::ShowChangedCells() {
+  if (tints_changes_) {
+    zoom_.ShowChangesFrom(navigation_.CurrentFrame() ? navigation_.PictureBefore() : std::nullopt);
+  }
+}
+
+void AnimationDesk::PlayingChanged() {
+  if (frame_window_ != nullptr) frame_window_->SetPlayRate(anim::ReadPlayRate(with_.settings));
+  if (player_) StartPlay();
 }
 
 // The frames play in it as well, from now on; it stays when they stop.
@@ -127,7 +162,8 @@ void AnimationDesk::TogglePlay() {
 // From the first frame on, also while frames are playing already.
 void AnimationDesk::StartPlay() {
   navigation_.Refresh();
-  player_.emplace(navigation_.Row().ReadablePaths(), frame_window_->PlayRate(), files::ReadingBy(with_.settings));
+  player_.emplace(navigation_.Row().ReadablePaths(), frame_window_->PlayRate(), files::ReadingBy(with_.settings),
+                  anim::ReadPlaying(with_.settings));
   if (player_->IsEmpty()) {
     StopPlay();
     emit Word(anim::kNoFrames);
@@ -148,6 +184,7 @@ void AnimationDesk::StopPlay() {
 
 void AnimationDesk::PlayTurn() {
   const auto now = [this] { return anim::FramePlayer::Milliseconds(playing_since_.elapsed()); };
+  if (player_->IsOver(now())) return StopPlay();
   if (const model::PictureImage* picture = player_->Due(now())) ShowTurn(*picture);
   player_->ReadAhead();
   turn_.start(player_->UntilNext(now()));

@@ -35,12 +35,24 @@ class AnimationDesk : public QObject, private anim::AnimDisplay {
   QWidget* FrameWindow() const { return frame_window_; }
   // Closes the frame window, if there is one; its place is kept.
   void UnloadFrameWindow() override;
-  // The settings may say anew how animations are played.
-  void PlaybackChanged();
   // The current file, or what is in it, may be another one now.
   void FileChanged();
 
+  // Goes to a frame, or changes the frames; the word that comes of it is told. What plays stops.
+  void GoTo(int number);
+  void Change(const std::function<std::string()>& change);
+  anim::FrameNavigation& Navigation() { return navigation_; }
+
+  // Cells of a frame that look otherwise than in the frame before are tinted in the zoom window; off at first.
+  bool TintsChangedCells() const { return tints_changes_; }
+  void ToggleChangedCells();
+
+  // The settings say otherwise than before what shines through, or how frames play.
+  void ShowOnionSkin();
+  void PlayingChanged();
+
  signals:
+  void FrameShown();  // another file is the current one, or frames are others
   void CheckMarkChanged();
   void StatusChanged(const QString& text);  // "ANIM=ON", "ANIM=OFF"
   void KeyReleased(QKeyEvent* event);       // in the frame window, which has no use for it
@@ -54,7 +66,7 @@ class AnimationDesk : public QObject, private anim::AnimDisplay {
   void MakeFrameWindow();
   void Move(const std::function<std::string()>& move);
   void ShowFrame();
-  void ShowOnionSkin();
+  void ShowChangedCells();
   void ShowPlayWindow();
   void ShowTurn(const model::PictureImage& picture);
   void TogglePlay();
@@ -71,7 +83,8 @@ class AnimationDesk : public QObject, private anim::AnimDisplay {
   anim::FrameNavigation navigation_;
   frmAnim* frame_window_ = nullptr;
   QPointer<frmPlayer> play_window_;  // it deletes itself when it closes
-  bool is_moving_ = false;           // from frame to frame: the files that are opened and saved are those of the move
+  bool tints_changes_ = false;
+  bool is_moving_ = false;  // from frame to frame: the files that are opened and saved are those of the move
 
   std::optional<anim::FramePlayer> player_;
   QElapsedTimer playing_since_;

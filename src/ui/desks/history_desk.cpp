@@ -52,6 +52,12 @@ void HistoryDesk::PictureSaved() {
   emit StepsChanged();
 }
 
+void HistoryDesk::FilesMoved(const files::WhereNow& now) {
+  history_.FilesMoved(now);
+  KeepSteps();
+  emit StepsChanged();
+}
+
 void HistoryDesk::StepBack() {
   Settle();
   GoTo(history_.Before(history_.Current()));

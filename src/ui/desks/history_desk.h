@@ -30,6 +30,7 @@ class HistoryDesk : public QObject, public ChangeWatcher {
   // Another picture takes the place of the one in memory; it is a step when it is shown.
   void PictureReplaced() { is_replaced_ = !is_walking_; }
   void PictureSaved();
+  void FilesMoved(const files::WhereNow& now);
 
   history::History& Steps() { return history_; }
   bool CanStepBack() const { return history_.Current() != 0 || is_changed_; }

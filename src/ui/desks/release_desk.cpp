@@ -31,7 +31,7 @@ BuildDesk::Build ReleaseDesk::AskForBuild(const c64out::CompoPicChoice& choice) 
     if (!SaveCurrentFrame()) return;
     auto release = ReleaseDialog(Frames(), with_.settings, window_).Ask();
     if (!release) return;
-    emit PlaybackChanged();
+    emit PlayingChanged();
     const auto shared = std::make_shared<const c64out::Release>(std::move(*release));
     build = [shared, choice](const c64out::BuildSurroundings& with) {
       return c64out::BuildAnimation(*shared, choice, with);
@@ -64,7 +64,7 @@ void ReleaseDesk::ExportGif() {
     dialog.AddPlayback(with_.settings);
     if (dialog.exec() != QDialog::Accepted) return;
     dialog.Playback()->Keep(with_.settings);
-    emit PlaybackChanged();
+    emit PlayingChanged();
     QFileDialog save(window_, "Export animation as GIF", StillThere(QtFromPath(frames.folder)), "*.gif");
     save.setAcceptMode(QFileDialog::AcceptSave);
     save.setDefaultSuffix("gif");

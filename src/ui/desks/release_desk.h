@@ -33,7 +33,7 @@ class ReleaseDesk : public QObject {
 
  signals:
   // The settings say anew how animations are played.
-  void PlaybackChanged();
+  void PlayingChanged();
 
  private:
   BuildDesk::Build AskForBuild(const c64out::CompoPicChoice& choice);

@@ -17,12 +17,13 @@ constexpr QSize kFirstCells(20, 18);  // that the zoom window shows then, at 4:1
 // From the top downwards; the prompt is hidden when windows are arranged, and has its place all the same.
 constexpr std::array kColumn{ChildWindowId::kFullView, ChildWindowId::kColors, ChildWindowId::kPens,
                              ChildWindowId::kCharData, ChildWindowId::kPrompt};
-constexpr std::array kSideWindows{ChildWindowId::kColors, ChildWindowId::kPens, ChildWindowId::kCharData,
-                                  ChildWindowId::kPrompt, ChildWindowId::kHistory};
+constexpr std::array kSideWindows{ChildWindowId::kColors, ChildWindowId::kPens,    ChildWindowId::kCharData,
+                                  ChildWindowId::kPrompt, ChildWindowId::kHistory, ChildWindowId::kFrames};
 
 WindowSize SizeOf(ChildWindowId id) {
   if (id == ChildWindowId::kZoom) return WindowSize::kFills;
-  return id == ChildWindowId::kPrompt || id == ChildWindowId::kHistory ? WindowSize::kFree : WindowSize::kFixed;
+  constexpr std::array kFree{ChildWindowId::kPrompt, ChildWindowId::kHistory, ChildWindowId::kFrames};
+  return std::find(kFree.begin(), kFree.end(), id) != kFree.end() ? WindowSize::kFree : WindowSize::kFixed;
 }
 
 }  // namespace
@@ -168,6 +169,7 @@ void WindowDesk::ArrangeIn(QSize room, int below) {
     child.setVisible(kColumn[i] != ChildWindowId::kPrompt);
   }
   HideHistoryAt(places.column.back(), places.column[places.column.size() - 2].top());
+  HideFramesOver(places.zoom);
 }
 
 // It shares the prompt's place, and takes that of Char data too where the prompt's is low.
@@ -176,6 +178,14 @@ void WindowDesk::HideHistoryAt(QRect place, int top_of_char_data) {
   if (place.height() < history.sizeHint().height()) place.setTop(top_of_char_data);
   history.setGeometry(place);
   history.hide();
+}
+
+// A row takes the lower edge of the zoom window.
+void WindowDesk::HideFramesOver(QRect zoom) {
+  ChildWindow& frames = Child(ChildWindowId::kFrames);
+  zoom.setTop(zoom.bottom() + 1 - frames.sizeHint().height());
+  frames.setGeometry(zoom);
+  frames.hide();
 }
 
 void WindowDesk::Arrange(QWidget* floating) {

@@ -16,8 +16,8 @@
 
 namespace kelvo::ui {
 
-enum class ChildWindowId { kFullView, kColors, kPens, kCharData, kPrompt, kZoom, kHistory };
-inline constexpr std::size_t kChildWindows = 7;
+enum class ChildWindowId { kFullView, kColors, kPens, kCharData, kPrompt, kZoom, kHistory, kFrames };
+inline constexpr std::size_t kChildWindows = 8;
 
 class WindowDesk : public QObject {
   Q_OBJECT
@@ -66,6 +66,7 @@ class WindowDesk : public QObject {
   QSize FirstSize() const;
   void ArrangeIn(QSize room, int below);
   void HideHistoryAt(QRect place, int top_of_char_data);
+  void HideFramesOver(QRect zoom);
   void RestoreChildren(QSize room);
   void ShowFullView(int scale, bool is_pal);
   void BringAllIntoReach();

@@ -1,4 +1,4 @@
-// Notices when another program changes the file of the picture.
+// Notices when another program changes a file or a folder.
 #pragma once
 
 #include <QFileSystemWatcher>
@@ -13,11 +13,11 @@ class FileWatch : public QObject {
  public:
   FileWatch();
 
-  // Watches the file at `path` instead of the one before; an empty text watches none.
+  // Watches the file or folder at `path` instead of the one before; an empty text watches none.
   void Follow(const QString& path);
 
  signals:
-  // Something happened to the file, and a moment has passed since. It may have been this program itself.
+  // Something happened to it, and a moment has passed since. It may have been this program itself.
   void Touched();
 
  private:

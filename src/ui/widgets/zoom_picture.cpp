@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "model/palette.h"
+#include "ui/widgets/cell_change_tint.h"
 #include "ui/widgets/cell_use_tint.h"
 #include "ui/widgets/ink.h"
 
@@ -54,6 +55,12 @@ void ZoomPicture::ShowCellUse(const model::PictureImage* picture) {
   Refresh();
 }
 
+void ZoomPicture::ShowChanges(const model::PictureImage& now, std::optional<model::PictureImage> before) {
+  now_ = &now;
+  before_ = std::move(before);
+  Refresh();
+}
+
 void ZoomPicture::PaintOverlay(QPainter& painter) {
   PaintCells(painter);
   PaintFlashes(painter);
@@ -62,9 +69,12 @@ void ZoomPicture::PaintOverlay(QPainter& painter) {
 }
 
 void ZoomPicture::PaintCells(QPainter& painter) const {
-  if (cell_use_ == nullptr) return;
+  if (cell_use_ == nullptr && !before_) return;
   for (int cell = 1; cell <= model::PictureImage::kCells; ++cell) {
-    if (area_.ShowsCell(cell)) PaintCellUse(painter, *cell_use_, cell, QtRect(area_.CellRect(cell)));
+    if (!area_.ShowsCell(cell)) continue;
+    const QRect place = QtRect(area_.CellRect(cell));
+    if (cell_use_ != nullptr) PaintCellUse(painter, *cell_use_, cell, place);
+    if (before_) PaintCellChange(painter, *before_, *now_, cell, place);
   }
 }
 

@@ -26,6 +26,9 @@ class ZoomPicture : public SurfaceView {
   void FlashCell(int cell, model::FullCellFate fate);  // 1..1000
   // Tints cells by what is free in `picture`; null: not.
   void ShowCellUse(const model::PictureImage* picture);
+  // Tints cells that look otherwise in `now`, which outlives the box, than in `before`; empty: not.
+  void ShowChanges(const model::PictureImage& now, std::optional<model::PictureImage> before);
+  bool ShowsChanges() const { return before_.has_value(); }
 
  protected:
   void PaintOverlay(QPainter& painter) override;
@@ -45,6 +48,8 @@ class ZoomPicture : public SurfaceView {
   model::C64Colour colour_;
   std::optional<model::PixelPoint> cursor_;
   const model::PictureImage* cell_use_ = nullptr;
+  const model::PictureImage* now_ = nullptr;
+  std::optional<model::PictureImage> before_;
   std::deque<Flash> flashes_;  // the oldest first, which ends first
 };
 

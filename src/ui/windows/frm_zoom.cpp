@@ -5,7 +5,7 @@
 #include <cmath>
 #include <utility>
 
-#include "model/onion_skin.h"
+#include "model/pixel_place.h"
 
 namespace kelvo::ui {
 namespace {
@@ -176,30 +176,34 @@ void frmZoom::ShowPreview(editing::Points points, model::C64Colour colour) {
   picStd_->ShowPreview(std::move(points), colour);
 }
 
-void frmZoom::SetOnionSkin(const std::optional<model::PictureImage>& other) {
-  if (!other && !onion_skin_) return;
-  onion_skin_ = other;
+void frmZoom::ShowChangesFrom(std::optional<model::PictureImage> before) {
+  picStd_->ShowChanges(picture_, std::move(before));
+}
+
+void frmZoom::SetOnionSkin(model::OnionSkin skin) {
+  if (skin.pictures.empty() && onion_skin_.pictures.empty()) return;
+  onion_skin_ = std::move(skin);
   DrawCapturePic();
 }
 
 void frmZoom::DrawCapturePic() {
   model::DrawCapturePic(picture_, area_, grid_, surface_);
-  if (onion_skin_) model::MixOnionSkin(*onion_skin_, area_, surface_);
+  model::MixOnionSkin(onion_skin_, area_, surface_);
   picStd_->Refresh();
 }
 
 void frmZoom::RedrawZoomChar(int cell) {
   if (!area_.ShowsCell(cell)) return;
   model::RedrawZoomChar(picture_, cell, area_, grid_, surface_);
-  if (onion_skin_) model::MixOnionSkinCell(*onion_skin_, cell, area_, surface_);
+  model::MixOnionSkinCell(onion_skin_, cell, area_, surface_);
   picStd_->Refresh(area_.CellRect(cell));
 }
 
 void frmZoom::PutZoomPixel(int x, int y) {
   if (!area_.ShowsPixel(x, y)) return;
   model::PutZoomPixel(picture_, x, y, area_, grid_, surface_);
-  if (onion_skin_) model::MixOnionSkinPixel(*onion_skin_, x, y, area_, surface_);
-  picStd_->Refresh(area_.PixelRect(x, y));
+  model::MixOnionSkinPixel(onion_skin_, x, y, area_, surface_);
+  picStd_->Refresh(picStd_->ShowsChanges() ? area_.CellRect(model::LookUpPixel(x, y).cell) : area_.PixelRect(x, y));
 }
 
 }  // namespace kelvo::ui

@@ -6,6 +6,7 @@
 
 #include "app/settings_store.h"
 #include "editing/shapes.h"
+#include "model/onion_skin.h"
 #include "model/picture_image.h"
 #include "model/surface.h"
 #include "model/zoom_area.h"
@@ -52,8 +53,11 @@ class frmZoom : public QWidget {
 
   void ShowCellUse(bool on) { picStd_->ShowCellUse(on ? &picture_ : nullptr); }
 
-  // Another picture shines through; none: empty.
-  void SetOnionSkin(const std::optional<model::PictureImage>& other);
+  // Tints the cells that look otherwise than in `before`; empty: none.
+  void ShowChangesFrom(std::optional<model::PictureImage> before);
+
+  // Other pictures shine through.
+  void SetOnionSkin(model::OnionSkin skin);
 
   void DrawCapturePic();
   void RedrawZoomChar(int cell);    // 1..1000
@@ -88,7 +92,7 @@ class frmZoom : public QWidget {
   model::ZoomArea area_;
   model::ZoomGrid grid_;
   model::ZoomBorderColour border_;
-  std::optional<model::PictureImage> onion_skin_;
+  model::OnionSkin onion_skin_;
   model::Surface surface_;
   ZoomPicture* picStd_;
   QPoint grip_;  // where a middle drag holds the picture: the surface pixel of its last whole step

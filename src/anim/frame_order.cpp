@@ -1,0 +1,166 @@
+#include "anim/frame_order.h"
+
+#include <algorithm>
+
+#include "app/path_text.h"
+#include "app/temporary_name.h"
+#include "app/whole_file.h"
+#include "files/backups.h"
+#include "files/picture_format.h"
+
+namespace kelvo::anim {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string Frame(int number) {
+  return "FRAME " + std::to_string(number);
+}
+
+// A file that is on its way into the row or out of it, and goes when it is still there in the end.
+class PassingFile {
+ public:
+  explicit PassingFile(const fs::path& folder) : path_(app::TemporaryName(folder)) {}
+  ~PassingFile() {
+    std::error_code ignored;
+    fs::remove(path_, ignored);
+  }
+  PassingFile(const PassingFile&) = delete;
+  PassingFile& operator=(const PassingFile&) = delete;
+
+  const fs::path& Path() const { return path_; }
+
+ private:
+  fs::path path_;
+};
+
+// Those that follow `number` in the row without a gap.
+std::vector<int> RunBehind(std::span<const int> numbers, int number) {
+  std::vector<int> run;
+  for (auto at = std::upper_bound(numbers.begin(), numbers.end(), number);
+       at != numbers.end() && *at == number + 1 + static_cast<int>(run.size()); ++at) {
+    run.push_back(*at);
+  }
+  return run;
+}
+
+}  // namespace
+
+std::vector<NumberChange> MovingFrame(std::span<const int> numbers, int from, int to) {
+  const auto [lowest, highest] = std::minmax(from, to);
+  const auto first = std::lower_bound(numbers.begin(), numbers.end(), lowest);
+  const std::vector<int> old(first, std::upper_bound(first, numbers.end(), highest));
+  std::vector<int> now = old;
+  std::rotate(now.begin(), from < to ? now.end() - 1 : now.begin() + 1, now.end());
+  std::vector<NumberChange> changes;
+  for (std::size_t i = 0; i < old.size() && from != to; ++i) changes.push_back({old[i], now[i]});
+  return changes;
+}
+
+std::optional<std::vector<NumberChange>> MakingRoom(std::span<const int> numbers, int number) {
+  const std::vector<int> run = RunBehind(numbers, number - 1);
+  if (number + static_cast<int>(run.size()) > kLastFrame) return std::nullopt;
+  std::vector<NumberChange> changes;
+  for (const int moved : run) changes.push_back({moved, moved + 1});
+  return changes;
+}
+
+std::vector<NumberChange> ClosingUp(std::span<const int> numbers, int number) {
+  std::vector<NumberChange> changes;
+  for (const int moved : RunBehind(numbers, number)) changes.push_back({moved, moved - 1});
+  return changes;
+}
+
+template <typename Change>
+std::string FrameOrder::Guard(const FrameRow& seen, Change&& change) {
+  if (ReadAnimProperties(with_.settings).folder.empty()) return "SET THE ANIMATION FOLDER FIRST";
+  navigation_.Refresh();
+  if (navigation_.Row() != seen) return "THE FOLDER HAS CHANGED: LOOK AGAIN";
+  std::string word;
+  app::Guarded(
+      with_.log, "MDIFormMenu_ChangeFrames", [&] { word = change(); },
+      [&](const std::exception& error) { word = std::string("NOT DONE: ") + error.what(); });
+  return word;
+}
+
+std::string FrameOrder::Move(const FrameRow& seen, int from, int to) {
+  if (from == to) return {};
+  return Guard(seen, [&] {
+    Renumber(MovingFrame(seen.Numbers(), from, to), {});
+    return Frame(from) + " IS FRAME " + std::to_string(to) + " NOW";
+  });
+}
+
+std::string FrameOrder::Insert(const FrameRow& seen, int number) {
+  return Guard(seen, [&] {
+    model::PictureImage picture = with_.document.picture;
+    files::Sign(picture);
+    return Add(number + 1, files::Encode(picture));
+  });
+}
+
+std::string FrameOrder::Duplicate(const FrameRow& seen, int number) {
+  if (navigation_.CurrentFrame() == number) return Insert(seen, number);
+  return Guard(seen, [&] {
+    const fs::path& path = seen.Path(number);
+    if (!HasPictureSize(path)) return Frame(number) + " IS NO PICTURE";
+    return Add(number + 1, app::ReadWholeFile(path, app::kMostBytesToCopy));
+  });
+}
+
+std::string FrameOrder::Add(int number, const app::Bytes& bytes) {
+  const FrameNames names = navigation_.Names();
+  const auto room = MakingRoom(navigation_.Row().Numbers(), number);
+  if (!room) return Frame(kLastFrame) + " IS THE LAST ONE";
+  const PassingFile fresh(names.Folder());
+  if (const std::error_code error = app::PlaceFile(fresh.Path(), bytes, {.must_be_new = true})) {
+    throw app::FileError(error.message() + ": " + app::TextFromPath(names.Folder()));
+  }
+  Renumber(*room, {fresh.Path().filename(), names.Path(number).filename()});
+  const std::string word = navigation_.GoTo(std::to_string(number));
+  return navigation_.CurrentFrame() == number ? Frame(number) + " IS NEW" : word;
+}
+
+std::string FrameOrder::Delete(const FrameRow& seen, int number) {
+  return Guard(seen, [&] {
+    if (navigation_.CurrentFrame() == number) {
+      const auto after = seen.ReadableAfter(number), neighbour = after ? after : seen.ReadableBefore(number);
+      if (!neighbour) return std::string("THE ONLY FRAME STAYS");
+      std::string word = navigation_.GoTo(std::to_string(*neighbour));
+      if (navigation_.CurrentFrame() != neighbour) return word;
+    }
+    const fs::path& file = seen.Path(number);
+    files::Backups(with_.folders, with_.clock)
+        .Keep(app::ReadWholeFile(file, app::kMostBytesToCopy), app::TextFromPath(file.filename()), "_deleted", ".kvp");
+    const PassingFile leaving(navigation_.Names().Folder());
+    Renumber(ClosingUp(seen.Numbers(), number), {file.filename(), leaving.Path().filename()});
+    return Frame(number) + " IS IN BACKUP";
+  });
+}
+
+// The numbers change in one step with the file that comes or goes.
+void FrameOrder::Renumber(const std::vector<NumberChange>& changes, const Renaming& passing) {
+  const FrameNames names = navigation_.Names();
+  const FrameRow before = navigation_.Row();
+  std::vector<Renaming> renamings;
+  if (!passing.from.empty()) renamings.push_back(passing);
+  for (const auto& [from, to] : changes) {
+    renamings.push_back({before.Path(from).filename(), names.Path(to).filename()});
+  }
+  RenameAll(names.Folder(), renamings, rename_);
+  const auto number_now = [&](int number) -> std::optional<int> {
+    const auto change = std::find_if(changes.begin(), changes.end(), [&](auto& one) { return one.from == number; });
+    if (change != changes.end()) return change->to;
+    const bool is_gone = before.Has(number) && before.Path(number).filename() == passing.from;
+    return is_gone ? std::nullopt : std::optional(number);
+  };
+  navigation_.FramesRenumbered(number_now);
+  with_.files.FilesMoved([&](const fs::path& path) {
+    const auto number = names.NumberOfPath(path);
+    const auto now = number ? number_now(*number) : std::nullopt;
+    if (number == now) return path;
+    return now ? names.Path(*now) : fs::path();
+  });
+}
+
+}  // namespace kelvo::anim
