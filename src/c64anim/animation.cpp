@@ -34,6 +34,11 @@ void Animation::Add(const model::PictureImage& frame, int fields) {
 }
 
 AnimationPlan Animation::Plan(Playing playing) const {
+  app::NoProgress nobody;
+  return Plan(playing, nobody);
+}
+
+AnimationPlan Animation::Plan(Playing playing, app::Progress& progress) const {
   if (fields_.empty()) throw std::runtime_error("The animation has no frames.");
   const std::vector<Step> steps = StepsOf(fields_, playing);
   std::vector<std::vector<Span>> changes = changes_;
@@ -41,7 +46,7 @@ AnimationPlan Animation::Plan(Playing playing) const {
   if (is_round) changes.push_back(SpansBetween(last_, first_));
   const std::size_t costing = changes.size();
   changes.resize(fields_.size() + 2);
-  const Placing placing(changes, steps, NextRound(steps, playing));
+  const Placing placing(changes, steps, NextRound(steps, playing), progress);
 
   AnimationPlan plan;
   plan.first_bytes = static_cast<int>(placing.Places().front().written.bytes.size());

@@ -6,6 +6,7 @@
 //   if (plan.Fits()) WriteWholeFile(path, plan.memory);   // what animplay.src takes
 #pragma once
 
+#include "app/long_work.h"
 #include "c64anim/animation_format.h"
 #include "c64anim/cells.h"
 #include "c64anim/changes.h"
@@ -52,6 +53,8 @@ class Animation {
   int Frames() const { return static_cast<int>(fields_.size()); }
   // Throws std::runtime_error when there is no frame, or more than there can be steps for.
   AnimationPlan Plan(Playing playing) const;
+  // The same with progress, which counts changes; what it throws ends the work.
+  AnimationPlan Plan(Playing playing, app::Progress& progress) const;
 
  private:
   SteadyCells steady_;

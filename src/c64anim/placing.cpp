@@ -34,7 +34,8 @@ Written AsTheyAre(std::vector<Span> spans) {
   return written;
 }
 
-Placing::Placing(std::span<const std::vector<Span>> changes, std::span<const Step> steps, std::size_t next_round)
+Placing::Placing(std::span<const std::vector<Span>> changes, std::span<const Step> steps, std::size_t next_round,
+                 app::Progress& progress)
     : changes_(changes), steps_(steps), next_round_(next_round), memory_(steps.size()) {
   places_.reserve(changes_.size());
   for (const std::vector<Span>& spans : changes_) places_.emplace_back().written = AsTheyAre(spans);
@@ -42,7 +43,9 @@ Placing::Placing(std::span<const std::vector<Span>> changes, std::span<const Ste
     const auto same = std::find(changes_.begin(), changes_.end(), changes_[change]) - changes_.begin();
     places_[change].first_same = static_cast<std::size_t>(same);
   }
+  const app::ProgressScope scope(progress, static_cast<int>(changes_.size()));
   for (std::size_t change = 0; change < changes_.size(); ++change) {
+    progress.Advance(static_cast<int>(change));
     const std::size_t same = places_[change].first_same;
     if (same == change) {
       Put(change);

@@ -5,6 +5,7 @@
 #include <span>
 #include <vector>
 
+#include "app/long_work.h"
 #include "c64anim/animation_memory.h"
 #include "c64anim/beam_race.h"
 #include "c64anim/packing.h"
@@ -24,8 +25,9 @@ Written AsTheyAre(std::vector<Span> spans);
 
 class Placing {
  public:
-  // `changes` are those that `steps` name, in their order; each is written once.
-  Placing(std::span<const std::vector<Span>> changes, std::span<const Step> steps, std::size_t next_round);
+  // `changes` are those that `steps` name, in their order; each is written once. Progress counts them.
+  Placing(std::span<const std::vector<Span>> changes, std::span<const Step> steps, std::size_t next_round,
+          app::Progress& progress);
 
   struct Place {
     Written written;

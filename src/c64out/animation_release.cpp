@@ -58,7 +58,7 @@ Release MakeRelease(const anim::AnimationFrames& animation, const ReleaseWishes&
     release.backgrounds.push_back(picture.BackgroundColour);
     if (i < kMostTriedFields) release.first_pictures.push_back(picture);
   }
-  release.plan = core.Plan(PlayingOf(release));
+  release.plan = core.Plan(PlayingOf(release), progress);
   return release;
 }
 

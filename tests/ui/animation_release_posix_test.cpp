@@ -4,6 +4,8 @@
 #include <QFileDialog>
 #include <QImageReader>
 #include <functional>
+#include <numeric>
+#include <optional>
 
 #include "anim/frame_names.h"
 #include "c64/beam.h"
@@ -279,9 +281,16 @@ TEST_F(AnimationReleaseTest, EscapeAndFramesThatGoLeaveNothingHalfMade) {
   export_to("mnuExportAnimationGif", out / "x.gif");
   export_to("mnuExportAnimationPngs", out);
   EXPECT_TRUE(fs::is_empty(out));
+  for (int number = 3; number <= 3000; ++number) fs::remove(FrameFile(number));
+  std::vector<int> many(80);
+  std::iota(many.begin(), many.end(), 1);
+  WriteFrames(many, 990);
+  Action("mnuCreatePRGAnimation")->trigger();
+  EXPECT_EQ(Panel("pnlWord"), "Build stopped");
   look.stop();
 
-  for (int number = 4; number <= 3000; ++number) fs::remove(FrameFile(number));
+  for (const int number : many) fs::remove(FrameFile(number));
+  WriteFrames({1, 2, 3}, 5);
   Release("mnuCreatePRGAnimation", [this](QDialog& dialog) {
     fs::remove(FrameFile(3));
     AnswerNext(QMessageBox::Ok);
@@ -293,18 +302,24 @@ TEST_F(AnimationReleaseTest, EscapeAndFramesThatGoLeaveNothingHalfMade) {
 
 TEST_F(AnimationReleaseTest, ImagesAreNumberedAsTheFramesAreAndReplacedWhenThatIsWanted) {
   WriteFrames({2, 9}, 5);
-  const auto export_pngs = [this] {
-    InNextDialog([this](QDialog& dialog) {
-      ChooseFile(out);
+  const auto export_pngs = [this](std::optional<QMessageBox::StandardButton> answer) {
+    InDialog("frmExportAnimation", [this, answer](QDialog& dialog) {
+      InNextDialog<QFileDialog>([this, answer](QFileDialog& chooser) {
+        if (answer) AnswerNext(*answer);
+        chooser.findChild<QLineEdit*>("fileNameEdit")->setText(ToQt(app::TextFromPath(out)));
+        QTest::keyClick(&chooser, Qt::Key_Return);
+      });
       dialog.findChild<QAbstractButton*>("cmdStd")->click();
     });
     Action("mnuExportAnimationPngs")->trigger();
+    EXPECT_EQ(support::NamesIn(out), (support::Lines{"walk_0002.png", "walk_0009.png"}));
+    return support::ReadFile(out / "walk_0009.png");
   };
-  export_pngs();
-  EXPECT_EQ(support::NamesIn(out), (support::Lines{"walk_0002.png", "walk_0009.png"}));
-  const files::Palette palette = files::LoadPalette("Kelvo");
-  EXPECT_EQ(support::ReadFile(out / "walk_0009.png"),
-            images::PngOf(images::ImageOf(pictures[1], palette, images::ImageSize::kScreen, 1)));
+  const auto image = images::ImageOf(pictures[1], files::LoadPalette("Kelvo"), images::ImageSize::kScreen, 1);
+  EXPECT_EQ(export_pngs({}), images::PngOf(image));
+  support::WriteText(out / "walk_0009.png", "!");
+  EXPECT_EQ(export_pngs(QMessageBox::No).size(), 1U);
+  EXPECT_EQ(export_pngs(QMessageBox::Yes), images::PngOf(image));
 }
 
 }  // namespace

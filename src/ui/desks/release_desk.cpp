@@ -30,7 +30,7 @@ BuildDesk::Build ReleaseDesk::AskForBuild(const c64out::CompoPicChoice& choice) 
   Guarded([&] {
     if (!SaveCurrentFrame()) return;
     auto release = ReleaseDialog(Frames(), with_.settings, window_).Ask();
-    if (!release) return;
+    if (!release) return status_.Tell("Build stopped");
     emit PlayingChanged();
     const auto shared = std::make_shared<const c64out::Release>(std::move(*release));
     build = [shared, choice](const c64out::BuildSurroundings& with) {
