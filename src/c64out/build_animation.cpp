@@ -41,14 +41,15 @@ void Check(const BuildJob& job, const Release& release) {
 
 BuildResult BuildAnimation(const Release& release, const CompoPicChoice& choice, const BuildSurroundings& with) {
   const BuildJob job({release.animation.folder, release.animation.name}, choice, with);
-  return RunBuild(job, [&] {
+  const auto make = [&] {
     RequireReady(release);
     job.Print("--> Compiling source");
     FillPlayer(job, release);
     RequireInterpreter(job, job.Files().player_source);
     AssemblePlayer(job);
     Check(job, release);
-  });
+  };
+  return RunBuild(job, {make});
 }
 
 }  // namespace kelvo::c64out

@@ -112,7 +112,7 @@ BuildResult BuildCompoPic(const files::Document& document, const CompoPicChoice&
                           const BuildSurroundings& with) {
   const files::CurrentFile& file = document.file;
   const BuildJob job({file.CurrentFilePath.parent_path(), BaseName(file.CurrentFileName)}, choice, with);
-  return RunBuild(job, [&] {
+  const auto make = [&] {
     job.Print("--> Compiling source");
     SavePicture(job, document);
     FillViewer(job, document.picture.BackgroundColour);
@@ -123,7 +123,9 @@ BuildResult BuildCompoPic(const files::Document& document, const CompoPicChoice&
     job.Print("--> Adding depacker");
     AddDepacker(job);
     Check(job, document.picture);
-  });
+  };
+  // An older program goes and is not replaced, on purpose: it no longer is what the C64 shows.
+  return RunBuild(job, {make, [&] { RemoveOlderProgram(job); }});
 }
 
 }  // namespace kelvo::c64out

@@ -48,30 +48,27 @@ void KeepProgram(const BuildJob& job) {
   job.Print("--> PRG complete.");
 }
 
-void SendProgram(const BuildJob& job) {
+void SendProgram(const BuildJob& job, const BuildSteps& steps) {
   EndOverNetwork(job);
-  // An older program beside the picture goes and is not replaced, on purpose: it no longer is what the C64 shows.
-  const std::filesystem::path prg = job.Result(".prg");
-  KeepForeignFile(job, prg);
-  Remove(prg);
+  steps.after_sending();
 }
 
-std::optional<ToolCommand> End(const BuildJob& job) {
+std::optional<ToolCommand> End(const BuildJob& job, const BuildSteps& steps) {
   if (!job.Choice().MakePrg) return EndWithDisk(job);
-  job.Choice().ViaCodenet ? SendProgram(job) : KeepProgram(job);
+  job.Choice().ViaCodenet ? SendProgram(job, steps) : KeepProgram(job);
   return std::nullopt;
 }
 
-std::optional<ToolCommand> Build(const BuildJob& job, const std::function<void()>& steps) {
+std::optional<ToolCommand> Build(const BuildJob& job, const BuildSteps& steps) {
   Begin(job);
-  steps();
-  auto emulator = End(job);
+  steps.make();
+  auto emulator = End(job, steps);
   Remove(job.Files().program);
   return emulator;
 }
 
 // A build that fails leaves no work files; one that is given up leaves what it has, on purpose.
-std::optional<ToolCommand> BuildOrCleanUp(const BuildJob& job, const std::function<void()>& steps) {
+std::optional<ToolCommand> BuildOrCleanUp(const BuildJob& job, const BuildSteps& steps) {
   try {
     return Build(job, steps);
   } catch (const std::exception&) {
@@ -100,7 +97,7 @@ BuildOutcome OutcomeOf(const BuildSurroundings& with, const std::function<void()
 
 }  // namespace
 
-BuildResult RunBuild(const BuildJob& job, const std::function<void()>& steps) {
+BuildResult RunBuild(const BuildJob& job, const BuildSteps& steps) {
   BuildResult result{};
   result.outcome = OutcomeOf(job.With(), [&] {
     result.emulator = BuildOrCleanUp(job, steps);
@@ -111,6 +108,12 @@ BuildResult RunBuild(const BuildJob& job, const std::function<void()>& steps) {
 
 BuildOutcome ShowInEmulator(const ToolCommand& emulator, const BuildSurroundings& with) {
   return OutcomeOf(with, [&] { RequireSuccess(emulator, with.runner.ShowAndWait(emulator)); });
+}
+
+void RemoveOlderProgram(const BuildJob& job) {
+  const std::filesystem::path prg = job.Result(".prg");
+  KeepForeignFile(job, prg);
+  Remove(prg);
 }
 
 void RequireInterpreter(const BuildJob& job, const std::filesystem::path& source) {

@@ -13,11 +13,19 @@
 
 namespace kelvo::c64out {
 
-// Says what is made, does `steps`, then ends as the choice says: with the program beside the picture, on a disk, or
-// sent. Tells how it went; the work files are gone then, but for those of a build that was given up.
-BuildResult RunBuild(const BuildJob& job, const std::function<void()>& steps);
+struct BuildSteps {
+  std::function<void()> make;  // the program, which they leave in the work files
+  std::function<void()> after_sending = [] {};
+};
 
-// For `steps`: nothing can be assembled where tools cannot be run. Gives the build up then, and removes `source`.
+// Says what is made, does the steps, then ends as the choice says: with the program beside the picture, on a disk, or
+// sent. Tells how it went; the work files are gone then, but for those of a build that was given up.
+BuildResult RunBuild(const BuildJob& job, const BuildSteps& steps);
+
+// Removes the program beside the picture, if there is one. A picture that is called so is kept in BACKUP.
+void RemoveOlderProgram(const BuildJob& job);
+
+// For the steps: nothing can be assembled where tools cannot be run. Gives the build up then, and removes `source`.
 void RequireInterpreter(const BuildJob& job, const std::filesystem::path& source);
 
 // Assembles the filled template `source`, whose path ends in `ending`, to `output`, whose path ends in `output_ending`
