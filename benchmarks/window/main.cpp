@@ -3,8 +3,10 @@
 // Reports each goal and ends with 1 when one is not met. Run it through benchmarks/window-speed.
 #include <QDir>
 #include <QElapsedTimer>
+#include <QListView>
 #include <QMouseEvent>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QSpinBox>
 #include <QTemporaryDir>
 #include <QTest>
@@ -95,16 +97,19 @@ double DragBacklog(MainFrame& frame, QWidget* box) {
   return watch.LastPaint() - begin - 2000;
 }
 
-// Makes `count` frames of different pictures and switches the animation mode on.
-void MakeAnimation(MainFrame& frame, kelvo::app::SettingsStore& settings, const std::filesystem::path& folder,
-                   int count) {
+// Makes frames of different pictures.
+void WriteFrames(const std::filesystem::path& folder, int first, int last) {
   kelvo::model::PictureImage picture = kelvo::support::RandomPicture(1);
-  for (int number = 1; number <= count; ++number) {
+  for (int number = first; number <= last; ++number) {
     picture.BackgroundColour = kelvo::model::C64Colour::FromByte(static_cast<std::uint8_t>(number));
     kelvo::files::Sign(picture);
     const std::string name = "anim" + QString::number(number).rightJustified(4, '0').toStdString() + ".kvp";
-    kelvo::app::WriteWholeFile(folder / name, kelvo::files::Encode(picture));
+    kelvo::app::WriteWholeFile(folder / name, kelvo::files::Encode(picture), kelvo::app::Flush::kLater);
   }
+}
+
+// Switches the animation mode on with those frames.
+void BeginAnimation(MainFrame& frame, kelvo::app::SettingsStore& settings, const std::filesystem::path& folder) {
   settings.Write(kelvo::anim::kFolder, kelvo::app::TextFromPath(folder) + "/");
   frame.Files().OpenPicture(kelvo::app::TextFromPath(folder / "anim0001.kvp"));
   frame.Animation().Mode().ToggleAnimMode();
@@ -119,6 +124,30 @@ double FrameChange(MainFrame& frame, QWidget* box) {
   for (int change = 0; change < 20; ++change) {
     const double begin = watch.Now();
     next->click();
+    while (watch.LastPaint() < begin) QApplication::processEvents();
+    longest = std::max(longest, watch.LastPaint() - begin);
+  }
+  return longest;
+}
+
+// From the menu to the frames on screen.
+double StripFirstShow(MainFrame& frame) {
+  PaintWatch watch(frame.findChild<QListView*>("lstFrames")->viewport());
+  const double begin = watch.Now();
+  frame.findChild<QAction*>("mnuFrames")->trigger();
+  while (watch.LastPaint() < begin) QApplication::processEvents();
+  QApplication::processEvents();
+  return watch.LastPaint() - begin;
+}
+
+// The longest of some scrolls by what the strip shows, each to frames that were not seen before.
+double StripScroll(MainFrame& frame) {
+  auto* strip = frame.findChild<QListView*>("lstFrames");
+  PaintWatch watch(strip->viewport());
+  double longest = 0;
+  for (int scroll = 0; scroll < 100; ++scroll) {
+    const double begin = watch.Now();
+    strip->horizontalScrollBar()->triggerAction(QScrollBar::SliderPageStepAdd);
     while (watch.LastPaint() < begin) QApplication::processEvents();
     longest = std::max(longest, watch.LastPaint() - begin);
   }
@@ -187,10 +216,15 @@ int main(int argc, char** argv) {
   bool met = Tell("press to filled blank picture on screen", FillTime(frame, box), 40);
   met &= Tell("last of 2000 drag events to its pixel on screen", DragBacklog(frame, box), 50);
   const QTemporaryDir frames;
-  MakeAnimation(frame, settings, kelvo::app::PathFromText(kelvo::ui::FromQt(frames.path())), 100);
+  const auto frames_folder = kelvo::app::PathFromText(kelvo::ui::FromQt(frames.path()));
+  WriteFrames(frames_folder, 1, 100);
+  BeginAnimation(frame, settings, frames_folder);
   met &= Tell("longest of 20 changes to the next frame", FrameChange(frame, box), 2 * kDisplayFrame);
   QWidget* full_view = frame.findChild<QWidget*>("frmBMPView")->findChild<QWidget*>("picStd");
   met &= Tell("latest of 100 frames played at 25 a second", PlayLateness(frame, full_view), kDisplayFrame);
+  WriteFrames(frames_folder, 101, 1000);
+  met &= Tell("first show of the strip of 1000 frames", StripFirstShow(frame), 100);
+  met &= Tell("longest of 100 scrolls of the frame strip", StripScroll(frame), 2 * kDisplayFrame);
   met &= Tell("a whole PRG build", BuildTime(frame, settings, folders), 2000);
   const double first_lines = PromptLineTime(0);
   met &= kelvo::bench::Report(

@@ -80,7 +80,23 @@ TEST_F(AnimationTest, FramesAreMadeVisitedSavedWhenLeftAndPlayed) {
   EXPECT_EQ(frame->Document().picture.BackgroundColour.Number(), 4);
   const QImage plain = Box("frmZoom")->grab().toImage();
   Find<QCheckBox>("chkOnionSkin")->setChecked(true);
+  const QImage through = Box("frmZoom")->grab().toImage();
+  EXPECT_NE(through, plain);
+  Menu("mnuOnionStrength")->actions()[2]->trigger();
+  EXPECT_NE(Box("frmZoom")->grab().toImage(), through);
+  Menu("mnuOnionFrames")->actions()[1]->trigger();  // behind the last frame there is none
+  EXPECT_EQ(Box("frmZoom")->grab().toImage(), plain);
+  Menu("mnuOnionFrames")->actions()[2]->trigger();
+  Menu("mnuOnionStrength")->actions()[0]->trigger();
+  EXPECT_EQ(Box("frmZoom")->grab().toImage(), through);
+  Find<QCheckBox>("chkOnionSkin")->setChecked(false);
+  Action("mnuChangedCells")->trigger();
   EXPECT_NE(Box("frmZoom")->grab().toImage(), plain);
+  Action("mnuChangedCells")->trigger();
+  EXPECT_EQ(Box("frmZoom")->grab().toImage(), plain);
+  Menu("mnuPlay")->actions()[0]->trigger();
+  Press("cmdPlay");
+  EXPECT_TRUE(QTest::qWaitFor([this] { return Find<QAbstractButton>("cmdPlay")->text() == "&Play"; }));
   for (int request = 0; request < 2; ++request) QApplication::postEvent(Find("frmAnim"), new QCloseEvent);
   QApplication::processEvents();
   EXPECT_EQ(Panel("pnlAnimation"), "ANIM=OFF");

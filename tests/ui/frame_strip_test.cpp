@@ -95,6 +95,16 @@ TEST_F(FrameStripTest, ADroppedFrameTakesThePlaceAndOtherProgramsAreNoticed) {
   for (int number = 1; number <= 4; ++number) WriteFrame(number, number);
   Open();
   EXPECT_FALSE(Find("lblNoFrames")->isVisible());
+  const QRect above = Find("frmZoom_frame")->geometry();
+  EXPECT_FALSE(above.intersects(Find("frmFrames_frame")->geometry()));
+  Action("mnuZoomLarge")->trigger();
+  EXPECT_FALSE(Find("frmZoom_frame")->geometry().intersects(Find("frmFrames_frame")->geometry()));
+  Action("mnuZoomLarge")->trigger();
+  EXPECT_EQ(Find("frmZoom_frame")->geometry(), above);
+  Find("frmFrames_frame")->close();
+  EXPECT_GT(Find("frmZoom_frame")->height(), above.height());
+  Open();
+  EXPECT_EQ(Find("frmZoom_frame")->geometry(), above);
   const auto drop = [this](int row, int before) {
     const std::unique_ptr<QMimeData> data(strip->model()->mimeData({strip->model()->index(row, 0)}));
     strip->model()->dropMimeData(data.get(), Qt::MoveAction, before, 0, {});

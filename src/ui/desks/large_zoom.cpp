@@ -21,7 +21,9 @@ QSize LargeZoom::Largest() const {
 }
 
 QRect LargeZoom::Room() const {
-  const QRect area = area_.viewport()->rect().marginsRemoved({kWindowGap, kWindowGap, kWindowGap, kWindowGap});
+  QRect area = area_.viewport()->rect().marginsRemoved({kWindowGap, kWindowGap, kWindowGap, kWindowGap});
+  const bool is_limited = below_ != nullptr && !below_->isHidden() && below_->y() > Window().geometry().center().y();
+  if (is_limited) area.setBottom(std::min(area.bottom(), below_->y() - kWindowGap - 1));
   int right = area.right();
   for (const QMdiSubWindow* other : Beside()) right = std::min(right, other->x() - kWindowGap - 1);
   return {area.topLeft(), QSize(right + 1 - area.left(), area.height()).boundedTo(Largest())};

@@ -15,6 +15,8 @@ class LargeZoom {
   // Both outlive it.
   LargeZoom(const QMdiArea& area, const frmZoom& zoom) : area_(area), zoom_(zoom) {}
 
+  // A window that keeps its room while it stands below the zoom window; it outlives this.
+  void KeepAbove(const QMdiSubWindow* window) { below_ = window; }
   // Makes the zoom window large, or gives all windows back the places that they had before.
   void Toggle();
   bool IsLarge() const;
@@ -31,6 +33,7 @@ class LargeZoom {
 
   const QMdiArea& area_;
   const frmZoom& zoom_;
+  const QMdiSubWindow* below_ = nullptr;
   QRect before_;          // the place that the zoom window had before it was made large
   int others_moved_ = 0;  // by how much the windows beside it made room then
 };

@@ -49,9 +49,13 @@ void WindowDesk::Add(ChildWindowId id, QWidget* form) {
   auto* child = new ChildWindow(form, SizeOf(id));
   area_.addSubWindow(child);
   child->setAttribute(Qt::WA_DeleteOnClose, false);
-  connect(child, &ChildWindow::ClosedByUser, this, &WindowDesk::Changed);
+  connect(child, &ChildWindow::ClosedByUser, this, [this, id] {
+    if (id == ChildWindowId::kFrames) ShareRoomWithFrames();
+    emit Changed();
+  });
   connect(child, &ChildWindow::FillAsked, this, &WindowDesk::ToggleLargeZoom);
   children_[static_cast<std::size_t>(id)] = child;
+  if (id == ChildWindowId::kFrames) large_zoom_.KeepAbove(child);
 }
 
 // Places are kept as they are when nothing is scrolled.
@@ -205,7 +209,21 @@ void WindowDesk::Arrange(QWidget* floating) {
 
 void WindowDesk::Toggle(ChildWindowId id) {
   Child(id).setVisible(!IsShown(id));
+  if (id == ChildWindowId::kFrames) ShareRoomWithFrames();
   if (IsShown(id)) area_.setActiveSubWindow(&Child(id));
+}
+
+// Shown over the lower edge of the zoom window, the strip gets that room; hidden right below it, it gives it back.
+void WindowDesk::ShareRoomWithFrames() {
+  ChildWindow& zoom = Child(ChildWindowId::kZoom);
+  const QRect strip = Child(ChildWindowId::kFrames).geometry();
+  QRect place = zoom.geometry(), below = strip.adjusted(0, -kWindowGap, 0, 0);
+  if (IsShown(ChildWindowId::kFrames)) {
+    if (place.intersects(below)) place.setBottom(below.top() - 1);
+  } else if (place.bottom() == below.top() - 1 && place.left() == strip.left()) {
+    place.setBottom(strip.bottom());
+  }
+  if (place.height() >= zoom.minimumSizeHint().height()) zoom.setGeometry(place);
 }
 
 void WindowDesk::ShowBehind(ChildWindowId id) {

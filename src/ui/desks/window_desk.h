@@ -67,6 +67,7 @@ class WindowDesk : public QObject {
   void ArrangeIn(QSize room, int below);
   void HideHistoryAt(QRect place, int top_of_char_data);
   void HideFramesOver(QRect zoom);
+  void ShareRoomWithFrames();
   void RestoreChildren(QSize room);
   void ShowFullView(int scale, bool is_pal);
   void BringAllIntoReach();
