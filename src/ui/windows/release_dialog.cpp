@@ -125,6 +125,7 @@ void ReleaseDialog::ShowRelease() {
   lblNotes_->setText(notes.join('\n'));
   lblNotes_->setHidden(notes.isEmpty());
   lblAdvice_->setText(ToQt(refusal + (refusal.empty() || advice.empty() ? "" : " ") + advice));
+  lblAdvice_->setHidden(lblAdvice_->text().isEmpty());
   cmdBuild_->setEnabled(refusal.empty());
 }
 
