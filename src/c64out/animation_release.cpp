@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <set>
 
+#include "anim/frame_times.h"
 #include "c64anim/steps.h"
 #include "c64out/animation_check.h"
 #include "files/load_picture.h"
@@ -11,6 +12,20 @@ namespace kelvo::c64out {
 namespace {
 
 using Numbers = std::vector<int>;
+
+static_assert(anim::kFieldsPerSecond == c64anim::kFieldsPerSecond);
+
+c64anim::Playing PlayingOf(const Release& release) {
+  switch (release.wishes.playing) {
+    case anim::Playing::kOnce:
+      return c64anim::Playing::kOnce;
+    case anim::Playing::kRound:
+      return c64anim::Playing::kRound;
+    case anim::Playing::kToAndFro:
+      return c64anim::Playing::kToAndFro;
+  }
+  return {};
+}
 
 Numbers OtherBackgrounds(const Release& release) {
   Numbers numbers;
@@ -34,18 +49,6 @@ std::string Counted(int number, const std::string& one) {
 }
 
 }  // namespace
-
-c64anim::Playing PlayingOf(const Release& release) {
-  switch (release.wishes.playing) {
-    case anim::Playing::kOnce:
-      return c64anim::Playing::kOnce;
-    case anim::Playing::kRound:
-      return c64anim::Playing::kRound;
-    case anim::Playing::kToAndFro:
-      return c64anim::Playing::kToAndFro;
-  }
-  return {};
-}
 
 Release MakeRelease(const anim::AnimationFrames& animation, const ReleaseWishes& wishes, app::Progress& progress) {
   Release release{.wishes = wishes, .animation = animation, .fields = anim::FieldsOf(animation, wishes.rate)};
@@ -132,8 +135,9 @@ std::string Refusal(const Release& release) {
 }
 
 std::string Advice(const Release& release) {
-  if (!release.plan.Fits())
+  if (!release.plan.Fits()) {
     return "Fewer frames would help, fewer cells that change, or a lower rate, at which more can be packed.";
+  }
   const std::vector<ReleaseRow> rows = RowsOf(release);
   if (std::ranges::find(rows, true, &ReleaseRow::is_slow) == rows.end()) return {};
   const int rate = FastestRate(release);

@@ -1,4 +1,4 @@
-// The frames of an animation, made ready to become one program for the C64, and what is to be said before they do.
+// The frames of an animation, made ready to become one program for the C64, and what there is to say before.
 #pragma once
 
 #include <string>
@@ -28,8 +28,6 @@ struct Release {
   std::vector<model::PictureImage> first_pictures{};  // as many as a build tries
   c64anim::AnimationPlan plan{};
 };
-
-c64anim::Playing PlayingOf(const Release& release);
 
 // Reads the frames. Progress counts them. Throws app::FileError for one that cannot be read any more, and what
 // c64anim::Animation does.
