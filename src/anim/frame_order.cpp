@@ -86,7 +86,7 @@ std::string FrameOrder::Guard(const FrameRow& seen, Change&& change) {
 std::string FrameOrder::Move(const FrameRow& seen, int from, int to) {
   if (from == to) return {};
   return Guard(seen, [&] {
-    Renumber(MovingFrame(seen.Numbers(), from, to), {});
+    Renumber(MovingFrame(navigation_.Row().Numbers(), from, to), {});
     return Frame(from) + " IS FRAME " + std::to_string(to) + " NOW";
   });
 }
@@ -102,7 +102,7 @@ std::string FrameOrder::Insert(const FrameRow& seen, int number) {
 std::string FrameOrder::Duplicate(const FrameRow& seen, int number) {
   if (navigation_.CurrentFrame() == number) return Insert(seen, number);
   return Guard(seen, [&] {
-    const fs::path& path = seen.Path(number);
+    const fs::path& path = navigation_.Row().Path(number);
     if (!HasPictureSize(path)) return Frame(number) + " IS NO PICTURE";
     return Add(number + 1, app::ReadWholeFile(path, app::kMostBytesToCopy));
   });
@@ -123,17 +123,19 @@ std::string FrameOrder::Add(int number, const app::Bytes& bytes) {
 
 std::string FrameOrder::Delete(const FrameRow& seen, int number) {
   return Guard(seen, [&] {
+    const FrameRow& row = navigation_.Row();
     if (navigation_.CurrentFrame() == number) {
-      const auto after = seen.ReadableAfter(number), neighbour = after ? after : seen.ReadableBefore(number);
+      const auto after = row.ReadableAfter(number), neighbour = after ? after : row.ReadableBefore(number);
       if (!neighbour) return std::string("THE ONLY FRAME STAYS");
       std::string word = navigation_.GoTo(std::to_string(*neighbour));
       if (navigation_.CurrentFrame() != neighbour) return word;
+      navigation_.Refresh();  // it was saved, perhaps under a name in another case
     }
-    const fs::path& file = seen.Path(number);
+    const fs::path file = row.Path(number);
     files::Backups(with_.folders, with_.clock)
         .Keep(app::ReadWholeFile(file, app::kMostBytesToCopy), app::TextFromPath(file.filename()), "_deleted", ".kvp");
     const PassingFile leaving(navigation_.Names().Folder());
-    Renumber(ClosingUp(seen.Numbers(), number), {file.filename(), leaving.Path().filename()});
+    Renumber(ClosingUp(row.Numbers(), number), {file.filename(), leaving.Path().filename()});
     return Frame(number) + " IS IN BACKUP";
   });
 }

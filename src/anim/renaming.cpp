@@ -56,7 +56,11 @@ app::Bytes BytesOf(const Plan& plan) {
 Plan PlanFrom(const app::Bytes& bytes) {
   std::vector<std::string> fields(1);
   for (const std::uint8_t byte : bytes) {
-    byte == 0 ? void(fields.emplace_back()) : fields.back().push_back(static_cast<char>(byte));
+    if (byte == 0) {
+      fields.emplace_back();
+    } else {
+      fields.back().push_back(static_cast<char>(byte));
+    }
   }
   const auto is_plain = [](const std::string& field) { return IsNameInFolder(app::PathFromText(field)); };
   if (fields.size() % 2 == 0 || !std::all_of(fields.begin(), fields.end(), is_plain)) return {};
