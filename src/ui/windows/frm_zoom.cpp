@@ -52,6 +52,7 @@ void frmZoom::resizeEvent(QResizeEvent* event) {
 void frmZoom::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
   FitRoom();  // the display's scale is known now
+  DrawCapturePic();
 }
 
 // What is left around whole cells.
@@ -183,6 +184,7 @@ void frmZoom::SetOnionSkin(const std::optional<model::PictureImage>& other) {
 }
 
 void frmZoom::DrawCapturePic() {
+  if (!isVisible()) return;  // drawn when it is shown
   model::DrawCapturePic(picture_, area_, grid_, surface_);
   if (onion_skin_) model::MixOnionSkin(*onion_skin_, area_, surface_);
   picStd_->Refresh();
