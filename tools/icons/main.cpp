@@ -40,7 +40,8 @@ int main(int argc, char** argv) {
     std::cerr << "Usage: make-icons DRAWING.svg FOLDER ENDING SIZE...\n";
     return 2;
   }
-  const QString &drawing = arguments[1], ending = '.' + arguments[3];
+  const QString& drawing = arguments[1];
+  const QString ending = '.' + arguments[3];
   bool done = true;
   for (const QString& size : arguments.mid(4)) {
     const QDir folder(arguments[2] + '/' + size);
