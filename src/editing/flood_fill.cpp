@@ -13,7 +13,7 @@ FloodFill::FloodFill(PictureImage& picture, model::PictureViews& views, app::Pro
     : picture_(picture),
       views_(views),
       events_(events),
-      queue_(std::make_unique<std::array<Entry, kMostEntries + 1>>()) {}
+      queue_(std::make_unique_for_overwrite<std::array<Entry, kMostEntries + 1>>()) {}
 
 void FloodFill::Fill(int x, int y, model::C64Colour colour, FullCellInFill full_cell) {
   before_ = picture_;

@@ -2,6 +2,7 @@
 #include <QFileDialog>
 #include <QImageReader>
 #include <QMdiSubWindow>
+#include <QScreen>
 #include <QStatusTipEvent>
 #include <QTextBrowser>
 #include <QWheelEvent>
@@ -99,6 +100,25 @@ TEST_F(WorkplaceTest, KeysWheelDragAndClickMoveTheZoomArea) {
   EXPECT_EQ(Find("frmZoom")->windowTitle(), " Zoom (8:1)");
   EXPECT_FALSE(Action("mnuZoom_4X")->isChecked());
   EXPECT_EQ(Picture(), model::PictureImage());
+}
+
+TEST_F(WorkplaceTest, AHiddenZoomWindowComesBackAsThePictureIs) {
+  Action("mnuView_4")->trigger();
+  frame->SetBackgroundColour(5);
+  Action("mnuView_4")->trigger();
+  EXPECT_EQ(Box("frmZoom")->grab().toImage().pixel(At(20, 20)), model::SurfaceColour(model::C64Colour::FromByte(5)));
+}
+
+TEST_F(WorkplaceTest, ACaptionIsPaintedAnewWithItsTitle) {
+  const QMdiSubWindow& zoom = *Child("frmZoom");
+  const auto caption = [&] {
+    QApplication::processEvents();
+    const QRect place(zoom.mapTo(frame.get(), QPoint()), QSize(zoom.width(), Find("frmZoom")->y()));
+    return frame->screen()->grabWindow(frame->winId(), place.x(), place.y(), place.width(), place.height()).toImage();
+  };
+  const QImage before = caption();
+  Find("frmZoom")->setWindowTitle(" Another");
+  EXPECT_NE(caption(), before);
 }
 
 TEST_F(WorkplaceTest, TheColumnKeepsItsWidthWhateverColoursItNames) {
@@ -271,6 +291,10 @@ TEST_F(WorkplaceTest, EveryIconIsThereForMenusAndToolBars) {
       EXPECT_TRUE(icon.availableSizes().contains(size)) << FromQt(name);
     }
   }
+  const auto in_caption = Child("frmZoom")->systemMenu()->actions();
+  EXPECT_EQ(std::count_if(in_caption.begin(), in_caption.end(),
+                          [](const QAction* action) { return !action->icon().pixmap(16, 16).isNull(); }),
+            4);
 }
 
 TEST_F(WorkplaceTest, DialogsBeginNearAFolderThatIsGone) {

@@ -22,6 +22,13 @@ QSize ChildWindow::Chrome() const {
   return sizeHint() - widget()->sizeHint().expandedTo(widget()->minimumSize());
 }
 
+// The style draws the title as the window has it. Qt, told of it, would measure its letters at every change of size.
+bool ChildWindow::event(QEvent* event) {
+  if (event->type() != QEvent::WindowTitleChange) return QMdiSubWindow::event(event);
+  update(0, 0, width(), style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this));
+  return true;
+}
+
 void ChildWindow::closeEvent(QCloseEvent* event) {
   event->ignore();
   hide();

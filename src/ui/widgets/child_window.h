@@ -26,6 +26,7 @@ class ChildWindow : public QMdiSubWindow {
   void FillAsked();
 
  protected:
+  bool event(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void changeEvent(QEvent* event) override;
 

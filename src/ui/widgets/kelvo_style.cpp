@@ -11,6 +11,7 @@
 
 #include "ui/widgets/child_window.h"
 #include "ui/widgets/ink.h"
+#include "ui/widgets/later_icon.h"
 
 namespace kelvo::ui {
 namespace {
@@ -156,7 +157,12 @@ void KelvoStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
 
 QIcon KelvoStyle::standardIcon(StandardPixmap which, const QStyleOption* option, const QWidget* widget) const {
   if (which == SP_ToolBarHorizontalExtensionButton) return MoreIcon();
-  return QProxyStyle::standardIcon(which, option, widget);
+  if (which < SP_TitleBarMinButton || which > SP_TitleBarNormalButton) {
+    return QProxyStyle::standardIcon(which, option, widget);
+  }
+  // Each child window has them in a menu that few ever open. One lies in files: whatever reads an image file first
+  // loads Qt's plugins for all of them.
+  return QIcon(new LaterIcon([this, which] { return QProxyStyle::standardIcon(which, nullptr, nullptr); }));
 }
 
 void KelvoStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,

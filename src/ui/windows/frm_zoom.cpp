@@ -52,6 +52,7 @@ void frmZoom::resizeEvent(QResizeEvent* event) {
 void frmZoom::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
   FitRoom();  // the display's scale is known now
+  DrawCapturePic();
 }
 
 // What is left around whole cells.
@@ -187,6 +188,7 @@ void frmZoom::SetOnionSkin(model::OnionSkin skin) {
 }
 
 void frmZoom::DrawCapturePic() {
+  if (!isVisible()) return;  // drawn when it is shown
   model::DrawCapturePic(picture_, area_, grid_, surface_);
   model::MixOnionSkin(onion_skin_, area_, surface_);
   picStd_->Refresh();
