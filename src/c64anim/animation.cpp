@@ -16,7 +16,7 @@ ChangeCost CostOf(const Placing::Place& place, bool is_new, const std::vector<Sp
                   .is_packed = place.written.is_packed,
                   .fits = place.address.has_value()};
   for (const Span& span : spans) cost.cells += span.cells;
-  if (is_new) cost.bytes = static_cast<int>(place.written.bytes.size());
+  if (is_new) cost.bytes = place.written.size;
   return cost;
 }
 
@@ -49,7 +49,7 @@ AnimationPlan Animation::Plan(Playing playing, app::Progress& progress) const {
   const Placing placing(changes, steps, NextRound(steps, playing), progress);
 
   AnimationPlan plan;
-  plan.first_bytes = static_cast<int>(placing.Places().front().written.bytes.size());
+  plan.first_bytes = placing.Places().front().written.size;
   for (std::size_t change = 1; change < costing; ++change) {
     const Placing::Place& place = placing.Places()[change];
     plan.changes.push_back(CostOf(place, place.first_same == change, changes[change]));

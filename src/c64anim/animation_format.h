@@ -21,6 +21,7 @@
 //
 //     changes    = part..., kEndOfChanges
 //     part       = span | background | kPackedPart, packed span..., packed kEndOfChanges
+//                | kElsewhere, low, high      the next part is at that address
 //     span       = number, cell of all lines...
 //                | number + kFewLines, cell of few lines...
 //     background = kBackgroundSpan, colour (0..15)
@@ -54,7 +55,8 @@ inline constexpr int kStepBytes = 3;
 
 inline constexpr int kPageCells = 32, kRowCells = 40, kSpansInRow = 2, kSpans = 50, kBackgroundSpan = kSpans;
 inline constexpr int kFewLines = 0x40, kColoursFollow = 0x80, kLastOfSpan = 2, kPlaceShift = 2;
-inline constexpr std::uint8_t kPackedPart = 0xFE, kEndOfChanges = 0xFF;
+inline constexpr std::uint8_t kElsewhere = 0xFD, kPackedPart = 0xFE, kEndOfChanges = 0xFF;
+inline constexpr int kElsewhereBytes = 3;
 
 inline constexpr int kMostLiterals = 63, kMostDistance = 255;
 inline constexpr int kNearCopy = 64, kShortestNear = 3, kLongestNear = kShortestNear + 63;

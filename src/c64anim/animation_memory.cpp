@@ -6,28 +6,41 @@
 namespace kelvo::c64anim {
 namespace {
 
+constexpr AnimationMemory::Rooms kAllRooms{
+    {{kAnimationStart, kScreen}, {kHigh, kHighEnd}, {kBehindBitmap, kAnimationEnd}}};
+
 // Where in a file the byte at `address` stands.
 int OffsetOf(int address) {
   return (address >= kHigh ? address - kHigh + kBitmap : address) - kAnimationStart;
 }
 
-}  // namespace
-
-AnimationMemory::AnimationMemory(std::size_t steps) {
-  constexpr std::size_t kMostSteps = (kScreen - kAnimationStart) / kStepBytes - 1;
-  if (steps > kMostSteps) throw std::runtime_error("The animation has too many frames.");
-  const int behind_steps = AddressOfStep(steps + 1);
-  rooms_ = {Room{behind_steps, kScreen - behind_steps}, Room{kHigh, kHighEnd - kHigh},
-            Room{kBehindBitmap, kAnimationEnd - kBehindBitmap}};
-  used_ = static_cast<std::size_t>(OffsetOf(behind_steps));
+bool IsFull(const AnimationMemory::Room& room) {
+  return room.begin == room.end;
 }
 
-void AnimationMemory::Put(int address, std::span<const std::uint8_t> bytes) {
-  const auto room = std::ranges::find(rooms_, address, &Room::address);
-  const auto size = static_cast<int>(bytes.size());
-  *room = {address + size, room->size - size};
-  std::ranges::copy(bytes, file_.begin() + OffsetOf(address));
-  used_ = std::max(used_, static_cast<std::size_t>(OffsetOf(address)) + bytes.size());
+}  // namespace
+
+AnimationMemory::AnimationMemory(std::size_t steps) : rooms_(kAllRooms) {
+  constexpr std::size_t kMostSteps = (kScreen - kAnimationStart) / kStepBytes - 1;
+  if (steps > kMostSteps) throw std::runtime_error("The animation has too many frames.");
+  rooms_.front().begin = AddressOfStep(steps + 1);
+}
+
+std::optional<int> AnimationMemory::Put(std::span<const std::uint8_t> part, bool goes_on) {
+  const auto first = std::ranges::find_if_not(rooms_, IsFull);
+  const auto room = std::find_if(
+      first, rooms_.end(), [&](const Room& one) { return one.end - one.begin >= std::ssize(part) + kElsewhereBytes; });
+  if (room == rooms_.end()) return std::nullopt;
+  const int address = room->begin;
+  if (goes_on && room != first) {
+    const std::array<std::uint8_t, kElsewhereBytes> elsewhere{kElsewhere, static_cast<std::uint8_t>(address),
+                                                              static_cast<std::uint8_t>(address >> 8)};
+    Write(first->begin, elsewhere);
+  }
+  std::for_each(first, room, [](Room& full) { full.begin = full.end; });
+  Write(address, part);
+  room->begin += static_cast<int>(part.size());
+  return address;
 }
 
 void AnimationMemory::PutStep(std::size_t index, int fields, int address) {
@@ -35,8 +48,17 @@ void AnimationMemory::PutStep(std::size_t index, int fields, int address) {
   std::ranges::copy(step, file_.begin() + static_cast<std::ptrdiff_t>(index * kStepBytes));
 }
 
+void AnimationMemory::Write(int address, std::span<const std::uint8_t> bytes) {
+  std::ranges::copy(bytes, file_.begin() + OffsetOf(address));
+}
+
 Bytes AnimationMemory::File() const {
-  return {file_.begin(), file_.begin() + static_cast<std::ptrdiff_t>(used_)};
+  int used = 0;
+  for (std::size_t i = 0; i < kRooms; ++i) {
+    const bool is_used = i == 0 || rooms_[i].begin != kAllRooms[i].begin;
+    if (is_used) used = std::max(used, OffsetOf(rooms_[i].begin - 1) + 1);
+  }
+  return {file_.begin(), file_.begin() + used};
 }
 
 }  // namespace kelvo::c64anim

@@ -8,8 +8,9 @@ namespace {
 constexpr int kLineCycles = 63, kFieldCycles = 312 * kLineCycles, kRowCycles = 8 * kLineCycles, kRows = 25;
 // What a row of cells takes from the processor, and in each field the interrupt that counts it.
 constexpr int kStolenCycles = 43, kInterruptCycles = 45;
-// What the player takes for a step, at the most: to see that its time has come, and to have the next one ready.
-constexpr int kBeginCycles = 60, kNextCycles = 180;
+// What the player takes for a step, at the most: to see that its time has come and to go from room to room of the
+// memory, and to have the next one ready.
+constexpr int kBeginCycles = 240, kNextCycles = 180;
 
 // When the next row of cells begins after `time`. Times are cycles since the beam was at the picture's first line.
 int NextRow(int time) {

@@ -26,9 +26,8 @@ std::vector<Raw> RawPartsOf(std::span<const Span> spans) {
 }  // namespace
 
 Written AsTheyAre(std::vector<Span> spans) {
-  Written written;
-  for (const Span& span : spans) written.bytes.insert(written.bytes.end(), span.bytes.begin(), span.bytes.end());
-  written.bytes.push_back(kEndOfChanges);
+  Written written{.size = 1};
+  for (const Span& span : spans) written.size += static_cast<int>(span.bytes.size());
   const Part part{.spans = std::move(spans)};
   written.race = RaceOf({&part, 1});
   return written;
@@ -87,48 +86,59 @@ bool Placing::IsInTime(std::size_t change, const Written& written) const {
   });
 }
 
+bool Placing::PutPart(const Bytes& part, std::optional<int>& first) {
+  const std::optional<int> address = memory_.Put(part, first.has_value());
+  if (!address) return false;
+  packing_.Know(*address, part);
+  if (!first) first = address;
+  return true;
+}
+
 // Empty when there is not so much room.
-std::optional<Written> Placing::Pack(std::span<const Span> spans, const AnimationMemory::Room& room) {
-  Written written;
-  written.is_packed = true;
+std::optional<Written> Placing::PutPacked(std::span<const Span> spans, std::optional<int>& first) {
+  Written written{.size = 1, .is_packed = true};
   std::vector<Part> parts;
   for (Raw& raw : RawPartsOf(spans)) {
     const Bytes packed = packing_.Packed(raw.bytes);
-    written.bytes.push_back(kPackedPart);
-    if (std::ssize(written.bytes) + std::ssize(packed) + 1 > room.size) return std::nullopt;
-    packing_.Know(room.address + static_cast<int>(written.bytes.size()), packed);
-    written.bytes.insert(written.bytes.end(), packed.begin(), packed.end());
+    Bytes part{kPackedPart};
+    part.insert(part.end(), packed.begin(), packed.end());
+    if (!PutPart(part, first)) return std::nullopt;
+    written.size += static_cast<int>(part.size());
     parts.push_back({Packing::UnpackingCycles(packed), std::move(raw.spans)});
   }
-  written.bytes.push_back(kEndOfChanges);
+  if (!PutPart({kEndOfChanges}, first)) return std::nullopt;
   written.race = RaceOf(parts);
   if (!parts.empty()) written.unpacking = parts.front().unpacking;
   return written;
 }
 
-void Placing::PutPacked(std::size_t change) {
-  Place& place = places_[change];
-  for (const AnimationMemory::Room& room : memory_.Rooms()) {
-    const std::optional<Written> packed = Pack(changes_[change], room);
-    if (packed && packed->bytes.size() < place.written.bytes.size() && IsInTime(change, *packed)) {
-      place.written = *packed;
-      place.address = room.address;
-      return memory_.Put(room.address, packed->bytes);
-    }
-    packing_.Forget(room.address, room.size);
-  }
+bool Placing::PutAsTheyAre(std::span<const Span> spans, std::optional<int>& first) {
+  return std::ranges::all_of(spans, [&](const Span& span) { return PutPart(span.bytes, first); }) &&
+         PutPart({kEndOfChanges}, first);
+}
+
+void Placing::GoBackTo(const AnimationMemory::Rooms& free) {
+  memory_.GoBackTo(free);
+  for (const auto& [begin, end] : free) packing_.Forget(begin, end - begin);
 }
 
 void Placing::Put(std::size_t change) {
-  PutPacked(change);
+  const AnimationMemory::Rooms free = memory_.Free();
   Place& place = places_[change];
-  if (place.address) return;
-  const auto room = std::ranges::find_if(
-      memory_.Rooms(), [&](const AnimationMemory::Room& one) { return std::ssize(place.written.bytes) <= one.size; });
-  if (room == memory_.Rooms().end()) return;
-  place.address = room->address;
-  packing_.Know(room->address, place.written.bytes);
-  memory_.Put(room->address, place.written.bytes);
+  std::optional<int> first;
+  const std::optional<Written> packed = PutPacked(changes_[change], first);
+  if (packed && packed->size < place.written.size && IsInTime(change, *packed)) {
+    place.written = *packed;
+    place.address = first;
+    return;
+  }
+  GoBackTo(free);
+  first.reset();
+  if (PutAsTheyAre(changes_[change], first)) {
+    place.address = first;
+  } else {
+    GoBackTo(free);
+  }
 }
 
 Bytes Placing::File() const {

@@ -15,12 +15,13 @@ namespace kelvo::c64anim {
 
 // A change as it is written.
 struct Written {
-  Bytes bytes;
-  Race race;
+  int size = 0;  // in bytes
+  Race race{};
   int unpacking = 0;  // cycles before it can begin
   bool is_packed = false;
 };
 
+// Of changes that are not packed.
 Written AsTheyAre(std::vector<Span> spans);
 
 class Placing {
@@ -49,8 +50,11 @@ class Placing {
   std::vector<Use> UsesOf(std::size_t change) const;
   bool IsInTime(std::size_t change, const Written& written) const;
   int FewestBefore(std::size_t change) const;
-  std::optional<Written> Pack(std::span<const Span> spans, const AnimationMemory::Room& room);
-  void PutPacked(std::size_t change);
+  // `first` becomes where the first part lies.
+  bool PutPart(const Bytes& part, std::optional<int>& first);
+  std::optional<Written> PutPacked(std::span<const Span> spans, std::optional<int>& first);
+  bool PutAsTheyAre(std::span<const Span> spans, std::optional<int>& first);
+  void GoBackTo(const AnimationMemory::Rooms& free);
   void Put(std::size_t change);
 
   std::span<const std::vector<Span>> changes_;
