@@ -73,7 +73,7 @@ Frames DrawDissolve() {
 }
 
 Frames DrawSnow() {
-  constexpr int kFrames = 200, kFlakes = 18;
+  constexpr int kFrames = 200, kFlakes = 21;
   const Canvas lake = CanvasOf(DrawLandscape());
   Frames frames;
   for (int i = 0; i < kFrames; ++i) {

@@ -9,7 +9,7 @@ namespace kelvo::samples {
 
 using Frames = std::vector<model::PictureImage>;
 
-// 16 frames: somebody walks by a lake, a stride in eight of them; one cell in ten changes from frame to frame.
+// 16 frames: somebody walks by a lake, a stride in eight of them; about 60 cells change each time.
 Frames DrawWalk();
 // 8 frames: a planet comes through a landscape; nearly all cells change each time.
 Frames DrawDissolve();
