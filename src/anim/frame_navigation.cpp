@@ -8,15 +8,11 @@
 namespace kelvo::anim {
 namespace {
 
-std::string Frame(int number) {
-  return "FRAME " + std::to_string(number);
-}
-
 // What lies between two numbers of the row, neither included.
 std::string Skipped(int from, int to) {
   const int first = std::min(from, to) + 1, last = std::max(from, to) - 1;
   if (first > last) return {};
-  if (first == last) return Frame(first) + " SKIPPED";
+  if (first == last) return FrameWords(first) + " SKIPPED";
   return "FRAMES " + std::to_string(first) + " TO " + std::to_string(last) + " SKIPPED";
 }
 
@@ -30,6 +26,10 @@ std::optional<int> FrameNumberIn(std::string_view typed) {
 }
 
 }  // namespace
+
+std::string FrameWords(int number) {
+  return "FRAME " + std::to_string(number);
+}
 
 std::string FrameNavigation::Move(FrameMove move) {
   switch (move) {
@@ -109,23 +109,23 @@ FrameNames FrameNavigation::Names() const {
 std::string FrameNavigation::GoToNumber(int number, const std::string& word) {
   const auto left = CurrentFrame();
   if (number == left) return word;
-  if (!row_.Has(number)) return Frame(number) + " IS MISSING";
-  if (!SaveChanges()) return Frame(*left) + " IS NOT SAVED";
-  if (!with_.files.OpenPicture(row_.Path(number))) return Frame(number) + " IS NOT LOADED";
+  if (!row_.Has(number)) return FrameWords(number) + " IS MISSING";
+  if (!SaveChanges()) return FrameWords(*left) + " IS NOT SAVED";
+  if (!with_.files.OpenPicture(row_.Path(number))) return FrameWords(number) + " IS NOT LOADED";
   if (left) shown_before_ = left;
   return word;
 }
 
 std::string FrameNavigation::OfferToCreate(int number) {
-  if (number > kLastFrame) return Frame(kLastFrame) + " IS THE LAST ONE";
+  if (number > kLastFrame) return FrameWords(kLastFrame) + " IS THE LAST ONE";
   const FrameNames names = Names();
   const auto left = CurrentFrame();
   if (!with_.messages.Ask("There is no frame after this one\r\nDo you want to create " + names.FileName(number) +
                           " based on the picture in memory?")) {
     return {};
   }
-  if (!SaveChanges()) return Frame(*left) + " IS NOT SAVED";
-  if (!with_.files.SaveTo(names.Path(number))) return Frame(number) + " IS NOT SAVED";
+  if (!SaveChanges()) return FrameWords(*left) + " IS NOT SAVED";
+  if (!with_.files.SaveTo(names.Path(number))) return FrameWords(number) + " IS NOT SAVED";
   if (left) shown_before_ = left;
   Refresh();
   return Skipped(left.value_or(0), number);

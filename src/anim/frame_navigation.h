@@ -14,6 +14,9 @@ namespace kelvo::anim {
 
 inline constexpr const char* kNoFrames = "THERE ARE NO FRAMES";
 
+// "FRAME 12", for the status bar.
+std::string FrameWords(int number);
+
 // The buttons of the frame window.
 enum class FrameMove { kPrevious, kNext, kBack, kFirst };
 

@@ -13,10 +13,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::string Frame(int number) {
-  return "FRAME " + std::to_string(number);
-}
-
 // A file that is on its way into the row or out of it, and goes when it is still there in the end.
 class PassingFile {
  public:
@@ -87,7 +83,7 @@ std::string FrameOrder::Move(const FrameRow& seen, int from, int to) {
   if (from == to) return {};
   return Guard(seen, [&] {
     Renumber(MovingFrame(navigation_.Row().Numbers(), from, to), {});
-    return Frame(from) + " IS FRAME " + std::to_string(to) + " NOW";
+    return FrameWords(from) + " IS FRAME " + std::to_string(to) + " NOW";
   });
 }
 
@@ -103,7 +99,7 @@ std::string FrameOrder::Duplicate(const FrameRow& seen, int number) {
   if (navigation_.CurrentFrame() == number) return Insert(seen, number);
   return Guard(seen, [&] {
     const fs::path& path = navigation_.Row().Path(number);
-    if (!HasPictureSize(path)) return Frame(number) + " IS NO PICTURE";
+    if (!HasPictureSize(path)) return FrameWords(number) + " IS NO PICTURE";
     return Add(number + 1, app::ReadWholeFile(path, app::kMostBytesToCopy));
   });
 }
@@ -111,14 +107,14 @@ std::string FrameOrder::Duplicate(const FrameRow& seen, int number) {
 std::string FrameOrder::Add(int number, const app::Bytes& bytes) {
   const FrameNames names = navigation_.Names();
   const auto room = MakingRoom(navigation_.Row().Numbers(), number);
-  if (!room) return Frame(kLastFrame) + " IS THE LAST ONE";
+  if (!room) return FrameWords(kLastFrame) + " IS THE LAST ONE";
   const PassingFile fresh(names.Folder());
   if (const std::error_code error = app::PlaceFile(fresh.Path(), bytes, {.must_be_new = true})) {
     throw app::FileError(error.message() + ": " + app::TextFromPath(names.Folder()));
   }
   Renumber(*room, {fresh.Path().filename(), names.Path(number).filename()});
   const std::string word = navigation_.GoTo(std::to_string(number));
-  return navigation_.CurrentFrame() == number ? Frame(number) + " IS NEW" : word;
+  return navigation_.CurrentFrame() == number ? FrameWords(number) + " IS NEW" : word;
 }
 
 std::string FrameOrder::Delete(const FrameRow& seen, int number) {
@@ -136,7 +132,7 @@ std::string FrameOrder::Delete(const FrameRow& seen, int number) {
         .Keep(app::ReadWholeFile(file, app::kMostBytesToCopy), app::TextFromPath(file.filename()), "_deleted", ".kvp");
     const PassingFile leaving(navigation_.Names().Folder());
     Renumber(ClosingUp(row.Numbers(), number), {file.filename(), leaving.Path().filename()});
-    return Frame(number) + " IS IN BACKUP";
+    return FrameWords(number) + " IS IN BACKUP";
   });
 }
 

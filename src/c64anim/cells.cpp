@@ -8,7 +8,7 @@ namespace kelvo::c64anim {
 namespace {
 
 // The cell with the colours of `order`; slots that no pixel uses keep those of `before`.
-CellBytes Written(const optimise::SlotOrder& order, const CellBytes& before) {
+CellBytes WithColoursOf(const optimise::SlotOrder& order, const CellBytes& before) {
   const auto& [slot01, slot10, slot11] = order.slots;
   return {.lines = order.lines,
           .screen = static_cast<std::uint8_t>(slot01.value_or(before.screen >> 4) << 4 |
@@ -49,13 +49,16 @@ FrameBytes SteadyCells::Next(const model::PictureImage& frame) {
 
 CellBytes SteadyCells::BytesOf(const model::PictureImage& frame, std::size_t cell, const CellBytes& before) {
   const auto orders = optimise::SlotOrdersOf(frame, static_cast<int>(cell) + 1);
-  const auto [known, is_new] = known_[cell].try_emplace({frame.BackgroundColour.Byte(), Written(orders.front(), {})});
+  const auto [known, is_new] =
+      known_[cell].try_emplace({frame.BackgroundColour.Byte(), WithColoursOf(orders.front(), {})});
   if (!is_new) return known->second;
-  const auto changes = [&](const optimise::SlotOrder& order) { return ChangedBytes(before, Written(order, before)); };
-  known->second =
-      Written(*std::min_element(orders.begin(), orders.end(),
-                                [&](const auto& one, const auto& other) { return changes(one) < changes(other); }),
-              before);
+  const auto changes = [&](const optimise::SlotOrder& order) {
+    return ChangedBytes(before, WithColoursOf(order, before));
+  };
+  known->second = WithColoursOf(
+      *std::min_element(orders.begin(), orders.end(),
+                        [&](const auto& one, const auto& other) { return changes(one) < changes(other); }),
+      before);
   return known->second;
 }
 

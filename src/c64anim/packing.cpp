@@ -2,13 +2,12 @@
 
 #include <algorithm>
 #include <limits>
-#include <ranges>
 
 namespace kelvo::c64anim {
 namespace {
 
 constexpr int kNearBytes = 2, kFarBytes = 3;
-constexpr int kMostPlaces = 200;  // that are looked at for a copy
+constexpr std::size_t kMostPlaces = 200;  // that are looked at for a copy
 // Of the player, at the most.
 constexpr int kPartCycles = 150, kRunCycles = 130, kByteCycles = 20;
 
@@ -94,13 +93,15 @@ Packing::Copy Packing::LongestFar(std::span<const std::uint8_t> bytes) const {
   const auto places = places_.find(key);
   if (places == places_.end()) return longest;
   const std::size_t most = std::min<std::size_t>(bytes.size(), kLongestFar);
-  for (const int address : std::views::reverse(places->second) | std::views::take(kMostPlaces)) {
+  const std::vector<int>& all = places->second;
+  const auto newest = std::span(all).last(std::min(all.size(), kMostPlaces));
+  for (const int address : newest) {
     std::size_t length = 0;
     for (auto at = static_cast<std::size_t>(address);
          length < most && at < kMemory && is_known_[at] && memory_[at] == bytes[length]; ++at) {
       ++length;
     }
-    if (static_cast<int>(length) > longest.length) longest = {address, static_cast<int>(length)};
+    if (static_cast<int>(length) >= longest.length) longest = {address, static_cast<int>(length)};
   }
   return longest;
 }

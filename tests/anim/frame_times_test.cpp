@@ -14,8 +14,8 @@ namespace {
 TEST(FrameTimes, AddUpAtEveryRate) {
   for (int rate = kSlowestRate; rate <= kFastestRate; ++rate) {
     SCOPED_TRACE(rate);
-    std::vector<int> turns;
-    for (int i = 0; i < 40 * rate; ++i) turns.push_back(i % 7 == 0 ? 3 : 1);
+    std::vector<int> turns(static_cast<std::size_t>(40 * rate), 1);
+    for (std::size_t i = 0; i < turns.size(); i += 7) turns[i] = 3;
     const std::vector<int> fields = FieldsOf(turns, rate);
     const int all = std::accumulate(turns.begin(), turns.end(), 0);
     EXPECT_NEAR(std::accumulate(fields.begin(), fields.end(), 0), all * 50.0 / rate, 0.5);

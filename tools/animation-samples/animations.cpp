@@ -63,8 +63,8 @@ Frames DrawDissolve() {
     Canvas canvas = from;
     for (int y = 0; y < PictureImage::kHeight; ++y) {
       for (int x = 0; x < PictureImage::kWidth; ++x) {
-        if (Dither(x, y, static_cast<double>(i) / (kFrames - 1), kBlack, kWhite) == kWhite)
-          canvas.Put(x, y, to.At(x, y));
+        const double share = static_cast<double>(i) / (kFrames - 1);
+        if (Dither(x, y, share, kBlack, kWhite) == kWhite) canvas.Put(x, y, to.At(x, y));
       }
     }
     frames.push_back(canvas.ToPicture(kBlack));

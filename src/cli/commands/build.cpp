@@ -84,10 +84,10 @@ void TakeBuildOptions(const Arguments& arguments, app::SettingsStore& settings) 
   if (arguments.Has(kKeyEnds)) settings.Write(c64out::kKeyEndsPicture, "1");
 }
 
-using Work = std::function<c64out::BuildResult(const fs::path& place, const c64out::BuildSurroundings& with)>;
+using BuildWork = std::function<c64out::BuildResult(const fs::path& place, const c64out::BuildSurroundings& with)>;
 
 // What `work` builds, in a place of its own.
-BuiltProgram Build(const Arguments& arguments, const Ports& ports, const Work& work) {
+BuiltProgram Build(const Arguments& arguments, const Ports& ports, const BuildWork& work) {
   const TemporaryFolder place;
   const app::ProgramFolders folders(place.Path());
   FillSystem(ports.shipped, folders);

@@ -55,9 +55,9 @@ void ZoomPicture::ShowCellUse(const model::PictureImage* picture) {
   Refresh();
 }
 
-void ZoomPicture::ShowChanges(const model::PictureImage& now, std::optional<model::PictureImage> before) {
+void ZoomPicture::ShowChanges(const model::PictureImage& now, const std::optional<model::PictureImage>& before) {
   now_ = &now;
-  before_ = std::move(before);
+  before_ = before;
   Refresh();
 }
 

@@ -27,7 +27,7 @@ class ZoomPicture : public SurfaceView {
   // Tints cells by what is free in `picture`; null: not.
   void ShowCellUse(const model::PictureImage* picture);
   // Tints cells that look otherwise in `now`, which outlives the box, than in `before`; empty: not.
-  void ShowChanges(const model::PictureImage& now, std::optional<model::PictureImage> before);
+  void ShowChanges(const model::PictureImage& now, const std::optional<model::PictureImage>& before);
   bool ShowsChanges() const { return before_.has_value(); }
 
  protected:

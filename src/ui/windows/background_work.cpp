@@ -17,7 +17,7 @@ namespace kelvo::ui {
 namespace {
 
 constexpr std::chrono::milliseconds kMoment{150}, kBetweenLooks{50};
-constexpr int kDialogWidth = 360;
+constexpr int kBarWidth = 360;
 
 class Stopped : public std::exception {};
 
@@ -47,7 +47,7 @@ class WorkDialog : public QDialog {
   WorkDialog(QWidget* window, const QString& what, const WatchedProgress& progress) : QDialog(window) {
     setObjectName("frmWork");
     setWindowTitle(what);
-    setMinimumWidth(kDialogWidth);
+    setMinimumWidth(kBarWidth);
     auto* bar = new QProgressBar(this);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, this);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);

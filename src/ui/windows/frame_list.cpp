@@ -100,7 +100,7 @@ QPixmap FrameList::PictureOf(int number) const {
     return known->picture;
   }
   const auto picture = anim::ReadFrame(path, files::ReadingBy(settings_));
-  const QPixmap small = picture ? SmallPicture(*picture) : QPixmap();
+  QPixmap small = picture ? SmallPicture(*picture) : QPixmap();
   pictures_.insert(number, new Shown{small, written, look_});
   return small;
 }

@@ -177,8 +177,8 @@ void frmZoom::ShowPreview(editing::Points points, model::C64Colour colour) {
   picStd_->ShowPreview(std::move(points), colour);
 }
 
-void frmZoom::ShowChangesFrom(std::optional<model::PictureImage> before) {
-  picStd_->ShowChanges(picture_, std::move(before));
+void frmZoom::ShowChangesFrom(const std::optional<model::PictureImage>& before) {
+  picStd_->ShowChanges(picture_, before);
 }
 
 void frmZoom::SetOnionSkin(model::OnionSkin skin) {

@@ -54,7 +54,7 @@ class frmZoom : public QWidget {
   void ShowCellUse(bool on) { picStd_->ShowCellUse(on ? &picture_ : nullptr); }
 
   // Tints the cells that look otherwise than in `before`; empty: none.
-  void ShowChangesFrom(std::optional<model::PictureImage> before);
+  void ShowChangesFrom(const std::optional<model::PictureImage>& before);
 
   // Other pictures shine through.
   void SetOnionSkin(model::OnionSkin skin);
