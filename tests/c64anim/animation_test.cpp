@@ -9,6 +9,7 @@
 #include "c64anim/placing.h"
 #include "c64out/fill_template.h"
 #include "optimise/slot_order.h"
+#include "support/animation_decoder.h"
 #include "support/files.h"
 #include "support/pictures.h"
 #include "support/run_tool.h"
@@ -207,6 +208,68 @@ TEST_F(AnimationProgram, KeepsTheTimesThatWereTold) {
   ASSERT_TRUE(plan.Fits());
   EXPECT_GT(told.back().torn_fields, 1);
   ExpectPlays(plan.memory, told);
+}
+
+// What is seen, and for how long; the last stays.
+using Looks = std::vector<std::pair<std::vector<int>, int>>;
+
+void Add(const std::vector<int>& look, int fields, Looks& looks) {
+  if (looks.empty() || looks.back().first != look) looks.emplace_back(look, 0);
+  looks.back().second += fields;
+}
+
+std::vector<int> LookOf(const PictureImage& frame) {
+  std::vector<int> look;
+  look.reserve(32000);
+  for (int y = 1; y <= 200; ++y) {
+    for (int x = 1; x <= 160; ++x) look.push_back(support::ColourAt(frame, x, y));
+  }
+  return look;
+}
+
+std::vector<int> LookOf(const FrameBytes& frame) {
+  std::vector<int> look;
+  look.reserve(32000);
+  for (std::size_t y = 0; y < 200; ++y) {
+    for (std::size_t x = 0; x < 160; ++x) {
+      const CellBytes& cell = frame.cells[y / 8 * 40 + x / 4];
+      const std::array<int, 4> colours{frame.background, cell.screen >> 4, cell.screen & 15, cell.colour & 15};
+      look.push_back(colours.at(static_cast<std::size_t>(cell.lines.at(y % 8) >> (6 - x % 4 * 2) & 3)));
+    }
+  }
+  return look;
+}
+
+// Frames of any kind, to the last byte of the memory: their bytes tell them again, in their order and for their times.
+TEST(Animation, ReadsBackAsItWasAdded) {
+  int read = 0;
+  for (unsigned seed = 1; seed <= 12; ++seed) {
+    SCOPED_TRACE(seed);
+    std::mt19937 random(seed);
+    const auto upto = [&random](int most) { return static_cast<int>(random() % static_cast<unsigned>(most)); };
+    PictureImage frame = seed % 3 == 0 ? samples::DrawSnow().front() : support::RandomPicture(seed);
+    Animation animation;
+    std::vector<PictureImage> frames;
+    Looks added, decoded;
+    const int most_cells = seed % 4 == 0 ? 200 : 40;
+    for (int i = 0; i < 30; ++i) {
+      const int fields = std::array{1, 2, 3, 5, 127, 128, 254, 255}.at(random() % 8);
+      animation.Add(frame, fields);
+      frames.push_back(frame);
+      Add(LookOf(frame), fields, added);
+      const PictureImage known = frames[static_cast<std::size_t>(upto(i + 1))];
+      frame = upto(4) == 0 ? known : Changed(frame, upto(1000), 1 + upto(most_cells), 1 + upto(40));
+      if (upto(8) == 0) frame.BackgroundColour = support::Colour(upto(16));
+    }
+    const AnimationPlan plan = animation.Plan(Playing::kOnce);
+    if (!plan.Fits()) continue;
+    for (const auto& turn : support::DecodedAnimation(plan.memory, 1000)) Add(LookOf(turn.frame), turn.fields, decoded);
+    decoded.back().second = 0;
+    added.back().second = 0;
+    ASSERT_TRUE(decoded == added);
+    ++read;
+  }
+  EXPECT_GT(read, 6);  // noise need not fit
 }
 
 TEST(Animation, TakesNothingForWhatLooksTheSame) {
