@@ -26,9 +26,14 @@ constexpr std::string_view kSnapshotEnding = ".prg";
 constexpr std::size_t kDayDigits = 6;  // of a stamp: YYMMDD
 constexpr int kCentury = 2000;         // that its years are in
 
+// Not when it cannot be read: another program may take it away meanwhile.
 bool Holds(const fs::path& file, std::span<const std::uint8_t> bytes) {
-  return fs::is_regular_file(fs::symlink_status(file)) &&
-         std::ranges::equal(app::ReadWholeFile(file, app::kMostBytesToCopy), bytes);
+  try {
+    return fs::is_regular_file(fs::symlink_status(file)) &&
+           std::ranges::equal(app::ReadWholeFile(file, app::kMostBytesToCopy), bytes);
+  } catch (const app::FileError&) {
+    return false;
+  }
 }
 
 // The day that a stamp begins with, if it is one.
