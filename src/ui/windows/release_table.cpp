@@ -9,12 +9,12 @@ namespace {
 
 using c64out::ReleaseRow;
 
-struct Column {
+struct ReportColumn {
   const char* caption;
   QVariant (*value)(const ReleaseRow& row);
 };
 
-constexpr std::array<Column, 6> kColumns{{
+constexpr std::array<ReportColumn, 6> kColumns{{
     {"Frame", [](const ReleaseRow& row) { return QVariant(row.frame); }},
     {"Cells changed", [](const ReleaseRow& row) { return QVariant(row.cells); }},
     {"Bytes", [](const ReleaseRow& row) { return QVariant(row.bytes); }},
