@@ -57,6 +57,7 @@ std::optional<std::vector<NumberChange>> MakingRoom(std::span<const int> numbers
   const std::vector<int> run = RunBehind(numbers, number - 1);
   if (number + static_cast<int>(run.size()) > kLastFrame) return std::nullopt;
   std::vector<NumberChange> changes;
+  changes.reserve(run.size());
   for (const int moved : run) changes.push_back({moved, moved + 1});
   return changes;
 }

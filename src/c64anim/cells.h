@@ -2,9 +2,9 @@
 #pragma once
 
 #include <array>
-#include <compare>
 #include <cstdint>
 #include <map>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -17,7 +17,11 @@ struct CellBytes {
   std::uint8_t screen = 0;
   std::uint8_t colour = 0;  // 0..15
 
-  friend auto operator<=>(const CellBytes&, const CellBytes&) = default;
+  friend bool operator==(const CellBytes&, const CellBytes&) = default;
+  // An order of their own, so that they can be found.
+  friend bool operator<(const CellBytes& one, const CellBytes& other) {
+    return std::tie(one.lines, one.screen, one.colour) < std::tie(other.lines, other.screen, other.colour);
+  }
 };
 
 // A frame as a C64 holds it; at first nothing, all bytes 0.
