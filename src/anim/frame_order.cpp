@@ -148,7 +148,8 @@ void FrameOrder::Renumber(const std::vector<NumberChange>& changes, const Renami
   }
   RenameAll(names.Folder(), renamings, rename_);
   const auto number_now = [&](int number) -> std::optional<int> {
-    const auto change = std::find_if(changes.begin(), changes.end(), [&](auto& one) { return one.from == number; });
+    const auto change =
+        std::find_if(changes.begin(), changes.end(), [&](const auto& one) { return one.from == number; });
     if (change != changes.end()) return change->to;
     const bool is_gone = before.Has(number) && before.Path(number).filename() == passing.from;
     return is_gone ? std::nullopt : std::optional(number);

@@ -116,9 +116,9 @@ QStringList FrameList::mimeTypes() const {
 }
 
 QMimeData* FrameList::mimeData(const QModelIndexList& indexes) const {
-  auto* data = new QMimeData;
-  data->setData(kFrameType, QByteArray::number(NumberAt(indexes.first().row())));
-  return data;
+  auto* dragged = new QMimeData;
+  dragged->setData(kFrameType, QByteArray::number(NumberAt(indexes.first().row())));
+  return dragged;
 }
 
 // In front of `row`: behind the last one where it is -1.

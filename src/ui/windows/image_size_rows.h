@@ -13,6 +13,8 @@ class ImageSizeRows {
  public:
   // Adds them to `form`.
   ImageSizeRows(QFormLayout* form, QWidget* parent);
+  ImageSizeRows(const ImageSizeRows&) = delete;
+  ImageSizeRows& operator=(const ImageSizeRows&) = delete;
 
   images::ImageSize Size() const { return static_cast<images::ImageSize>(cboSize_->currentIndex()); }
   int Scale() const { return scale_->value(); }
