@@ -34,14 +34,16 @@ Bytes Unpacked(const Memory& memory, int& address) {
   for (int run = memory.At(address++); run != 0; run = memory.At(address++)) {
     if (run >= kFarCopy) {
       const int from = memory.Word(address);
-      for (int i = 0; i < run - kFarCopy + kShortestFar; ++i)
+      for (int i = 0; i < run - kFarCopy + kShortestFar; ++i) {
         part.push_back(static_cast<std::uint8_t>(memory.At(from + i)));
+      }
       address += 2;
     } else if (run >= kNearCopy) {
       const int distance = memory.At(address++);
       Require(distance > 0 && distance <= std::ssize(part));
-      for (int i = 0; i < run - kNearCopy + kShortestNear; ++i)
+      for (int i = 0; i < run - kNearCopy + kShortestNear; ++i) {
         part.push_back(part[part.size() - static_cast<std::size_t>(distance)]);
+      }
     } else {
       for (int i = 0; i < run; ++i) part.push_back(static_cast<std::uint8_t>(memory.At(address++)));
     }
