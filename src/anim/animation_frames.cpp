@@ -16,15 +16,6 @@ namespace fs = std::filesystem;
 
 constexpr std::size_t kMostNamed = 6;
 
-FrameTimes TimesOf(const FrameNames& names) {
-  const std::string list = ReadListOfTimes(names);
-  try {
-    return FrameTimes(list);
-  } catch (const std::runtime_error& error) {
-    throw std::runtime_error(app::TextFromPath(names.TimesPath().filename()) + ", " + error.what());
-  }
-}
-
 void RequirePictureSize(const fs::path& frame) {
   const files::PictureFormat& format = files::FormatOf(files::kOwnType);
   const std::uintmax_t size = app::FileSize(frame);
@@ -41,7 +32,7 @@ AnimationFrames FindFrames(const AnimProperties& properties) {
     throw std::runtime_error("There are no frames such as " + app::TextFromPath(names.Path(kFirstFrame)));
   }
   AnimationFrames found{.folder = names.Folder(), .name = names.AnimationName()};
-  const FrameTimes times = TimesOf(names);
+  const FrameTimes times = ReadFrameTimes(names);
   for (int number = kFirstFrame; number <= row.Last(); ++number) {
     if (row.Has(number)) {
       RequirePictureSize(row.Path(number));

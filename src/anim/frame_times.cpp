@@ -5,6 +5,7 @@
 #include <stdexcept>
 #include <string>
 
+#include "app/path_text.h"
 #include "app/text.h"
 #include "app/whole_file.h"
 
@@ -57,6 +58,15 @@ FrameTimes::FrameTimes(std::string_view list) {
 int FrameTimes::TurnsOf(int number) const {
   const auto found = turns_.find(number);
   return found == turns_.end() ? 1 : found->second;
+}
+
+FrameTimes ReadFrameTimes(const FrameNames& names) {
+  const std::string list = ReadListOfTimes(names);
+  try {
+    return FrameTimes(list);
+  } catch (const std::runtime_error& error) {
+    throw std::runtime_error(app::TextFromPath(names.TimesPath().filename()) + ", " + error.what());
+  }
 }
 
 std::string ReadListOfTimes(const FrameNames& names) {

@@ -31,6 +31,9 @@ class FrameTimes {
   std::map<int, int> turns_;
 };
 
+// The list of these frames; one turn each where there is none. Throws std::runtime_error that names file and line.
+FrameTimes ReadFrameTimes(const FrameNames& names);
+
 // The text of the list; empty where there is none. Throws app::FileError for one that cannot be read.
 std::string ReadListOfTimes(const FrameNames& names);
 
