@@ -13,23 +13,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// A file that is on its way into the row or out of it, and goes when it is still there in the end.
-class PassingFile {
- public:
-  explicit PassingFile(const fs::path& folder) : path_(app::TemporaryName(folder)) {}
-  ~PassingFile() {
-    std::error_code ignored;
-    fs::remove(path_, ignored);
-  }
-  PassingFile(const PassingFile&) = delete;
-  PassingFile& operator=(const PassingFile&) = delete;
-
-  const fs::path& Path() const { return path_; }
-
- private:
-  fs::path path_;
-};
-
 // Those that follow `number` in the row without a gap.
 std::vector<int> RunBehind(std::span<const int> numbers, int number) {
   std::vector<int> run;
@@ -109,7 +92,7 @@ std::string FrameOrder::Add(int number, const app::Bytes& bytes) {
   const FrameNames names = navigation_.Names();
   const auto room = MakingRoom(navigation_.Row().Numbers(), number);
   if (!room) return FrameWords(kLastFrame) + " IS THE LAST ONE";
-  const PassingFile fresh(names.Folder());
+  const app::PassingPlace fresh(names.Folder());
   if (const std::error_code error = app::PlaceFile(fresh.Path(), bytes, {.must_be_new = true})) {
     throw app::FileError(error.message() + ": " + app::TextFromPath(names.Folder()));
   }
@@ -131,7 +114,7 @@ std::string FrameOrder::Delete(const FrameRow& seen, int number) {
     const fs::path file = row.Path(number);
     files::Backups(with_.folders, with_.clock)
         .Keep(app::ReadWholeFile(file, app::kMostBytesToCopy), app::TextFromPath(file.filename()), "_deleted", ".kvp");
-    const PassingFile leaving(navigation_.Names().Folder());
+    const app::PassingPlace leaving(navigation_.Names().Folder());
     Renumber(ClosingUp(row.Numbers(), number), {file.filename(), leaving.Path().filename()});
     return FrameWords(number) + " IS IN BACKUP";
   });
