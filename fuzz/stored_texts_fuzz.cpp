@@ -72,8 +72,8 @@ void CheckNumbers(support::MapSettings settings) {
   Require(IsBetween(rate, anim::kSlowestRate, anim::kFastestRate), "the rate is in range");
   anim::KeepPlayRate(settings, rate);
   Require(anim::ReadPlayRate(settings) == rate, "what is kept reads the same");
-  editing::IsOn(settings, editing::k4thColReplaces);
-  editing::IsOn(settings, editing::kReplaceLeastUsedColWhenFilling);
+  app::IsOn(settings, editing::k4thColReplaces);
+  app::IsOn(settings, editing::kReplaceLeastUsedColWhenFilling);
 }
 
 void CheckFrames(const support::MapSettings& settings) {

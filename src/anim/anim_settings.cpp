@@ -27,7 +27,7 @@ void KeepPlaying(app::SettingsStore& settings, Playing playing) {
 }
 
 bool ReadOnionSkin(const app::SettingsStore& settings) {
-  return app::ReadNumber(settings, kOnionSkin, 0, 1) == 1;
+  return app::IsOn(settings, kOnionSkin);
 }
 
 void KeepOnionSkin(app::SettingsStore& settings, bool on) {

@@ -14,27 +14,12 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// A file that is on its way into the row or out of it, and goes when it is still there in the end.
-class PassingFile {
- public:
-  explicit PassingFile(const fs::path& folder) : path_(app::TemporaryName(folder)) {}
-  ~PassingFile() {
-    std::error_code ignored;
-    fs::remove(path_, ignored);
+// Makes a new file.
+void Place(const fs::path& file, const app::Bytes& bytes) {
+  if (const std::error_code error = app::PlaceFile(file, bytes, {.must_be_new = true})) {
+    throw app::FileError(error.message() + ": " + app::TextFromPath(file.parent_path()));
   }
-  PassingFile(const PassingFile&) = delete;
-  PassingFile& operator=(const PassingFile&) = delete;
-
-  const fs::path& Path() const { return path_; }
-  void Write(const app::Bytes& bytes) const {
-    if (const std::error_code error = app::PlaceFile(path_, bytes, {.must_be_new = true})) {
-      throw app::FileError(error.message() + ": " + app::TextFromPath(path_.parent_path()));
-    }
-  }
-
- private:
-  fs::path path_;
-};
+}
 
 // The list of times for frames that have other numbers: a file that takes the list's place when both are renamed.
 class RenumberedTimes {
@@ -43,14 +28,14 @@ class RenumberedTimes {
   RenumberedTimes(const FrameNames& names, NumberNow&& number_now) : old_(names.Folder()), fresh_(names.Folder()) {
     const std::string list = ReadListOfTimes(names), now = RenumberedList(list, number_now);
     if (now == list) return;
-    fresh_.Write({now.begin(), now.end()});
+    Place(fresh_.Path(), {now.begin(), now.end()});
     const fs::path name = names.TimesPath().filename();
     renamings_ = {{name, old_.Path().filename()}, {fresh_.Path().filename(), name}};
   }
   const std::vector<Renaming>& Renamings() const { return renamings_; }
 
  private:
-  PassingFile old_, fresh_;
+  app::PassingPlace old_, fresh_;
   std::vector<Renaming> renamings_;
 };
 
@@ -133,8 +118,8 @@ std::string FrameOrder::Add(int number, const app::Bytes& bytes) {
   const FrameNames names = navigation_.Names();
   const auto room = MakingRoom(navigation_.Row().Numbers(), number);
   if (!room) return FrameWords(kLastFrame) + " IS THE LAST ONE";
-  const PassingFile fresh(names.Folder());
-  fresh.Write(bytes);
+  const app::PassingPlace fresh(names.Folder());
+  Place(fresh.Path(), bytes);
   Renumber(*room, {fresh.Path().filename(), names.Path(number).filename()});
   const std::string word = navigation_.GoTo(std::to_string(number));
   return navigation_.CurrentFrame() == number ? FrameWords(number) + " IS NEW" : word;
@@ -153,7 +138,7 @@ std::string FrameOrder::Delete(const FrameRow& seen, int number) {
     const fs::path file = row.Path(number);
     files::Backups(with_.folders, with_.clock)
         .Keep(app::ReadWholeFile(file, app::kMostBytesToCopy), app::TextFromPath(file.filename()), "_deleted", ".kvp");
-    const PassingFile leaving(navigation_.Names().Folder());
+    const app::PassingPlace leaving(navigation_.Names().Folder());
     Renumber(ClosingUp(row.Numbers(), number), {file.filename(), leaving.Path().filename()});
     return FrameWords(number) + " IS IN BACKUP";
   });

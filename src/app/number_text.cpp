@@ -29,4 +29,8 @@ std::string ToHex(int value, int digits) {
   return text;
 }
 
+std::string Counted(int count, std::string_view what) {
+  return std::to_string(count) + " " + std::string(what) + (count == 1 ? "" : "s");
+}
+
 }  // namespace kelvo::app

@@ -1,4 +1,4 @@
-// Numbers as the binary and hexadecimal texts that the program shows and writes.
+// Numbers as the texts that the program shows and writes: binary, hexadecimal, and with what they count.
 #pragma once
 
 #include <string>
@@ -17,5 +17,8 @@ int HexDigitValue(char digit);
 
 // Upper-case hexadecimal of `value` (0 or more), padded with '0' to at least `digits` characters.
 std::string ToHex(int value, int digits = 2);
+
+// "1 cell", "2 cells".
+std::string Counted(int count, std::string_view what);
 
 }  // namespace kelvo::app

@@ -10,4 +10,8 @@ int ReadNumber(const SettingsStore& settings, const Setting& setting, int lowest
   return WholeNumber<int>(setting.default_value).value_or(lowest);
 }
 
+bool IsOn(const SettingsStore& settings, const Setting& setting) {
+  return ReadNumber(settings, setting, 0, 1) == 1;
+}
+
 }  // namespace kelvo::app

@@ -21,4 +21,7 @@ class SettingsStore {
 // The setting as a number; its default when the text is no number or lies outside lowest..highest.
 int ReadNumber(const SettingsStore& settings, const Setting& setting, int lowest, int highest);
 
+// Whether a setting that is 0 or 1 is 1, read as ReadNumber() does.
+bool IsOn(const SettingsStore& settings, const Setting& setting);
+
 }  // namespace kelvo::app

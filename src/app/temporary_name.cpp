@@ -4,6 +4,7 @@
 #include <random>
 #include <string>
 #include <string_view>
+#include <system_error>
 
 namespace kelvo::app {
 namespace {
@@ -18,6 +19,11 @@ fs::path TemporaryName(const fs::path& folder) {
   std::random_device random;
   const std::string number = std::to_string((std::uint64_t{random()} << 32) | random());
   return folder / (std::string(kTemporaryStart) + number + std::string(kTemporaryEnd));
+}
+
+PassingPlace::~PassingPlace() {
+  std::error_code ignored;
+  fs::remove_all(path_, ignored);
 }
 
 // In the system's own characters: not every name can be told in others.

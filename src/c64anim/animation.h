@@ -29,8 +29,6 @@ struct ChangeCost {
   Pace pace{};
   bool is_packed = false;
   bool fits = false;  // into what memory is left
-
-  double MostRate() const { return static_cast<double>(kFieldsPerSecond) / pace.fields; }  // frames a second
 };
 
 struct AnimationPlan {

@@ -41,14 +41,15 @@
 #pragma once
 
 #include <cstdint>
-#include <vector>
+
+#include "app/bytes.h"
 
 namespace kelvo::c64anim {
 
-using Bytes = std::vector<std::uint8_t>;
+using app::Bytes;
 
 inline constexpr int kAnimationStart = 0x0E00, kScreen = 0x5C00, kBitmap = 0x6000, kBehindBitmap = 0x8000,
-                     kAnimationEnd = 0xD000, kHigh = 0xE000, kHighEnd = 0xFFFA, kBuffer = 0x0400, kBufferSize = 0x0400;
+                     kAnimationEnd = 0xD000, kHigh = 0xE000, kHighEnd = 0xFFFA, kBufferSize = 0x0400;
 
 inline constexpr int kFieldsPerSecond = 50, kMostFields = 127;
 inline constexpr int kStepBytes = 3;

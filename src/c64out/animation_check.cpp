@@ -6,7 +6,6 @@
 
 #include "anim/playing_order.h"
 #include "c64/beam.h"
-#include "model/pixel_colour.h"
 
 namespace kelvo::c64out {
 namespace {
@@ -43,21 +42,8 @@ std::vector<Turn> TurnsOf(const Release& release) {
   return turns;
 }
 
-using Pixels = decltype(c64::Screen::pixels);
-
-Pixels PixelsOf(const model::PictureImage& picture) {
-  Pixels pixels;
-  for (int y = 0; y < c64::Screen::kHeight; ++y) {
-    for (int x = 0; x < c64::Screen::kWidth; ++x) {
-      pixels[static_cast<std::size_t>(y * c64::Screen::kWidth + x)] =
-          static_cast<std::uint8_t>(model::GetPixelData(picture, x / 2 + 1, y + 1).colour.Number());
-    }
-  }
-  return pixels;
-}
-
 // How many of the next `most` fields pass before `wanted` is seen, which `screen` is then; `most` when it is not.
-int Await(const Pixels& wanted, int most, c64::Beam& beam, c64::Screen& screen) {
+int Await(const ScreenPixels& wanted, int most, c64::Beam& beam, c64::Screen& screen) {
   int waited = 0;
   while (waited < most && screen.pixels != wanted) {
     screen = beam.NextField();
@@ -70,7 +56,7 @@ ProgramFinding Watch(c64::Beam& beam, const Release& release) {
   c64::Screen screen = beam.NextField();
   Await(PixelsOf(release.first_pictures.front()), kMostFieldsToBegin, beam, screen);
   for (const Turn& turn : TurnsOf(release)) {
-    const Pixels wanted = PixelsOf(release.first_pictures[turn.frame]);
+    const ScreenPixels wanted = PixelsOf(release.first_pictures[turn.frame]);
     const int waited = Await(wanted, turn.coming, beam, screen);
     for (int field = std::min(waited, turn.fields - 1); field < turn.fields; ++field, screen = beam.NextField()) {
       if (screen.pixels == wanted) continue;
@@ -84,19 +70,11 @@ ProgramFinding Watch(c64::Beam& beam, const Release& release) {
 }  // namespace
 
 ProgramFinding TryAnimation(std::span<const std::uint8_t> program, const Release& release, bool via_codenet) {
-  try {
-    c64::Machine machine;
-    machine.LetItChangeWhatIsShown();
-    if (via_codenet) machine.LeaveUnclean();
-    machine.Load(program);
+  return TryInC64(program, via_codenet, [&](c64::Machine& machine) {
     c64::Beam beam(machine);
     machine.Start();
     return Watch(beam, release);
-  } catch (const c64::MachineCrash& crash) {
-    return {ProgramState::kCrashes, crash.what()};
-  } catch (const c64::MachineFault& fault) {
-    return {ProgramState::kCannotBeJudged, fault.what()};
-  }
+  });
 }
 
 }  // namespace kelvo::c64out

@@ -4,6 +4,7 @@
 #include <set>
 
 #include "anim/frame_times.h"
+#include "app/number_text.h"
 #include "c64anim/steps.h"
 #include "c64out/animation_check.h"
 #include "files/load_picture.h"
@@ -42,10 +43,6 @@ Numbers NumbersOf(const std::vector<ReleaseRow>& rows, bool (*is)(const ReleaseR
     if (is(row)) numbers.insert(row.frame);
   }
   return {numbers.begin(), numbers.end()};
-}
-
-std::string Counted(int number, const std::string& one) {
-  return std::to_string(number) + " " + one + (number == 1 ? "" : "s");
 }
 
 }  // namespace
@@ -130,8 +127,8 @@ std::string Refusal(const Release& release) {
   if (row == rows.end()) return "The animation does not fit into the memory of a C64.";
   const bool leads_back = row - rows.begin() == std::ssize(release.fields);
   return (leads_back ? "The way back to frame " : "Frame ") + std::to_string(row->frame) +
-         " does not fit into the memory of a C64: " + Counted(row->cells, "cell") + " changed, " +
-         Counted(row->bytes, "byte") + ".";
+         " does not fit into the memory of a C64: " + app::Counted(row->cells, "cell") + " changed, " +
+         app::Counted(row->bytes, "byte") + ".";
 }
 
 std::string Advice(const Release& release) {

@@ -56,7 +56,7 @@ class BuildJob {
   // A setting, trimmed of surrounding blanks.
   std::string Setting(const app::Setting& setting) const;
 
-  bool IsOn(const app::Setting& setting) const { return app::ReadNumber(with_.settings, setting, 0, 1) == 1; }
+  bool IsOn(const app::Setting& setting) const { return app::IsOn(with_.settings, setting); }
 
   // The lines of templates that this build asks for.
   TemplateMarks Marks() const { return {choice_.ViaCodenet, IsOn(kKeyEndsPicture), IsOn(kFadeIn)}; }

@@ -106,7 +106,7 @@ CodenetForm LoadCodenetForm(const app::SettingsStore& settings) {
   CodenetForm form;
   form.file = settings.Read(kSendFile);
   form.file_type = settings.Read(kFileType) == kBinaryType ? FileType::kBinary : FileType::kPrg;
-  form.set_destination = app::ReadNumber(settings, kSetDestAddress, 0, 1) == 1;
+  form.set_destination = app::IsOn(settings, kSetDestAddress);
   form.destination = settings.Read(kDestAddress);
   form.execute = LoadExecuteChoice(settings);
   form.execute_address = settings.Read(kExecuteAddress);

@@ -49,6 +49,21 @@ bool LeavesImageAlone(const Wishes& wishes) {
          preparation.contrast == 0 && preparation.saturation == 0 && preparation.gamma == 1;
 }
 
+// The picture that the image is already, in the palette that is wanted or one of the others; empty where it is none.
+std::optional<Converted> TakenExactly(const RgbImage& image, const std::vector<model::SurfaceColours>& others,
+                                      const Wishes& wishes) {
+  if (!LeavesImageAlone(wishes)) return std::nullopt;
+  std::vector<model::SurfaceColours> palettes{wishes.palette};
+  palettes.insert(palettes.end(), others.begin(), others.end());
+  auto map = ExactPicture(image, palettes, wishes.background);
+  if (!map) return std::nullopt;
+  Converted converted;
+  converted.map = std::move(*map);
+  converted.exact = true;
+  converted.cell_errors.resize(static_cast<std::size_t>(converted.map.grid.Cells()));
+  return converted;
+}
+
 }  // namespace
 
 Conversion::Conversion(RgbImage image, std::vector<model::SurfaceColours> palettes)
@@ -64,17 +79,7 @@ const LightMap& Conversion::SampleFor(const Wishes& wishes) {
 
 Converted Conversion::Convert(const Wishes& wishes, app::Progress& progress) {
   Steps steps(progress);
-  if (LeavesImageAlone(wishes)) {
-    std::vector<model::SurfaceColours> palettes{wishes.palette};
-    palettes.insert(palettes.end(), palettes_.begin(), palettes_.end());
-    if (auto map = ExactPicture(image_, palettes, wishes.background)) {
-      Converted converted;
-      converted.map = std::move(*map);
-      converted.exact = true;
-      converted.cell_errors.resize(static_cast<std::size_t>(converted.map.grid.Cells()));
-      return converted;
-    }
-  }
+  if (auto exact = TakenExactly(image_, palettes_, wishes)) return std::move(*exact);
   const CellGrid& grid = wishes.grid;
   const LightMap light = AdjustLight(SampleFor(wishes), wishes.preparation);
   std::vector<Triple> lab;

@@ -41,7 +41,7 @@ Points CircleTool::Preview(model::PixelPoint pointer) const {
 
 Points CircleTool::Outline(int radius) const {
   return DrawCircle(*centre_, radius,
-                    IsOn(settings_, kCloseCircles) ? CircleOutline::kClosed : CircleOutline::kSampled);
+                    app::IsOn(settings_, kCloseCircles) ? CircleOutline::kClosed : CircleOutline::kSampled);
 }
 
 }  // namespace kelvo::editing

@@ -7,7 +7,7 @@ namespace kelvo::editing {
 PressResult FillTool::Press(const PointerEvent& event) {
   const app::WaitScope wait(ports_.pointer);
   undo_.SaveUndoData("Undo fill");
-  const FullCellInFill full_cell = IsOn(ports_.settings, kReplaceLeastUsedColWhenFilling)
+  const FullCellInFill full_cell = app::IsOn(ports_.settings, kReplaceLeastUsedColWhenFilling)
                                        ? FullCellInFill::kReplaceLeastUsed
                                        : FullCellInFill::kKeep;
   app::Guarded(ports_.log, "MDIFormMenu_FloodFill",

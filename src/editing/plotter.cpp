@@ -8,7 +8,7 @@
 namespace kelvo::editing {
 
 bool Plotter::Plot(const Points& points, model::C64Colour pen) {
-  const FullCell full_cell = IsOn(settings_, k4thColReplaces) ? FullCell::kRecolour : FullCell::kRefuse;
+  const FullCell full_cell = app::IsOn(settings_, k4thColReplaces) ? FullCell::kRecolour : FullCell::kRefuse;
   bool refused = false;
   for (const model::PixelPoint& point : points) {
     if (PlotPoint(point, pen, full_cell) == PlotResult::kCellFull) refused = true;
@@ -28,7 +28,7 @@ PlotResult Plotter::PlotPoint(model::PixelPoint point, model::C64Colour pen, Ful
 
 void Plotter::TellRefusal() {
   constexpr std::string_view kRefusal = "Not possible - all colors used";
-  if (IsOn(settings_, kTellRefusalsInStatusBar)) return status_.Warn(kRefusal);
+  if (app::IsOn(settings_, kTellRefusalsInStatusBar)) return status_.Warn(kRefusal);
   const bool note_from_now_on = messages_.InformWithChoice(kRefusal, "Tell it in the status bar from now on");
   if (note_from_now_on) settings_.Write(kTellRefusalsInStatusBar, "1");
 }

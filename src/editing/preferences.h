@@ -11,8 +11,4 @@ inline constexpr app::Setting kCloseCircles{"Preferences", "CloseCircles", "0"};
 // A full cell that refuses a color is told in the status bar instead of a message box.
 inline constexpr app::Setting kTellRefusalsInStatusBar{"Preferences", "TellRefusalsInStatusBar", "0"};
 
-inline bool IsOn(const app::SettingsStore& settings, const app::Setting& preference) {
-  return app::ReadNumber(settings, preference, 0, 1) == 1;
-}
-
 }  // namespace kelvo::editing

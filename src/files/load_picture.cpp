@@ -5,7 +5,7 @@
 namespace kelvo::files {
 
 Reading ReadingBy(const app::SettingsStore& settings) {
-  return app::ReadNumber(settings, kReadFilesExactly, 0, 1) == 1 ? Reading::kExact : Reading::kDocumented;
+  return app::IsOn(settings, kReadFilesExactly) ? Reading::kExact : Reading::kDocumented;
 }
 
 app::Bytes ReadPictureFile(const std::filesystem::path& file, FormatType type) {

@@ -185,7 +185,9 @@ void History::TakeRecord(std::span<const std::uint8_t> record) {
   if (step >= std::max<std::size_t>(facts_.size(), 1) || opened > opened_.size()) throw DamagedSteps();
 
   if (opened == opened_.size()) opened_.emplace_back();
-  if (!path.empty()) opened_[opened].file = files::SetFileParameters(app::PathFromText(path));
+  files::CurrentFile& file = opened_[opened].file;
+  file.CurrentFilePath = app::PathFromText(path);
+  if (file.HasFile()) file.CurrentFileName = files::NameOfPath(file.CurrentFilePath);
   if (kind == kAmendment || facts_.empty()) {
     tree_.Amend(static_cast<StepId>(step), delta);
   } else {

@@ -24,26 +24,11 @@ void Require(const std::error_code& error, const fs::path& file) {
   if (error) throw app::FileError(app::TextFromPath(file) + ": it cannot be written: " + error.message());
 }
 
-// A folder in the one that it is for. It goes with all that is in it.
-class PassingFolder {
- public:
-  explicit PassingFolder(const fs::path& folder) : path_(app::TemporaryName(folder)) {
-    std::error_code error;
-    fs::create_directory(path_, error);
-    Require(error, folder);
-  }
-  ~PassingFolder() {
-    std::error_code ignored;
-    fs::remove_all(path_, ignored);
-  }
-  PassingFolder(const PassingFolder&) = delete;
-  PassingFolder& operator=(const PassingFolder&) = delete;
-
-  const fs::path& Path() const { return path_; }
-
- private:
-  fs::path path_;
-};
+void MakeFolder(const fs::path& made, const fs::path& wanted_in) {
+  std::error_code error;
+  fs::create_directory(made, error);
+  Require(error, wanted_in);
+}
 
 }  // namespace
 
@@ -68,7 +53,8 @@ fs::path PngFileOf(const anim::AnimationFrame& frame, const fs::path& folder) {
 void WritePngs(const anim::AnimationFrames& animation, const AnimationLook& look, const fs::path& folder,
                app::Progress& progress) {
   const app::ProgressScope scope(progress, static_cast<int>(animation.frames.size()));
-  const PassingFolder made(folder);
+  const app::PassingPlace made(folder);
+  MakeFolder(made.Path(), folder);
   int done = 0;
   for (const anim::AnimationFrame& frame : animation.frames) {
     progress.Advance(done++);

@@ -241,7 +241,7 @@ void MainFrame::ToggleSetting(const app::Setting& setting) {
 }
 
 bool MainFrame::IsOn(const app::Setting& setting) const {
-  return app::ReadNumber(settings_, setting, 0, 1) == 1;
+  return app::IsOn(settings_, setting);
 }
 
 void MainFrame::ShowWhatIf() {

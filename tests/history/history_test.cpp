@@ -139,7 +139,8 @@ TEST(History, KnowsWhichStepItsFileHolds) {
 
   history.FilesMoved([](const std::filesystem::path& path) { return path == "c" ? "b" : path == "b" ? "c" : path; });
   History restored(document);
-  restored.Restore(history.TakeNews());
+  app::Bytes recorded = history.TakeNews();
+  restored.Restore(recorded);
   for (const auto& [step, name] : {std::pair{third, "b"}, {opened, "c"}}) {
     go(step);
     EXPECT_EQ(document.file.CurrentFilePath, name);
@@ -150,6 +151,10 @@ TEST(History, KnowsWhichStepItsFileHolds) {
   go(opened);
   EXPECT_FALSE(document.file.HasFile());
   EXPECT_TRUE(document.HasUnsavedWork());
+  const app::Bytes news = history.TakeNews();
+  recorded.insert(recorded.end(), news.begin(), news.end());
+  restored.Restore(recorded);
+  EXPECT_FALSE(restored.FileOf(opened).HasFile());
 }
 
 }  // namespace

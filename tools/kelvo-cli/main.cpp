@@ -5,9 +5,9 @@
 
 #include "app/path_text.h"
 #include "arguments/program_arguments.h"
-#include "cli/commands/build.h"
 #include "cli/commands/commands.h"
 #include "cli/standard_streams.h"
+#include "cli/temporary_folder.h"
 #include "editors_settings.h"
 #include "tool_runner.h"
 

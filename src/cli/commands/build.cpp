@@ -1,16 +1,15 @@
 #include "cli/commands/build.h"
 
-#include <atomic>
+#include <filesystem>
 #include <functional>
-#include <random>
 #include <stdexcept>
 #include <vector>
 
-#include "app/number_text.h"
 #include "app/whole_file.h"
 #include "c64out/build_animation.h"
 #include "c64out/build_compo_pic.h"
 #include "c64out/output_settings.h"
+#include "cli/temporary_folder.h"
 
 namespace kelvo::cli {
 namespace {
@@ -19,9 +18,6 @@ namespace fs = std::filesystem;
 
 constexpr const char* kPicture = "picture.kvp";
 constexpr c64out::CompoPicChoice kProgramAlone{.MakePrg = true, .AsksForVice = false};
-
-std::atomic<int> temporary_folders = 0;
-static_assert(std::atomic<int>::is_always_lock_free, "a signal handler asks");
 
 // What a build tells its user.
 class BuildWords final : public app::Messages, public app::PromptOutput {
@@ -102,28 +98,6 @@ BuiltProgram Build(const Arguments& arguments, const Ports& ports, const BuildWo
 }
 
 }  // namespace
-
-TemporaryFolder::TemporaryFolder() {
-  std::random_device random;
-  std::error_code error;
-  const fs::path folder = fs::temp_directory_path(error);
-  while (!error && path_.empty()) {
-    const fs::path path = folder / ("kelvo-cli-" + app::ToHex(static_cast<int>(random() & 0x7FFFFFFF), 8));
-    if (fs::create_directory(path, error)) path_ = path;
-  }
-  if (!error) ++temporary_folders;
-  if (error) throw app::FileError("no temporary folder can be made: " + error.message());
-}
-
-TemporaryFolder::~TemporaryFolder() {
-  std::error_code ignored;
-  fs::remove_all(path_, ignored);
-  --temporary_folders;
-}
-
-bool TemporaryFolder::AnyIsThere() {
-  return temporary_folders > 0;
-}
 
 BuiltProgram BuildProgram(const model::PictureImage& picture, const Arguments& arguments, const Ports& ports) {
   return Build(arguments, ports, [&](const fs::path& place, const c64out::BuildSurroundings& with) {

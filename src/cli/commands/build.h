@@ -1,7 +1,6 @@
 // Builds of C64 programs, as the editor makes them.
 #pragma once
 
-#include <filesystem>
 #include <string>
 
 #include "app/bytes.h"
@@ -10,24 +9,6 @@
 #include "model/picture_image.h"
 
 namespace kelvo::cli {
-
-// A folder among the temporary ones that is removed with all that is in it when this goes out of scope. No two are the
-// same.
-class TemporaryFolder {
- public:
-  // Throws app::FileError.
-  TemporaryFolder();
-  ~TemporaryFolder();
-  TemporaryFolder(const TemporaryFolder&) = delete;
-  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-
-  const std::filesystem::path& Path() const { return path_; }
-  // May be asked by a signal handler.
-  static bool AnyIsThere();
-
- private:
-  std::filesystem::path path_;
-};
 
 struct BuiltProgram {
   app::Bytes bytes;

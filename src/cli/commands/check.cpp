@@ -2,11 +2,11 @@
 #include <utility>
 #include <vector>
 
+#include "app/number_text.h"
 #include "cli/commands/commands.h"
 #include "cli/commands/image_input.h"
 #include "cli/commands/palette_choice.h"
 #include "cli/commands/picture_input.h"
-#include "cli/counted.h"
 #include "convert/exact_picture.h"
 #include "model/palette.h"
 
@@ -47,7 +47,7 @@ std::string WhyNone(const convert::RgbImage& image) {
 
 Report Judged(const std::string& name, const convert::ColourMap& map, model::C64Colour background) {
   const std::vector<int> beyond = convert::CellsBeyondRule(map, background);
-  const std::string no = Counted(static_cast<int>(beyond.size()), "cell") + " beyond the rule";
+  const std::string no = app::Counted(static_cast<int>(beyond.size()), "cell") + " beyond the rule";
   std::string text = name + ": " + (beyond.empty() ? "it obeys the rule" : no) + " with the background " +
                      std::string(model::ColourName(background)) + "\n";
   for (const int cell : beyond) {

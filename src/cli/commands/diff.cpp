@@ -1,8 +1,8 @@
 #include <array>
 
+#include "app/number_text.h"
 #include "cli/commands/commands.h"
 #include "cli/commands/picture_input.h"
-#include "cli/counted.h"
 #include "cli/standard_streams.h"
 #include "model/cell_use.h"
 #include "model/palette.h"
@@ -37,7 +37,7 @@ Difference Compared(const PictureImage& a, const PictureImage& b) {
       difference.pixels += pixels;
       ++difference.cells;
       difference.cell_lines +=
-          "cell " + std::to_string(column) + "," + std::to_string(row) + ": " + Counted(pixels, "pixel") + "\n";
+          "cell " + std::to_string(column) + "," + std::to_string(row) + ": " + app::Counted(pixels, "pixel") + "\n";
     }
   }
   return difference;
@@ -48,8 +48,8 @@ std::string ColoursThatDiffer(const PictureImage& a, const PictureImage& b) {
   std::string lines;
   for (std::size_t number = 0; number < in_a.size(); ++number) {
     if (in_a[number] == in_b[number]) continue;
-    lines += "color " + std::string(model::kPalette[number].name) + ": " + Counted(in_a[number], "cell") + ", then " +
-             std::to_string(in_b[number]) + "\n";
+    lines += "color " + std::string(model::kPalette[number].name) + ": " + app::Counted(in_a[number], "cell") +
+             ", then " + std::to_string(in_b[number]) + "\n";
   }
   return lines;
 }
@@ -63,7 +63,7 @@ ExitCode Diff(const Arguments& arguments, const Ports& ports) {
   const Difference difference = Compared(a, b);
   const bool same_background = a.BackgroundColour == b.BackgroundColour;
   if (difference.pixels == 0 && same_background) return kDone;
-  std::string text = Counted(difference.pixels, "pixel") + " in " + Counted(difference.cells, "cell") + "\n";
+  std::string text = app::Counted(difference.pixels, "pixel") + " in " + app::Counted(difference.cells, "cell") + "\n";
   if (!same_background) {
     text += "background " + std::string(model::ColourName(a.BackgroundColour)) + ", then " +
             std::string(model::ColourName(b.BackgroundColour)) + "\n";

@@ -10,7 +10,7 @@
 #include "c64out/disk_name.h"
 #include "c64out/short_path.h"
 #include "c64out/vice_folder.h"
-#include "cli/commands/build.h"
+#include "cli/temporary_folder.h"
 
 namespace kelvo::cli {
 

@@ -1,12 +1,12 @@
 #include <algorithm>
 #include <set>
 
+#include "app/number_text.h"
 #include "app/path_text.h"
 #include "app/text.h"
 #include "cli/commands/commands.h"
 #include "cli/commands/output.h"
 #include "cli/commands/picture_input.h"
-#include "cli/counted.h"
 #include "cli/standard_streams.h"
 #include "sprites/sprite_file.h"
 
@@ -58,7 +58,7 @@ std::string ColoursLost(const std::vector<sprites::Sprite>& captured, model::C64
   }
   colours.erase(background.Number());
   const int lost = static_cast<int>(colours.size()) - 3;
-  return lost > 0 ? Counted(lost, "color") + " beside the three used most: these pixels are transparent"
+  return lost > 0 ? app::Counted(lost, "color") + " beside the three used most: these pixels are transparent"
                   : std::string();
 }
 

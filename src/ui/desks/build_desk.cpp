@@ -33,7 +33,7 @@ void BuildDesk::BuildCompoPic(const c64out::CompoPicChoice& choice) {
 void BuildDesk::Start(const std::function<Build()>& ask) {
   if (runner_.IsShowing()) {
     next_ = ask;
-    return app::ReadNumber(with_.settings, c64out::kOneEmulator, 0, 1) == 1 ? runner_.EndShown() : runner_.Stop();
+    return app::IsOn(with_.settings, c64out::kOneEmulator) ? runner_.EndShown() : runner_.Stop();
   }
   if (!IsFree() || is_running_) return;
   const Build build = ask();

@@ -125,7 +125,7 @@ void WindowDesk::Begin() {
   frame_.setMinimumSize(kLeastSize.boundedTo(free));
   frame_.resize(kFirstSize.boundedTo(free));
   full_view_.SetScale(app::ReadNumber(settings_, kFullViewScale, 1, kLargestFullView),
-                      app::ReadNumber(settings_, kFullViewPal, 0, 1) == 1);
+                      app::IsOn(settings_, kFullViewPal));
   ShareWidth();
   frame_.resize(FirstSize());
   ArrangeIn(RoomOf(frame_.size()), 0);

@@ -4,6 +4,7 @@
 
 #include "model/full_view.h"
 #include "ui/widgets/cell_use_tint.h"
+#include "ui/widgets/ink.h"
 
 namespace kelvo::ui {
 namespace {
@@ -31,12 +32,7 @@ void FullViewPicture::PaintOverlay(QPainter& painter) {
     const model::Rect at = model::FullViewCellRect(cell);
     PaintCellUse(painter, *cell_use_, cell, {at.x, at.y, at.width, at.height});
   }
-  // White dashes on black: to be seen on every picture.
-  const QRect rim(mark_.x, mark_.y, mark_.width - 1, mark_.height - 1);
-  painter.setPen(QPen(Qt::black, 1));
-  painter.drawRect(rim);
-  painter.setPen(QPen(Qt::white, 1, Qt::DotLine));
-  painter.drawRect(rim);
+  PaintRim(painter, QRect(mark_.x, mark_.y, mark_.width - 1, mark_.height - 1), Qt::DotLine);
 }
 
 }  // namespace kelvo::ui

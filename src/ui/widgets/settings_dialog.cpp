@@ -26,7 +26,7 @@ SettingsDialog::SettingsDialog(app::SettingsStore& settings, const QString& name
 QCheckBox* SettingsDialog::AddCheckBox(const app::Setting& setting, const QString& caption) {
   auto* box = new QCheckBox(caption, this);
   box->setObjectName(ToQt(setting.key));
-  box->setChecked(app::ReadNumber(settings_, setting, 0, 1) == 1);
+  box->setChecked(app::IsOn(settings_, setting));
   form_->addRow(box);
   AddField(*box, {setting, [box] { return QString(box->isChecked() ? "1" : "0"); }});
   return box;

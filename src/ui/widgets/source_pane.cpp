@@ -7,6 +7,8 @@
 #include <array>
 #include <cmath>
 
+#include "ui/widgets/ink.h"
+
 namespace kelvo::ui {
 namespace {
 
@@ -72,10 +74,7 @@ void SourcePane::paintEvent(QPaintEvent*) {
     beside.addRect(ImageRect());
     beside.addRect(frame & ImageRect());
     painter.fillPath(beside, QColor(0, 0, 0, 130));
-    painter.setPen(Qt::black);
-    painter.drawRect(frame.adjusted(-1, -1, 0, 0));
-    painter.setPen(QPen(Qt::white, 1, Qt::DashLine));
-    painter.drawRect(frame.adjusted(-1, -1, 0, 0));
+    PaintRim(painter, frame.adjusted(-1, -1, 0, 0), Qt::DashLine);
   }
   PaintFocus(painter);
 }

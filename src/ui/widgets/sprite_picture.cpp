@@ -3,6 +3,8 @@
 #include <QKeyEvent>
 #include <QPainter>
 
+#include "ui/widgets/ink.h"
+
 namespace kelvo::ui {
 namespace {
 
@@ -27,10 +29,7 @@ model::PixelPoint SpritePicture::PixelAt(QPoint at) {
 void SpritePicture::PaintOverlay(QPainter& painter) {
   const QRect rim((area_.left - 1) * kBoxWidth, (area_.top - 1) * kBoxHeight, area_.Width() * kBoxWidth - 1,
                   area_.Height() * kBoxHeight - 1);
-  painter.setPen(QPen(Qt::black, 1));
-  painter.drawRect(rim);
-  painter.setPen(QPen(Qt::white, 1, Qt::DashLine));
-  painter.drawRect(rim);
+  PaintRim(painter, rim, Qt::DashLine);
 }
 
 void SpritePicture::keyPressEvent(QKeyEvent* event) {

@@ -107,11 +107,7 @@ void SwatchButton::PaintLetters(QPainter& painter, const QColor& ink) const {
 
 // Dotted and in black and white, which no mark of a chosen colour is.
 void SwatchButton::PaintFocus(QPainter& painter) const {
-  const QRect frame = rect().adjusted(1, 1, -2, -2);
-  painter.setPen(Qt::black);
-  painter.drawRect(frame);
-  painter.setPen(QPen(Qt::white, 1, Qt::DotLine));
-  painter.drawRect(frame);
+  PaintRim(painter, rect().adjusted(1, 1, -2, -2), Qt::DotLine);
 }
 
 void SwatchButton::mousePressEvent(QMouseEvent* event) {

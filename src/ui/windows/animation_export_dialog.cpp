@@ -1,8 +1,8 @@
 #include "ui/windows/animation_export_dialog.h"
 
-#include <QDialogButtonBox>
-#include <QPushButton>
 #include <QVBoxLayout>
+
+#include "ui/widgets/dialog_buttons.h"
 
 namespace kelvo::ui {
 
@@ -10,14 +10,9 @@ AnimationExportDialog::AnimationExportDialog(const QString& title, QWidget* pare
     : QDialog(parent), form_(new QFormLayout), image_(form_, this) {
   setObjectName("frmExportAnimation");
   setWindowTitle(title);
-  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-  buttons->button(QDialogButtonBox::Ok)->setObjectName("cmdStd");
-  buttons->button(QDialogButtonBox::Ok)->setText("&Export...");
-  connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-  connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   auto* column = new QVBoxLayout(this);
   column->addLayout(form_);
-  column->addWidget(buttons);
+  column->addWidget(MakeDialogButtons("&Export...", this));
 }
 
 void AnimationExportDialog::AddPlayback(const app::SettingsStore& settings) {

@@ -1,10 +1,9 @@
 #include "ui/windows/export_dialog.h"
 
-#include <QDialogButtonBox>
-#include <QPushButton>
 #include <QVBoxLayout>
 
 #include "ui/ports/qt_text.h"
+#include "ui/widgets/dialog_buttons.h"
 
 namespace kelvo::ui {
 namespace {
@@ -40,16 +39,11 @@ ExportDialog::ExportDialog(QWidget* parent)
   setWindowTitle("Export");
   lblLacks_->setWordWrap(true);
   lblLacks_->setObjectName("lblLacks");
-  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-  buttons->button(QDialogButtonBox::Ok)->setObjectName("cmdStd");
-  buttons->button(QDialogButtonBox::Ok)->setText("&Export...");
-  connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-  connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   auto* column = new QVBoxLayout(this);
   column->addLayout(form_);
   column->addWidget(lblLacks_);
   column->addStretch();
-  column->addWidget(buttons);
+  column->addWidget(MakeDialogButtons("&Export...", this));
   setMinimumWidth(kDialogWidth);
   connect(cboFormat_, &QComboBox::currentIndexChanged, this, &ExportDialog::ShowChoice);
   ShowChoice();

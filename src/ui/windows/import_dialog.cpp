@@ -111,7 +111,7 @@ QLayout* ImportDialog::ResultColumn() {
   original_->setAutoDefault(false);
   original_->setToolTip("Shows the image in the picture's place while it is held, like the key F2");
   worst_->setObjectName("chkWorst");
-  worst_->setChecked(app::ReadNumber(settings_, kWorstCells, 0, 1) == 1);
+  worst_->setChecked(app::IsOn(settings_, kWorstCells));
   result_->ShowWorstCells(worst_->isChecked());
   connect(original_, &QPushButton::pressed, result_, [this] { result_->ShowOriginal(true); });
   connect(original_, &QPushButton::released, result_, [this] { result_->ShowOriginal(false); });

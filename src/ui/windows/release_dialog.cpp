@@ -1,6 +1,5 @@
 #include "ui/windows/release_dialog.h"
 
-#include <QDialogButtonBox>
 #include <QHeaderView>
 #include <QTableView>
 #include <QVBoxLayout>
@@ -8,6 +7,7 @@
 
 #include "files/load_picture.h"
 #include "ui/ports/qt_text.h"
+#include "ui/widgets/dialog_buttons.h"
 #include "ui/windows/background_work.h"
 
 namespace kelvo::ui {
@@ -64,10 +64,8 @@ ReleaseDialog::ReleaseDialog(anim::AnimationFrames animation, app::SettingsStore
   auto* form = new QFormLayout;
   playback_ = new PlaybackChoice(settings, form, this);
   chkBackground_->setObjectName("chkBackground");
-  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+  auto* buttons = MakeDialogButtons("&Create", this);
   cmdBuild_ = buttons->button(QDialogButtonBox::Ok);
-  cmdBuild_->setObjectName("cmdStd");
-  cmdBuild_->setText("&Create");
   auto* column = new QVBoxLayout(this);
   column->addLayout(form);
   column->addWidget(lblFrames_);
@@ -77,8 +75,6 @@ ReleaseDialog::ReleaseDialog(anim::AnimationFrames animation, app::SettingsStore
   column->addWidget(lblAdvice_);
   column->addWidget(buttons);
   resize(kDialogSize);
-  connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-  connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   connect(playback_, &PlaybackChoice::Changed, this, &ReleaseDialog::MakeAnew);
   connect(chkBackground_, &QCheckBox::toggled, this, [this](bool on) {
     release_->wishes.changes_background = on;
