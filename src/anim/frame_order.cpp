@@ -30,6 +30,16 @@ class PassingFile {
   fs::path path_;
 };
 
+// A new file that nobody may read who may not read the original.
+std::error_code PlaceCopy(const fs::path& copy, const app::Bytes& bytes, const fs::path& original) {
+  std::error_code error;
+  const fs::file_status status = fs::status(original, error);
+  const bool has_original = fs::exists(status);
+  error = app::PlaceFile(copy, bytes, {.is_private = has_original, .must_be_new = true});
+  if (!error && has_original) fs::permissions(copy, status.permissions() | fs::perms::owner_write, error);
+  return error;
+}
+
 // Those that follow `number` in the row without a gap.
 std::vector<int> RunBehind(std::span<const int> numbers, int number) {
   std::vector<int> run;
@@ -92,7 +102,7 @@ std::string FrameOrder::Insert(const FrameRow& seen, int number) {
   return Guard(seen, [&] {
     model::PictureImage picture = with_.document.picture;
     files::Sign(picture);
-    return Add(number + 1, files::Encode(picture));
+    return Add(number + 1, files::Encode(picture), with_.document.file.CurrentFilePath);
   });
 }
 
@@ -101,16 +111,16 @@ std::string FrameOrder::Duplicate(const FrameRow& seen, int number) {
   return Guard(seen, [&] {
     const fs::path& path = navigation_.Row().Path(number);
     if (!HasPictureSize(path)) return FrameWords(number) + " IS NO PICTURE";
-    return Add(number + 1, app::ReadWholeFile(path, app::kMostBytesToCopy));
+    return Add(number + 1, app::ReadWholeFile(path, app::kMostBytesToCopy), path);
   });
 }
 
-std::string FrameOrder::Add(int number, const app::Bytes& bytes) {
+std::string FrameOrder::Add(int number, const app::Bytes& bytes, const fs::path& original) {
   const FrameNames names = navigation_.Names();
   const auto room = MakingRoom(navigation_.Row().Numbers(), number);
   if (!room) return FrameWords(kLastFrame) + " IS THE LAST ONE";
   const PassingFile fresh(names.Folder());
-  if (const std::error_code error = app::PlaceFile(fresh.Path(), bytes, {.must_be_new = true})) {
+  if (const std::error_code error = PlaceCopy(fresh.Path(), bytes, original)) {
     throw app::FileError(error.message() + ": " + app::TextFromPath(names.Folder()));
   }
   Renumber(*room, {fresh.Path().filename(), names.Path(number).filename()});
