@@ -2,6 +2,8 @@
 
 #include "anim/frame_times.h"
 #include "anim/playing_order.h"
+#include "app/durable_file.h"
+#include "app/held_file.h"
 #include "app/path_text.h"
 #include "app/temporary_name.h"
 #include "app/whole_file.h"
@@ -24,14 +26,10 @@ void Require(const std::error_code& error, const fs::path& file) {
   if (error) throw app::FileError(app::TextFromPath(file) + ": it cannot be written: " + error.message());
 }
 
-// A folder in the one that it is for. It goes with all that is in it.
+// A folder in the one that it is for. It goes with all that is in it; what a program that was killed left goes before.
 class PassingFolder {
  public:
-  explicit PassingFolder(const fs::path& folder) : path_(app::TemporaryName(folder)) {
-    std::error_code error;
-    fs::create_directory(path_, error);
-    Require(error, folder);
-  }
+  explicit PassingFolder(const fs::path& folder) : path_(MakeIn(folder)), held_(app::HeldFile::Hold(path_)) {}
   ~PassingFolder() {
     std::error_code ignored;
     fs::remove_all(path_, ignored);
@@ -42,7 +40,17 @@ class PassingFolder {
   const fs::path& Path() const { return path_; }
 
  private:
+  static fs::path MakeIn(const fs::path& folder) {
+    app::SweepTemporaryFiles(folder);
+    fs::path made = app::TemporaryName(folder);
+    std::error_code error;
+    fs::create_directory(made, error);
+    Require(error, folder);
+    return made;
+  }
+
   fs::path path_;
+  std::optional<app::HeldFile> held_;
 };
 
 }  // namespace
