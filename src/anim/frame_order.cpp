@@ -14,11 +14,14 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Makes a new file.
-void Place(const fs::path& file, const app::Bytes& bytes) {
-  if (const std::error_code error = app::PlaceFile(file, bytes, {.must_be_new = true})) {
-    throw app::FileError(error.message() + ": " + app::TextFromPath(file.parent_path()));
-  }
+// Makes a file that nobody may read who may not read the original.
+void PlaceCopy(const fs::path& copy, const app::Bytes& bytes, const fs::path& original) {
+  std::error_code error;
+  const fs::file_status status = fs::status(original, error);
+  const bool has_original = fs::exists(status);
+  error = app::PlaceFile(copy, bytes, {.is_private = has_original, .must_be_new = true});
+  if (!error && has_original) fs::permissions(copy, status.permissions() | fs::perms::owner_write, error);
+  if (error) throw app::FileError(error.message() + ": " + app::TextFromPath(copy.parent_path()));
 }
 
 // The list of times for frames that have other numbers: a file that takes the list's place when both are renamed.
@@ -28,7 +31,7 @@ class RenumberedTimes {
   RenumberedTimes(const FrameNames& names, NumberNow&& number_now) : old_(names.Folder()), fresh_(names.Folder()) {
     const std::string list = ReadListOfTimes(names), now = RenumberedList(list, number_now);
     if (now == list) return;
-    Place(fresh_.Path(), {now.begin(), now.end()});
+    PlaceCopy(fresh_.Path(), {now.begin(), now.end()}, names.TimesPath());
     const fs::path name = names.TimesPath().filename();
     renamings_ = {{name, old_.Path().filename()}, {fresh_.Path().filename(), name}};
   }
@@ -101,7 +104,7 @@ std::string FrameOrder::Insert(const FrameRow& seen, int number) {
   return Guard(seen, [&] {
     model::PictureImage picture = with_.document.picture;
     files::Sign(picture);
-    return Add(number + 1, files::Encode(picture));
+    return Add(number + 1, files::Encode(picture), with_.document.file.CurrentFilePath);
   });
 }
 
@@ -110,16 +113,16 @@ std::string FrameOrder::Duplicate(const FrameRow& seen, int number) {
   return Guard(seen, [&] {
     const fs::path& path = navigation_.Row().Path(number);
     if (!HasPictureSize(path)) return FrameWords(number) + " IS NO PICTURE";
-    return Add(number + 1, app::ReadWholeFile(path, app::kMostBytesToCopy));
+    return Add(number + 1, app::ReadWholeFile(path, app::kMostBytesToCopy), path);
   });
 }
 
-std::string FrameOrder::Add(int number, const app::Bytes& bytes) {
+std::string FrameOrder::Add(int number, const app::Bytes& bytes, const fs::path& original) {
   const FrameNames names = navigation_.Names();
   const auto room = MakingRoom(navigation_.Row().Numbers(), number);
   if (!room) return FrameWords(kLastFrame) + " IS THE LAST ONE";
   const app::PassingPlace fresh(names.Folder());
-  Place(fresh.Path(), bytes);
+  PlaceCopy(fresh.Path(), bytes, original);
   Renumber(*room, {fresh.Path().filename(), names.Path(number).filename()});
   const std::string word = navigation_.GoTo(std::to_string(number));
   return navigation_.CurrentFrame() == number ? FrameWords(number) + " IS NEW" : word;

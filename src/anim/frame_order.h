@@ -48,7 +48,8 @@ class FrameOrder {
  private:
   template <typename Change>
   std::string Guard(const FrameRow& seen, Change&& change);
-  std::string Add(int number, const app::Bytes& bytes);
+  // `original` is the file, if any, that they are a copy of.
+  std::string Add(int number, const app::Bytes& bytes, const std::filesystem::path& original);
   // `passing` is the file that comes into the row or leaves it; empty: none.
   void Renumber(const std::vector<NumberChange>& changes, const Renaming& passing);
 

@@ -27,7 +27,8 @@ std::error_code PlaceFile(const std::filesystem::path& target, std::span<const s
 // it may replace one that another program makes at that very moment.) An empty code means success.
 std::error_code RenameToNew(const std::filesystem::path& from, const std::filesystem::path& to);
 
-// Removes what programs that were killed in PlaceFile left in `folder`. What another program is writing now stays.
+// Removes what programs that were killed in PlaceFile left in `folder`, and folders that have such a name (but not on
+// Windows). What another program is writing now, or holds, stays.
 void SweepTemporaryFiles(const std::filesystem::path& folder);
 
 // Whether files can be made in `folder`. Leaves none there.

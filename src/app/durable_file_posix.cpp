@@ -9,6 +9,7 @@
 
 #include "app/durable_file.h"
 #include "app/folder_entries.h"
+#include "app/held_file.h"
 #include "app/temporary_name.h"
 
 namespace kelvo::app {
@@ -145,10 +146,8 @@ std::error_code RenameToNew(const fs::path& from, const fs::path& to) {
 void SweepTemporaryFiles(const fs::path& folder) {
   for (const fs::path& file : EntriesOf(folder)) {
     if (!IsTemporaryName(file)) continue;
-    const int descriptor = open(file.c_str(), O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
-    if (descriptor < 0) continue;
-    if (flock(descriptor, LOCK_EX | LOCK_NB) == 0) unlink(file.c_str());
-    close(descriptor);
+    std::error_code ignored;
+    if (const auto held = HeldFile::Hold(file)) fs::remove_all(file, ignored);
   }
 }
 

@@ -11,7 +11,8 @@ namespace kelvo::app {
 class HeldFile {
  public:
   // Holds `file` for as long as the object lives, or until the program ends in whatever way. Others can read the file
-  // and remove it. Empty where it is not there, is held already, or cannot be written.
+  // and remove it. Empty where it is not there, is held already, or cannot be written. A folder can be held likewise,
+  // but not on Windows.
   static std::optional<HeldFile> Hold(const std::filesystem::path& file);
 
   HeldFile(HeldFile&& other) noexcept : handle_(std::exchange(other.handle_, kNone)) {}

@@ -3,12 +3,16 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <cerrno>
+
 #include "app/held_file.h"
 
 namespace kelvo::app {
 
 std::optional<HeldFile> HeldFile::Hold(const std::filesystem::path& file) {
-  const int descriptor = open(file.c_str(), O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+  constexpr int kFlags = O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
+  int descriptor = open(file.c_str(), O_RDWR | kFlags);
+  if (descriptor < 0 && errno == EISDIR) descriptor = open(file.c_str(), O_RDONLY | kFlags);
   if (descriptor < 0) return std::nullopt;
   HeldFile held(descriptor);
   if (flock(descriptor, LOCK_EX | LOCK_NB) != 0) return std::nullopt;

@@ -24,6 +24,7 @@ TemporaryFolder::TemporaryFolder() {
     const fs::path path = folder / ("kelvo-cli-" + app::ToHex(static_cast<int>(random() & 0x7FFFFFFF), 8));
     if (fs::create_directory(path, error)) path_ = path;
   }
+  if (!error) fs::permissions(path_, fs::perms::owner_all, error);
   if (!error) ++temporary_folders;
   if (error) throw app::FileError("no temporary folder can be made: " + error.message());
 }

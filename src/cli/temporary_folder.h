@@ -5,8 +5,8 @@
 
 namespace kelvo::cli {
 
-// A folder among the temporary ones that is removed with all that is in it when this goes out of scope. No two are the
-// same.
+// A folder among the temporary ones, for its owner alone, that is removed with all that is in it when this goes out of
+// scope. No two are the same.
 class TemporaryFolder {
  public:
   // Throws app::FileError.

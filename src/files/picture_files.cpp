@@ -73,8 +73,7 @@ bool PictureFiles::OpenAs(const fs::path& path, FormatType type, OnFailure on_fa
   TakeOver(std::move(*read), caption);
   TellOtherReading(type, document_.on_disk, background_before);
   with_.prompt.CommandPromptList("LOAD " + document_.file.CurrentFileName);
-  app::Guarded(with_.log, "MDIFormMenu_OpenPicture",
-               [&] { app::WriteOwnFile(with_.folders.Snapshot(), document_.on_disk); });
+  TakeSnapshot();
   recent_.Add(document_.file.CurrentFilePath);
   return true;
 }
@@ -122,6 +121,11 @@ void PictureFiles::Replace(Document document) {
   with_.display.PictureReplaced();
   with_.display.ShowFile(document_.file);
   with_.views.PictureChanged();
+}
+
+void PictureFiles::TakeSnapshot() {
+  app::Guarded(with_.log, "MDIFormMenu_TakeSnapshot",
+               [&] { app::WriteOwnFile(with_.folders.Snapshot(), document_.on_disk); });
 }
 
 bool PictureFiles::Reload() {
@@ -231,6 +235,7 @@ bool PictureFiles::Return(const Document& state) {
     rescued_ = document_.picture;
   }
   Replace(state);
+  if (leaves_file) TakeSnapshot();  // what the next save backs up is this file's, not the other's
   return true;
 }
 

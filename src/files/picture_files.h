@@ -92,6 +92,7 @@ class PictureFiles {
   // The picture becomes that of `document`, by an action of that caption.
   void TakeOver(Document document, const std::string& caption);
   void Replace(Document document);
+  void TakeSnapshot();
   bool MayThrowAwayPicture();
   bool MayReplace(const std::filesystem::path& path, const std::filesystem::path& chosen);
   bool Write(const std::filesystem::path& path);

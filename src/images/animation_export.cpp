@@ -2,6 +2,8 @@
 
 #include "anim/frame_times.h"
 #include "anim/playing_order.h"
+#include "app/durable_file.h"
+#include "app/held_file.h"
 #include "app/path_text.h"
 #include "app/temporary_name.h"
 #include "app/whole_file.h"
@@ -24,10 +26,13 @@ void Require(const std::error_code& error, const fs::path& file) {
   if (error) throw app::FileError(app::TextFromPath(file) + ": it cannot be written: " + error.message());
 }
 
-void MakeFolder(const fs::path& made, const fs::path& wanted_in) {
+// Holds the folder, so that nobody sweeps it away; what programs that were killed left goes before.
+std::optional<app::HeldFile> MakeFolder(const fs::path& made, const fs::path& wanted_in) {
+  app::SweepTemporaryFiles(wanted_in);
   std::error_code error;
   fs::create_directory(made, error);
   Require(error, wanted_in);
+  return app::HeldFile::Hold(made);
 }
 
 }  // namespace
@@ -54,7 +59,7 @@ void WritePngs(const anim::AnimationFrames& animation, const AnimationLook& look
                app::Progress& progress) {
   const app::ProgressScope scope(progress, static_cast<int>(animation.frames.size()));
   const app::PassingPlace made(folder);
-  MakeFolder(made.Path(), folder);
+  const auto held = MakeFolder(made.Path(), folder);
   int done = 0;
   for (const anim::AnimationFrame& frame : animation.frames) {
     progress.Advance(done++);

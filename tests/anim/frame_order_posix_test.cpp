@@ -1,4 +1,5 @@
-// The order of the frames on a disk that is full and in a folder without rights: one line, and nothing has changed.
+// The order of the frames on a disk that is full and in a folder without rights: one line, and nothing has changed. And
+// the rights of frames.
 #include <gtest/gtest.h>
 
 #ifdef __linux__
@@ -38,6 +39,25 @@ TEST_F(FrameOrderOnABadDisk, ChangesNothing) {
   EXPECT_EQ(support::NamesIn(folder / "a"), (support::Lines{"anim0001.kvp", "anim0002.kvp"}));
   if (!holds) GTEST_SKIP() << "this user cannot become an ordinary one";
   EXPECT_TRUE(*holds);
+}
+
+TEST_F(FrameOrderOnABadDisk, ACopyHasTheRightsOfItsFrame) {
+  settings.Write(kFolder, Text(""));
+  const FrameNames names(ReadAnimProperties(settings));
+  constexpr auto kOwn = fs::perms::owner_read | fs::perms::owner_write, kOpen = kOwn | fs::perms::others_all;
+  for (const auto& [number, rights] : {std::pair{1, kOwn}, {2, kOpen}}) {
+    support::WriteFile(names.Path(number), files::Encode({}));
+    permissions(names.Path(number), rights);
+  }
+  FrameNavigation navigation(surroundings);
+  FrameOrder order(surroundings, navigation);
+  ASSERT_EQ(order.Duplicate(FrameRow(names), 1), "FRAME 2 IS NEW");
+  ASSERT_EQ(order.Duplicate(FrameRow(names), 2), "FRAME 3 IS NEW");  // the picture in memory, this time
+  ASSERT_EQ(order.Duplicate(FrameRow(names), 4), "FRAME 5 IS NEW");
+  const std::vector<fs::perms> rights{kOwn, kOwn, kOwn, kOpen, kOpen};
+  for (int number = 1; number <= 5; ++number) {
+    EXPECT_EQ(fs::status(names.Path(number)).permissions(), rights.at(static_cast<std::size_t>(number - 1))) << number;
+  }
 }
 
 }  // namespace

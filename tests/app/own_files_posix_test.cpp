@@ -8,6 +8,7 @@
 #include <array>
 
 #include "app/durable_file.h"
+#include "app/held_file.h"
 #include "app/whole_file.h"
 #include "files/recovery_copy.h"
 #include "support/program.h"
@@ -84,11 +85,17 @@ TEST(OwnFiles, WhatKilledWritersLeftIsSweptAndNothingElse) {
   for (const char* name : {".kelvo-1.tmp", ".kelvo-2.tmp", ".kelvo-settings", "kelvo-3.tmp"}) {
     support::WriteText(folder / name, "left");
   }
+  for (const char* name : {".kelvo-4.tmp", ".kelvo-5.tmp"}) {
+    fs::create_directory(folder / name);
+    support::WriteText(folder / name / "made", "left");
+  }
   const int writing = open((folder / ".kelvo-2.tmp").c_str(), O_WRONLY);
   flock(writing, LOCK_EX);
+  const auto filling = HeldFile::Hold(folder / ".kelvo-5.tmp");
   SweepTemporaryFiles(folder.Path());
   close(writing);
-  EXPECT_EQ(support::NamesIn(folder.Path()), (support::Lines{".kelvo-2.tmp", ".kelvo-settings", "kelvo-3.tmp"}));
+  EXPECT_EQ(support::NamesIn(folder.Path()),
+            (support::Lines{".kelvo-2.tmp", ".kelvo-5.tmp", ".kelvo-settings", "kelvo-3.tmp"}));
 }
 
 }  // namespace

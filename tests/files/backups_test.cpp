@@ -90,14 +90,17 @@ TEST_F(BackupsTest, WhatASaveReplacesIsKept) {
   EXPECT_EQ(support::ReadFile(folder / "other.kvp"), PictureOf(4));
 }
 
-TEST_F(BackupsTest, ProgramsOnOneFolderBackUpTheirOwnPictures) {
+TEST_F(BackupsTest, APictureIsNotBackedUpAsAnother) {
   const std::string own = support::WriteKoala(folder / "own.koa");
   files.OpenPicture(own);
+  const Document own_document = document;
+  support::WriteFile(folder / "b.kvp", PictureOf(9));
+  files.OpenPicture(folder / "b.kvp");
+  files.Return(own_document);  // as a step of the history does
   const app::ProgramFolders second_folders(folders.Root(), 2);
   Document second;
   PictureFiles second_files(
       second, {{second_folders, settings, clock, log, messages, prompt}, pointer, dialogs, display, views, status});
-  support::WriteFile(folder / "b.kvp", PictureOf(9));
   second_files.OpenPicture(folder / "b.kvp");
   EXPECT_TRUE(files.Save());
   EXPECT_TRUE(IsKept(support::ReadFile(own)));

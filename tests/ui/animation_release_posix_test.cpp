@@ -302,6 +302,7 @@ TEST_F(AnimationReleaseTest, EscapeAndFramesThatGoLeaveNothingHalfMade) {
 
 TEST_F(AnimationReleaseTest, ImagesAreNumberedAsTheFramesAreAndReplacedWhenThatIsWanted) {
   WriteFrames({2, 9}, 5);
+  fs::create_directory(out / ".kelvo-1.tmp");  // of a program that was killed
   const auto export_pngs = [this](std::optional<QMessageBox::StandardButton> answer) {
     InDialog("frmExportAnimation", [this, answer](QDialog& dialog) {
       InNextDialog<QFileDialog>([this, answer](QFileDialog& chooser) {

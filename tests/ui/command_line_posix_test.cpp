@@ -92,7 +92,10 @@ TEST_F(CommandLineTest, BuildsTheEditorsPrograms) {
   if (!support::IsInstalled("64tass") || !support::IsInstalled("c1541")) GTEST_SKIP() << "this needs 64tass and c1541";
   const fs::path vice = folder / "vice";
   fs::create_directories(vice);
-  support::RunTool("sh", {"-c", "ln -s $(command -v c1541) '" + vice.string() + "'"});
+  const fs::path rights = folder / "rights";  // of the folder that a picture is built in
+  support::WriteText(vice / "c1541", "#!/bin/sh\nls -ld \"$TMPDIR\"/kelvo-cli-* >'" + rights.string() +
+                                         "' 2>/dev/null\nexec c1541 \"$@\"\n");
+  fs::permissions(vice / "c1541", fs::perms::owner_all);
   support::WriteText(vice / "x64", "an emulator, to look at");
   settings.Write(c64out::kVicePath, vice.string());
   Start();
@@ -109,7 +112,8 @@ TEST_F(CommandLineTest, BuildsTheEditorsPrograms) {
   }
   Action("mnuCreateD64CompoPic")->trigger();
   const std::string card = " '" + (gfx / "testcard.kvp").string() + "'";
-  EXPECT_EQ(Made("disk" + card, "one.d64"), ReadFile(art / "testcard.d64"));
+  EXPECT_EQ(Made("disk --vice '" + vice.string() + "'" + card, "one.d64"), ReadFile(art / "testcard.d64"));
+  EXPECT_TRUE(support::ReadText(rights).starts_with("drwx------"));
   EXPECT_EQ(Made("program" + card, "one.prg"), ReadFile(art / "testcard.prg"));
   EXPECT_EQ(Shell("kelvo-cli show one.prg shown.png && kelvo-cli render --border" + card +
                   " seen.png && cmp shown.png seen.png")

@@ -182,7 +182,9 @@ TEST_F(KeyboardTest, ARepeatingSpaceIsOnePressAndABoxDoesNotHoldIt) {
   ShowCursorInCorner();
   Type(Qt::Key_6);
   QTest::keyPress(Box("frmZoom"), Qt::Key_Space);
+  const QString bytes = Find<QLabel>("lblBytes")->text();
   Key(Qt::Key_Right);
+  EXPECT_NE(Find<QLabel>("lblBytes")->text(), bytes);
   QKeyEvent again(QEvent::KeyPress, Qt::Key_Space, {}, " ", true);
   QApplication::sendEvent(Box("frmZoom"), &again);
   InNextDialog<QMessageBox>([](QMessageBox& box) {

@@ -121,6 +121,15 @@ TEST_F(PaintingWindowTest, EscapeInAnotherWindowLeavesAShapeAlone) {
     EXPECT_TRUE(PictureHasFocus()) << form;
     EXPECT_EQ(Panel("pnlTool"), "SET ENDING POINT") << form;
   }
+  // These go when the key is pressed, before it is let go.
+  for (const auto& [entry, form] : {std::pair{"mnuKeys", "frmKeys"}, {"mnuCodenetGUI", "frmCodenetGUI"}}) {
+    Action(entry)->trigger();
+    const QPointer<QWidget> window = Find(form);
+    QTest::keyPress(window, Qt::Key_Escape);
+    EXPECT_FALSE(window && window->isVisible()) << form;
+    QTest::keyRelease(Box("frmZoom"), Qt::Key_Escape);
+    EXPECT_EQ(Panel("pnlTool"), "SET ENDING POINT") << form;
+  }
 }
 
 TEST_F(PaintingWindowTest, AFullCellIsRefusedWhereThePreferenceSaysSo) {

@@ -69,7 +69,7 @@ void PaintingDesk::ConnectKeyboard() {
     PointAt(at);
     TellCursor();  // before what the move may tell
     if (held) painting_.Move(at, true);
-    TellCursor();
+    ShowPointer();
     ShowPreview(at);
   });
   connect(&keyboard_, &KeyboardHand::CursorGone, this, [this] { TellCursor({}); });

@@ -3,7 +3,9 @@
 #include <QFileDialog>
 #include <algorithm>
 
+#include "app/path_text.h"
 #include "model/named_palettes.h"
+#include "ui/ports/qt_file_dialogs.h"
 #include "ui/ports/qt_text.h"
 
 namespace kelvo::ui {
@@ -38,7 +40,9 @@ void PaletteDesk::Choose(int index) {
 }
 
 void PaletteDesk::ChooseFile() {
-  const QString file = QFileDialog::getOpenFileName(window_, "Palette", {}, "VICE palettes (*.vpl);;All files (*)");
+  const bool is_file = app::PathFromText(setting_).is_absolute();
+  const QString file = QFileDialog::getOpenFileName(window_, "Palette", StillThere(is_file ? ToQt(setting_) : ""),
+                                                    "VICE palettes (*.vpl);;All files (*)");
   if (!file.isEmpty() && Show(FromQt(file))) with_.settings.Write(files::kPaletteSetting, setting_);
   CheckShown();
 }

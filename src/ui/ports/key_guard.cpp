@@ -18,12 +18,13 @@ KeyGuard::KeyGuard() {
 
 bool KeyGuard::eventFilter(QObject* watched, QEvent* event) {
   const bool is_press = event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress;
-  if (is_press || event->type() == QEvent::KeyRelease) {
+  if (watched->isWidgetType() && (is_press || event->type() == QEvent::KeyRelease)) {
     const auto* key = static_cast<QKeyEvent*>(event);
+    const QWidget* window = static_cast<QWidget*>(watched)->window();
     const bool is_elsewhere = IsMenuOrDialogOpen();
     if (is_press && is_elsewhere) pressed_.remove(key->key());
-    if (is_press && !is_elsewhere) pressed_.insert(key->key(), key->modifiers());
-    if (!is_press && !is_elsewhere && !pressed_.contains(key->key())) return true;
+    if (is_press && !is_elsewhere) pressed_.insert(key->key(), {key->modifiers(), window});
+    if (!is_press && !is_elsewhere && pressed_.value(key->key()).window != window) return true;
   }
   return QObject::eventFilter(watched, event);
 }
