@@ -16,12 +16,13 @@ namespace fs = std::filesystem;
 
 // Makes a file that nobody may read who may not read the original.
 void PlaceCopy(const fs::path& copy, const app::Bytes& bytes, const fs::path& original) {
-  std::error_code error;
-  const fs::file_status status = fs::status(original, error);
+  std::error_code ignored;  // of a disk that knows no rights: where it is for its owner alone it may stay so
+  const fs::file_status status = fs::status(original, ignored);
   const bool has_original = fs::exists(status);
-  error = app::PlaceFile(copy, bytes, {.is_private = has_original, .must_be_new = true});
-  if (!error && has_original) fs::permissions(copy, status.permissions() | fs::perms::owner_write, error);
-  if (error) throw app::FileError(error.message() + ": " + app::TextFromPath(copy.parent_path()));
+  if (const auto error = app::PlaceFile(copy, bytes, {.is_private = has_original, .must_be_new = true})) {
+    throw app::FileError(error.message() + ": " + app::TextFromPath(copy.parent_path()));
+  }
+  if (has_original) fs::permissions(copy, status.permissions() | fs::perms::owner_write, ignored);
 }
 
 // The list of times for frames that have other numbers: a file that takes the list's place when both are renamed.

@@ -1,5 +1,7 @@
 #include "images/animation_export.h"
 
+#include <optional>
+
 #include "anim/frame_times.h"
 #include "anim/playing_order.h"
 #include "app/durable_file.h"
