@@ -28,8 +28,10 @@ PassingPlace::~PassingPlace() {
 
 // In the system's own characters: not every name can be told in others.
 bool IsTemporaryName(const fs::path& file) {
-  const fs::path::string_type name = file.filename().native();
-  return name.starts_with(fs::path(kTemporaryStart).native()) && name.ends_with(fs::path(kTemporaryEnd).native());
+  const fs::path::string_type name = file.filename().native(), start = fs::path(kTemporaryStart).native(),
+                              end = fs::path(kTemporaryEnd).native(), digits = fs::path("0123456789").native();
+  return name.starts_with(start) && name.ends_with(end) &&
+         name.find_first_not_of(digits, start.size()) == name.size() - end.size();
 }
 
 fs::path FolderOf(const fs::path& target) {

@@ -82,7 +82,7 @@ TEST(OwnFiles, AreMadeAnewAndForTheirOwnerAlone) {
 
 TEST(OwnFiles, WhatKilledWritersLeftIsSweptAndNothingElse) {
   const support::TempFolder folder;
-  for (const char* name : {".kelvo-1.tmp", ".kelvo-2.tmp", ".kelvo-settings", "kelvo-3.tmp"}) {
+  for (const char* name : {".kelvo-1.tmp", ".kelvo-2.tmp", ".kelvo-6b.tmp", ".kelvo-settings", "kelvo-3.tmp"}) {
     support::WriteText(folder / name, "left");
   }
   for (const char* name : {".kelvo-4.tmp", ".kelvo-5.tmp"}) {
@@ -95,7 +95,7 @@ TEST(OwnFiles, WhatKilledWritersLeftIsSweptAndNothingElse) {
   SweepTemporaryFiles(folder.Path());
   close(writing);
   EXPECT_EQ(support::NamesIn(folder.Path()),
-            (support::Lines{".kelvo-2.tmp", ".kelvo-5.tmp", ".kelvo-settings", "kelvo-3.tmp"}));
+            (support::Lines{".kelvo-2.tmp", ".kelvo-5.tmp", ".kelvo-6b.tmp", ".kelvo-settings", "kelvo-3.tmp"}));
 }
 
 }  // namespace

@@ -67,12 +67,16 @@ class DiskFaults : public testing::Test, protected support::Program {
 };
 
 TEST_F(DiskFaults, ASaveKilledAtAnyMomentLosesNoStateAndLeavesNoLitter) {
-  SavePainted(1);
-  SavePainted(2);
   RecoveryCopy copy(document);
   copy.AddPlace(RecoveryFiles(folders.Backup(), 1));
   std::mt19937 random(20260203);
-  for (int round = 0; round < 200; ++round) {
+  int saves = 0;
+  for (int round = 0; round < 100; ++round) {
+    fs::remove(file);  // else what the one before wrote is another program's
+    fs::remove_all(folders.Backup());
+    folders.Create();
+    SavePainted(2);
+    ASSERT_EQ(support::NamesIn(art).size(), 1U);
     const pid_t child = Start([&] {
       for (std::uint8_t value = 3;; ++value) {
         Paint(value);
@@ -80,7 +84,7 @@ TEST_F(DiskFaults, ASaveKilledAtAnyMomentLosesNoStateAndLeavesNoLitter) {
         SavePainted(value);
       }
     });
-    usleep(static_cast<useconds_t>(random() % 6000));
+    usleep(static_cast<useconds_t>(random() % 60000));
     kill(child, SIGKILL);
     waitpid(child, nullptr, 0);
     fs::remove(folders.Snapshot());  // as the next start does
@@ -90,12 +94,10 @@ TEST_F(DiskFaults, ASaveKilledAtAnyMomentLosesNoStateAndLeavesNoLitter) {
       if (ending == ".prg" || ending == ".kvp") states.insert(PaintedIn(backup.path()));
     }
     ASSERT_FALSE(states.contains(-1));  // a torn file
-    for (int value = PaintedIn(file) - 1; value > 2; --value) ASSERT_TRUE(states.contains(value)) << value;
-    fs::remove_all(folders.Backup());
-    folders.Create();
-    SavePainted(2);
-    ASSERT_EQ(support::NamesIn(art).size(), 1U);
+    for (int value = PaintedIn(file) - 1; value >= 2; --value) ASSERT_TRUE(states.contains(value)) << value;
+    saves += PaintedIn(file) - 2;
   }
+  EXPECT_GT(saves, 20);
 }
 
 TEST_F(DiskFaults, AFullDiskKeepsTheOldFile) {
@@ -161,6 +163,7 @@ TEST_F(DiskFaults, AFileThatShrinksWhileItIsReadIsReadWholeOrNotAtAll) {
 TEST_F(DiskFaults, TwoProgramsOnOneFolderSaveAndLogWholly) {
   constexpr int kRounds = 40;
   const std::string long_line(20000, 'x');
+  messages.yes = true;  // each replaces what the other one saved
   std::array<pid_t, 2> programs{};
   for (pid_t& program : programs) {
     program = Start([&] {
