@@ -18,7 +18,7 @@ void Frames(benchmark::State& state, int count) {
   const support::TempFolder folder;
   const FrameNames names({.folder = (folder.Path() / "").string(), .prefix = "anim"});
   for (int number = 1; number <= count; ++number) support::WriteFile(names.Path(number), app::Bytes(10050));
-  for (auto _ : state) benchmark::DoNotOptimize(FrameRow(names).ReadablePaths());
+  for (auto _ : state) benchmark::DoNotOptimize(FrameRow(names).Readable());
 }
 
 void Frames10(benchmark::State& state) {

@@ -14,24 +14,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::uintmax_t kMostListBytes = 1U << 20;
 constexpr std::size_t kMostNamed = 6;
-
-// "walk" for a prefix of "walk_".
-std::string NameFor(const std::string& prefix) {
-  const auto last = prefix.find_last_not_of(" .-_,+~#");
-  return last == std::string::npos ? "animation" : prefix.substr(0, last + 1);
-}
-
-FrameTimes ReadTimes(const fs::path& list) {
-  if (!fs::exists(list)) return {};
-  const app::Bytes bytes = app::ReadWholeFile(list, kMostListBytes);
-  try {
-    return FrameTimes(std::string(bytes.begin(), bytes.end()));
-  } catch (const std::runtime_error& error) {
-    throw std::runtime_error(app::TextFromPath(list.filename()) + ", " + error.what());
-  }
-}
 
 void RequirePictureSize(const fs::path& frame) {
   const files::PictureFormat& format = files::FormatOf(files::kOwnType);
@@ -48,8 +31,8 @@ AnimationFrames FindFrames(const AnimProperties& properties) {
   if (row.Count() == 0) {
     throw std::runtime_error("There are no frames such as " + app::TextFromPath(names.Path(kFirstFrame)));
   }
-  AnimationFrames found{.folder = names.Folder(), .name = NameFor(names.FileStart())};
-  const FrameTimes times = ReadTimes(found.folder / app::PathFromText(found.name + "-times.txt"));
+  AnimationFrames found{.folder = names.Folder(), .name = names.AnimationName()};
+  const FrameTimes times = ReadFrameTimes(names);
   for (int number = kFirstFrame; number <= row.Last(); ++number) {
     if (row.Has(number)) {
       RequirePictureSize(row.Path(number));

@@ -40,6 +40,16 @@ fs::path FrameNames::Folder() const {
   return FolderOrHere(FolderText());
 }
 
+std::string FrameNames::AnimationName() const {
+  const std::string start = FileStart();
+  const auto last = start.find_last_not_of(" .-_,+~#");
+  return last == std::string::npos ? "animation" : start.substr(0, last + 1);
+}
+
+fs::path FrameNames::TimesPath() const {
+  return Folder() / app::PathFromText(AnimationName() + "-times.txt");
+}
+
 std::optional<int> FrameNames::NumberOf(std::string_view file_name) const {
   const std::string start = app::ToLower(FileStart()), name = app::ToLower(file_name);
   if (name.size() != start.size() + kDigits + kFrameEnding.size()) return std::nullopt;

@@ -27,6 +27,11 @@ class FrameNames {
   std::string FolderText() const { return path_start_.substr(0, file_start_at_); }
   std::filesystem::path Folder() const;
 
+  // What is made of all frames is called so: the prefix without what parts it from the numbers ("walk" for "walk_").
+  std::string AnimationName() const;
+  // The list of times, beside the frames.
+  std::filesystem::path TimesPath() const;
+
   // The frame that a file of that folder is, whatever the case of its name; empty when it is none.
   std::optional<int> NumberOf(std::string_view file_name) const;
 

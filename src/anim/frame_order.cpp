@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "anim/frame_times.h"
 #include "app/path_text.h"
 #include "app/temporary_name.h"
 #include "app/whole_file.h"
@@ -12,6 +13,30 @@ namespace kelvo::anim {
 namespace {
 
 namespace fs = std::filesystem;
+
+void Write(const app::PassingPlace& file, const app::Bytes& bytes) {
+  if (const std::error_code error = app::PlaceFile(file.Path(), bytes, {.must_be_new = true})) {
+    throw app::FileError(error.message() + ": " + app::TextFromPath(file.Path().parent_path()));
+  }
+}
+
+// The list of times for frames that have other numbers: a file that takes the list's place when both are renamed.
+class RenumberedTimes {
+ public:
+  template <typename NumberNow>
+  RenumberedTimes(const FrameNames& names, NumberNow&& number_now) : old_(names.Folder()), fresh_(names.Folder()) {
+    const std::string list = ReadListOfTimes(names), now = RenumberedList(list, number_now);
+    if (now == list) return;
+    Write(fresh_, {now.begin(), now.end()});
+    const fs::path name = names.TimesPath().filename();
+    renamings_ = {{name, old_.Path().filename()}, {fresh_.Path().filename(), name}};
+  }
+  const std::vector<Renaming>& Renamings() const { return renamings_; }
+
+ private:
+  app::PassingPlace old_, fresh_;
+  std::vector<Renaming> renamings_;
+};
 
 // Those that follow `number` in the row without a gap.
 std::vector<int> RunBehind(std::span<const int> numbers, int number) {
@@ -93,9 +118,7 @@ std::string FrameOrder::Add(int number, const app::Bytes& bytes) {
   const auto room = MakingRoom(navigation_.Row().Numbers(), number);
   if (!room) return FrameWords(kLastFrame) + " IS THE LAST ONE";
   const app::PassingPlace fresh(names.Folder());
-  if (const std::error_code error = app::PlaceFile(fresh.Path(), bytes, {.must_be_new = true})) {
-    throw app::FileError(error.message() + ": " + app::TextFromPath(names.Folder()));
-  }
+  Write(fresh, bytes);
   Renumber(*room, {fresh.Path().filename(), names.Path(number).filename()});
   const std::string word = navigation_.GoTo(std::to_string(number));
   return navigation_.CurrentFrame() == number ? FrameWords(number) + " IS NEW" : word;
@@ -129,14 +152,19 @@ void FrameOrder::Renumber(const std::vector<NumberChange>& changes, const Renami
   for (const auto& [from, to] : changes) {
     renamings.push_back({before.Path(from).filename(), names.Path(to).filename()});
   }
-  RenameAll(names.Folder(), renamings, rename_);
   const auto number_now = [&](int number) -> std::optional<int> {
-    const auto change =
-        std::find_if(changes.begin(), changes.end(), [&](const auto& one) { return one.from == number; });
+    const auto change = std::ranges::find(changes, number, &NumberChange::from);
     if (change != changes.end()) return change->to;
     const bool is_gone = before.Has(number) && before.Path(number).filename() == passing.from;
     return is_gone ? std::nullopt : std::optional(number);
   };
+  // A line for a frame that is not there gives way to one that comes.
+  const RenumberedTimes times(names, [&](int number) {
+    const bool is_taken = !before.Has(number) && std::ranges::find(changes, number, &NumberChange::to) != changes.end();
+    return is_taken ? std::nullopt : number_now(number);
+  });
+  renamings.insert(renamings.end(), times.Renamings().begin(), times.Renamings().end());
+  RenameAll(names.Folder(), renamings, rename_);
   navigation_.FramesRenumbered(number_now);
   with_.files.FilesMoved([&](const fs::path& path) {
     const auto number = names.NumberOfPath(path);

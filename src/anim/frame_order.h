@@ -29,7 +29,8 @@ std::vector<NumberChange> ClosingUp(std::span<const int> numbers, int number);
 
 // Every change is done wholly or not at all, and replaces nothing that it does not know. `seen` is the row of frames
 // that the user looked at: when the folder is another one meanwhile nothing is done. The current picture, its unsaved
-// work, its steps and the recent list go along with the files. Each change gives a word for the status bar.
+// work, its steps, the recent list and the list of times go along with the files. Each change gives a word for the
+// status bar.
 class FrameOrder {
  public:
   // `navigation` outlives it.

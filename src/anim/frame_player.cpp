@@ -2,55 +2,66 @@
 
 #include <algorithm>
 
-#include "anim/frame_row.h"
+#include "anim/playing_order.h"
 
 namespace kelvo::anim {
 
-FramePlayer::FramePlayer(std::vector<std::filesystem::path> paths, int rate, files::Reading reading, Playing playing)
-    : paths_(std::move(paths)),
+std::vector<TimedFrame> FramesToPlay(const FrameRow& row, const FrameTimes& times) {
+  std::vector<TimedFrame> frames;
+  for (const int number : row.Readable()) frames.push_back({row.Path(number), times.TurnsOf(number)});
+  return frames;
+}
+
+FramePlayer::FramePlayer(std::vector<TimedFrame> frames, int rate, files::Reading reading, Playing playing)
+    : frames_(std::move(frames)),
       rate_(std::clamp(rate, kSlowestRate, kFastestRate)),
       reading_(reading),
-      playing_(playing) {}
+      playing_(playing) {
+  if (IsEmpty()) return;
+  order_ = OrderOfRound(frames_.size(), playing);
+  Turn end = 0;
+  for (const std::size_t frame : order_) ends_.push_back(end += frames_[frame].turns);
+}
 
 bool FramePlayer::IsOver(Milliseconds since_start) const {
-  return playing_ == Playing::kOnce && TurnAt(since_start) >= static_cast<Turn>(paths_.size());
+  return playing_ == Playing::kOnce && TurnAt(since_start) >= TurnsARound();
 }
 
 const model::PictureImage* FramePlayer::Due(Milliseconds since_start) {
-  const Turn turn = TurnAt(since_start);
-  if (IsEmpty() || turn == shown_turn_) return nullptr;
-  Read(turn);
-  shown_turn_ = turn;
+  if (IsEmpty()) return nullptr;
+  const Showing showing = ShowingAt(TurnAt(since_start));
+  if (showing == shown_) return nullptr;
+  Read(showing);
+  shown_ = showing;
   return read_ ? &*read_ : nullptr;
 }
 
 void FramePlayer::ReadAhead() {
-  if (!IsEmpty()) Read(shown_turn_ + 1);
+  if (!IsEmpty()) Read(shown_ + 1);
 }
 
 FramePlayer::Milliseconds FramePlayer::UntilNext(Milliseconds since_start) const {
-  const Turn next = TurnAt(since_start) + 1;
-  const Milliseconds at((next * 1000 + rate_ - 1) / rate_);
-  return at - since_start;
+  const Turn turn = TurnAt(since_start);
+  const auto end = std::ranges::upper_bound(ends_, turn % TurnsARound());
+  const Turn next = turn - turn % TurnsARound() + *end;
+  return Milliseconds((next * 1000 + rate_ - 1) / rate_) - since_start;
 }
 
 FramePlayer::Turn FramePlayer::TurnAt(Milliseconds since_start) const {
   return std::max<Turn>(since_start.count(), 0) * rate_ / 1000;
 }
 
-std::size_t FramePlayer::IndexAt(Turn turn) const {
-  const auto at = static_cast<std::size_t>(turn), last = paths_.size() - 1;
-  if (playing_ == Playing::kOnce) return std::min(at, last);
-  if (playing_ == Playing::kRound) return at % paths_.size();
-  const std::size_t there_and_back = std::max<std::size_t>(2 * last, 1), way = at % there_and_back;
-  return way <= last ? way : there_and_back - way;
+FramePlayer::Showing FramePlayer::ShowingAt(Turn turn) const {
+  if (playing_ == Playing::kOnce) turn = std::min(turn, TurnsARound() - 1);
+  const auto place = std::ranges::upper_bound(ends_, turn % TurnsARound()) - ends_.begin();
+  return turn / TurnsARound() * std::ssize(order_) + place;
 }
 
-void FramePlayer::Read(Turn turn) {
-  const std::size_t index = IndexAt(turn);
+void FramePlayer::Read(Showing showing) {
+  const std::size_t index = order_[static_cast<std::size_t>(showing) % order_.size()];
   if (read_index_ == index) return;
   read_index_ = index;
-  read_ = ReadFrame(paths_[index], reading_);
+  read_ = ReadFrame(frames_[index].path, reading_);
 }
 
 }  // namespace kelvo::anim

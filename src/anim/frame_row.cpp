@@ -47,12 +47,10 @@ std::optional<int> FrameRow::ReadableBefore(int number) const {
   return FirstReadable(std::make_reverse_iterator(paths_.lower_bound(number)), paths_.rend());
 }
 
-std::vector<fs::path> FrameRow::ReadablePaths() const {
-  std::vector<fs::path> paths;
-  for (const auto& [number, path] : paths_) {
-    if (HasPictureSize(path)) paths.push_back(path);
-  }
-  return paths;
+std::vector<int> FrameRow::Readable() const {
+  std::vector<int> numbers = Numbers();
+  std::erase_if(numbers, [this](int number) { return !HasPictureSize(Path(number)); });
+  return numbers;
 }
 
 FrameRow LookAtFrames(const FrameNames& names) {

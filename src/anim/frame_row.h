@@ -29,8 +29,8 @@ class FrameRow {
   std::optional<int> ReadableAfter(int number) const;
   std::optional<int> ReadableBefore(int number) const;
 
-  // The paths of all frames whose files have the size of a picture.
-  std::vector<std::filesystem::path> ReadablePaths() const;
+  // The numbers of all frames whose files have the size of a picture.
+  std::vector<int> Readable() const;
 
   friend bool operator==(const FrameRow&, const FrameRow&) = default;
 

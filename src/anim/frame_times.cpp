@@ -1,15 +1,18 @@
 #include "anim/frame_times.h"
 
-#include <optional>
+#include <algorithm>
 #include <sstream>
 #include <stdexcept>
 #include <string>
 
-#include "anim/frame_names.h"
+#include "app/path_text.h"
 #include "app/text.h"
+#include "app/whole_file.h"
 
 namespace kelvo::anim {
 namespace {
+
+constexpr std::uintmax_t kMostListBytes = 1U << 20;
 
 using Words = std::vector<std::string>;
 
@@ -23,6 +26,16 @@ Words WordsOf(const std::string& line) {
 std::optional<int> NumberUpTo(int most, const std::string& word) {
   const auto number = app::WholeNumber<int>(word);
   return number && *number >= 1 && *number <= most ? number : std::nullopt;
+}
+
+// `line` with the number that its frame has now; empty without one.
+std::string RenumberedLine(const std::string& line, const std::function<std::optional<int>(int)>& number_now) {
+  const Words words = WordsOf(line);
+  const auto number = words.empty() ? std::nullopt : NumberUpTo(kLastFrame, words.front());
+  if (!number) return line;
+  const auto now = number_now(*number);
+  if (!now) return {};
+  return std::string(line).replace(line.find(words.front()), words.front().size(), std::to_string(*now));
 }
 
 }  // namespace
@@ -45,6 +58,31 @@ FrameTimes::FrameTimes(std::string_view list) {
 int FrameTimes::TurnsOf(int number) const {
   const auto found = turns_.find(number);
   return found == turns_.end() ? 1 : found->second;
+}
+
+FrameTimes ReadFrameTimes(const FrameNames& names) {
+  const std::string list = ReadListOfTimes(names);
+  try {
+    return FrameTimes(list);
+  } catch (const std::runtime_error& error) {
+    throw std::runtime_error(app::TextFromPath(names.TimesPath().filename()) + ", " + error.what());
+  }
+}
+
+std::string ReadListOfTimes(const FrameNames& names) {
+  if (!std::filesystem::exists(names.TimesPath())) return {};
+  const app::Bytes bytes = app::ReadWholeFile(names.TimesPath(), kMostListBytes);
+  return {bytes.begin(), bytes.end()};
+}
+
+std::string RenumberedList(std::string_view list, const std::function<std::optional<int>(int)>& number_now) {
+  std::string renumbered;
+  while (!list.empty()) {
+    const std::size_t length = std::min(list.find('\n'), list.size() - 1) + 1;
+    renumbered += RenumberedLine(std::string(list.substr(0, length)), number_now);
+    list.remove_prefix(length);
+  }
+  return renumbered;
 }
 
 std::vector<int> FieldsOf(const std::vector<int>& turns, int rate) {

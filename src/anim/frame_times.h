@@ -5,9 +5,14 @@
 //     12 25   # frame 12 stays for 25 turns
 #pragma once
 
+#include <functional>
 #include <map>
+#include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
+
+#include "anim/frame_names.h"
 
 namespace kelvo::anim {
 
@@ -25,6 +30,16 @@ class FrameTimes {
  private:
   std::map<int, int> turns_;
 };
+
+// The list of these frames; one turn each where there is none. Throws std::runtime_error that names file and line.
+FrameTimes ReadFrameTimes(const FrameNames& names);
+
+// The text of the list; empty where there is none. Throws app::FileError for one that cannot be read.
+std::string ReadListOfTimes(const FrameNames& names);
+
+// The same list for frames that have other numbers now; what `number_now` gives none for loses its line. All else
+// stays, byte by byte, also in lines that are wrong.
+std::string RenumberedList(std::string_view list, const std::function<std::optional<int>(int)>& number_now);
 
 inline constexpr int kFieldsPerSecond = 50;  // of a PAL machine's beam
 

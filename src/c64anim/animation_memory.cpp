@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <stdexcept>
+#include <string>
 
 namespace kelvo::c64anim {
 namespace {
@@ -22,7 +23,12 @@ bool IsFull(const AnimationMemory::Room& room) {
 
 AnimationMemory::AnimationMemory(std::size_t steps) : rooms_(kAllRooms) {
   constexpr std::size_t kMostSteps = (kScreen - kAnimationStart) / kStepBytes - 1;
-  if (steps > kMostSteps) throw std::runtime_error("The animation has too many frames.");
+  if (steps > kMostSteps) {
+    throw std::runtime_error("The animation takes " + std::to_string(steps) + " steps, and there is room for " +
+                             std::to_string(kMostSteps) +
+                             ": each frame takes one (to and fro, both ways count), and one more for each 5 seconds "
+                             "that it stays.");
+  }
   rooms_.front().begin = AddressOfStep(steps + 1);
 }
 

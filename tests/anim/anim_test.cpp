@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <utility>
 
 #include "anim/anim_mode.h"
 #include "anim/frame_navigation.h"
@@ -271,31 +272,40 @@ TEST_F(FramesTest, ThePreviewKeepsItsPaceWhateverTheViewDoes) {
   support::WriteFile(File(4), {});
   frames.Refresh();
   std::mt19937 random(3);
-  const std::vector<int> once{1, 2, 3, 5, 5, 5, 5, 5};  // in turn, and from the first one on again
-  for (const auto& [playing, seeds] : {std::pair{Playing::kRound, std::vector<int>{1, 2, 3, 5}},
-                                       {Playing::kToAndFro, {1, 2, 3, 5, 3, 2}},
-                                       {Playing::kOnce, once}}) {
+  // In turn, and from the first one on again: the second and the last stay for longer.
+  for (const auto& [playing, seeds] : {std::pair{Playing::kRound, std::vector<int>{1, 2, 2, 2, 3, 5, 5}},
+                                       {Playing::kToAndFro, {1, 2, 2, 2, 3, 5, 5, 3, 2, 2, 2}},
+                                       {Playing::kOnce, {1, 2, 2, 2, 3, 5, 5}}}) {
+    const auto seed_at = [&seeds = seeds](std::int64_t turn) {
+      return seeds[static_cast<std::size_t>(turn) % seeds.size()];
+    };
+    const auto begins = [&](std::int64_t turn) {
+      return turn % std::ssize(seeds) == 0 || seed_at(turn) != seed_at(turn - 1);
+    };
     for (const int rate : {1, 7, 24, 25}) {
-      FramePlayer player(frames.Row().ReadablePaths(), rate, files::Reading::kDocumented, playing);
+      FramePlayer player(FramesToPlay(frames.Row(), FrameTimes("2 3\n5 2\n")), rate, files::Reading::kDocumented,
+                         playing);
       std::int64_t shown = -1;
-      const milliseconds end{playing == Playing::kOnce ? 8000 / rate - 100 : 20000};
-      for (milliseconds now{0}; now < end; now += milliseconds(random() % 90)) {
+      for (milliseconds now{0}; now < milliseconds(20000); now += milliseconds(random() % 90)) {
         const std::int64_t turn = now.count() * rate / 1000;
+        const bool is_over = playing == Playing::kOnce && turn >= std::ssize(seeds);
+        ASSERT_EQ(player.IsOver(now), is_over);
+        if (is_over) break;
+        std::int64_t first = turn, next = turn + 1;
+        while (!begins(first)) --first;
+        while (!begins(next)) ++next;
         const auto* picture = player.Due(now);
-        ASSERT_EQ(picture ? picture->Bitmap[1] : 0,
-                  turn == shown ? 0 : seeds[static_cast<std::size_t>(turn) % seeds.size()]);
+        ASSERT_EQ(picture ? picture->Bitmap[1] : 0, std::exchange(shown, first) == first ? 0 : seed_at(turn));
         if (random() % 2 == 0) player.ReadAhead();
-        shown = turn;
-        ASSERT_EQ(player.IsOver(now), playing == Playing::kOnce && turn >= 4);
-        const milliseconds next = now + player.UntilNext(now);
-        ASSERT_EQ(next.count() * rate / 1000, turn + 1);
-        ASSERT_EQ((next.count() - 1) * rate / 1000, turn);
+        const milliseconds then = now + player.UntilNext(now);
+        ASSERT_EQ(then.count() * rate / 1000, next);
+        ASSERT_EQ((then.count() - 1) * rate / 1000, next - 1);
       }
     }
   }
-  FramePlayer alone({File(1)}, 25, files::Reading::kDocumented, Playing::kToAndFro);
+  FramePlayer alone({{File(1)}}, 25, files::Reading::kDocumented, Playing::kToAndFro);
   for (const int turn : {0, 1, 2}) ASSERT_EQ(alone.Due(milliseconds(turn * 40))->Bitmap[1], 1);
-  FramePlayer player(frames.Row().ReadablePaths(), 25);
+  FramePlayer player(FramesToPlay(frames.Row(), {}), 25);
   fs::remove_all(folder / "a");
   EXPECT_EQ(player.Due(milliseconds(0)), nullptr);
   EXPECT_EQ(FramePlayer({}, 25).Due(milliseconds(0)), nullptr);

@@ -5,6 +5,7 @@
 
 #include <map>
 
+#include "anim/frame_times.h"
 #include "app/held_file.h"
 #include "files/picture_format.h"
 #include "support/program.h"
@@ -50,14 +51,32 @@ class FrameOrderTest : public testing::Test, protected support::Program {
     }
     (void)navigation.GoTo(std::to_string(current));
   }
-  // Files that are no frames stand under 0.
+  // Files that are no frames stand under 0, but for the list of times.
   Contents OnDisk() const {
     Contents contents;
     for (const std::string& name : support::NamesIn(folder / "a")) {
+      if (name == "anim-times.txt") continue;
       const app::Bytes bytes = support::ReadFile(folder / "a" / name);
       contents[names.NumberOf(name).value_or(0)] = bytes.size() == 10050 ? bytes[2050] : -1;
     }
     return contents;
+  }
+  void WriteTimes(const Contents& turns) const {
+    std::string list = "# frame, turns\r\n";
+    for (const auto& [number, stays] : turns) {
+      list += "\t" + std::to_string(number) + " " + std::to_string(stays) + " # as said\r\n";
+    }
+    support::WriteText(names.TimesPath(), list + "12x is no line");
+  }
+  Contents Times() const {
+    std::istringstream list(ReadListOfTimes(names));
+    Contents turns;
+    std::string line;
+    std::getline(list, line);
+    while (std::getline(list, line) && line.ends_with(" # as said\r")) {
+      turns[std::stoi(line)] = std::stoi(line.substr(line.find(' ')));
+    }
+    return line == "12x is no line" ? turns : Contents{{0, 0}};
   }
   FrameRow Seen() const { return FrameRow(names); }
   void WritePlan(const std::string& from) const {
@@ -73,6 +92,8 @@ class FrameOrderTest : public testing::Test, protected support::Program {
 TEST_F(FrameOrderTest, RandomChangesLeaveWhatAPlainModelSays) {
   Contents model{{1, 1}, {2, 2}, {3, 3}, {5, 5}, {9, 9}, {10, 10}};
   Begin(model, 3);
+  Contents turns = model;  // 0: no line
+  WriteTimes(turns);
   std::mt19937 random(20260203);
   const auto any = [&] { return std::next(model.begin(), static_cast<int>(random() % model.size()))->first; };
   for (std::uint8_t made = 100; made < 180; ++made) {
@@ -81,11 +102,15 @@ TEST_F(FrameOrderTest, RandomChangesLeaveWhatAPlainModelSays) {
     const unsigned kind = model.size() < 4 ? 1 : model.size() > 12 ? 3 : random() % 4;
     const bool leaves = kind == 1 || kind == 2 || (kind == 3 && number == current);
     if (leaves) model[current] = made;
-    if (kind == 0) (void)order.Move(Seen(), number, other), Move(model, number, other);
+    if (kind == 0) (void)order.Move(Seen(), number, other), Move(model, number, other), Move(turns, number, other);
     if (kind == 1) (void)order.Insert(Seen(), number), Insert(model, number + 1, made);
     if (kind == 2) (void)order.Duplicate(Seen(), number), Insert(model, number + 1, model.at(number));
-    if (kind == 3) (void)order.Delete(Seen(), number), Delete(model, number);
+    if (kind == 1 || kind == 2) Insert(turns, number + 1, 0);
+    if (kind == 3) (void)order.Delete(Seen(), number), Delete(model, number), Delete(turns, number);
     ASSERT_EQ(OnDisk(), model) << kind << ' ' << number << ' ' << other;
+    Contents lines = turns;
+    std::erase_if(lines, [](const auto& line) { return line.second == 0; });
+    ASSERT_EQ(Times(), lines) << kind << ' ' << number << ' ' << other;
     ASSERT_EQ(document.picture.Bitmap[1], leaves ? model.at(*navigation.CurrentFrame()) : made);
     ASSERT_EQ(document.HasUnsavedWork(), !leaves);
   }
@@ -102,9 +127,10 @@ TEST_F(FrameOrderTest, AChangeThatStopsAnywhereIsDoneWhollyOrNotAtAll) {
     return after == grown ? faulty.Insert(seen, 1) : faulty.Delete(seen, 1);
   };
   for (const Contents& after : {moved, grown, shrunk}) {
-    for (int stops = 0; stops < 12; ++stops) {
+    for (int stops = 0; stops < 14; ++stops) {
       for (int stops_again = -1; stops_again < 6; ++stops_again) {  // -1: it fails, and is ended nowhere
         Begin(row, 2);
+        WriteTimes(row);
         int left = stops;
         const RenameFile mortal = [&](const fs::path& from, const fs::path& to) {
           if (left-- != 0) return app::RenameToNew(from, to);
@@ -127,6 +153,9 @@ TEST_F(FrameOrderTest, AChangeThatStopsAnywhereIsDoneWhollyOrNotAtAll) {
         Contents now = OnDisk();
         now.erase(0);  // a temporary file, which the next save sweeps away
         EXPECT_TRUE(now == row || now == after) << stops << ' ' << stops_again;
+        Contents times_after = after;  // a new frame has no line
+        std::erase_if(times_after, [](const auto& frame) { return frame.second == 2 && frame.first == 2; });
+        EXPECT_EQ(Times(), now == row ? row : times_after) << stops << ' ' << stops_again;
         EXPECT_FALSE(fs::exists(folder / "a/.kelvo-frames"));
       }
     }
@@ -179,6 +208,9 @@ TEST_F(FrameOrderTest, EverythingThatKnowsAFrameByItsFileGoesAlong) {
   EXPECT_EQ(display.where_now, fs::path());
   EXPECT_EQ(files.RecentPaths(), (std::vector<fs::path>{names.Path(1), names.Path(5), names.Path(2)}));
   EXPECT_TRUE(fs::exists(folders.Backup() / "anim0002.kvp_2602030907_deleted.kvp"));
+  WriteTimes({{1, 10}, {2, 20}, {3, 30}, {5, 50}});  // of frames that are not there, too
+  (void)order.Insert(Seen(), 1);
+  EXPECT_EQ(Times(), (Contents{{1, 10}, {3, 20}, {5, 50}}));
 }
 
 }  // namespace

@@ -162,8 +162,8 @@ void AnimationDesk::TogglePlay() {
 // From the first frame on, also while frames are playing already.
 void AnimationDesk::StartPlay() {
   navigation_.Refresh();
-  player_.emplace(navigation_.Row().ReadablePaths(), frame_window_->PlayRate(), files::ReadingBy(with_.settings),
-                  anim::ReadPlaying(with_.settings));
+  player_.emplace(anim::FramesToPlay(navigation_.Row(), Times()), frame_window_->PlayRate(),
+                  files::ReadingBy(with_.settings), anim::ReadPlaying(with_.settings));
   if (player_->IsEmpty()) {
     StopPlay();
     emit Word(anim::kNoFrames);
@@ -172,6 +172,16 @@ void AnimationDesk::StartPlay() {
   frame_window_->ShowPlaying(true);
   playing_since_.start();
   PlayTurn();
+}
+
+// A list that is wrong is named; then each frame has one turn.
+anim::FrameTimes AnimationDesk::Times() {
+  try {
+    return anim::ReadFrameTimes(navigation_.Names());
+  } catch (const std::runtime_error& error) {
+    emit Word(ToQt(error.what()));
+    return {};
+  }
 }
 
 void AnimationDesk::StopPlay() {

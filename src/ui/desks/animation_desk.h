@@ -71,6 +71,7 @@ class AnimationDesk : public QObject, private anim::AnimDisplay {
   void ShowTurn(const model::PictureImage& picture);
   void TogglePlay();
   void StartPlay();
+  anim::FrameTimes Times();
   void StopPlay();
   void PlayTurn();
 
