@@ -289,6 +289,15 @@ TEST(Animation, TakesNothingForWhatLooksTheSame) {
   }
 }
 
+TEST(Animation, CopiesNothingThatWasTakenBack) {
+  const Bytes part = support::CountingBytes(200);
+  Packing packing;
+  packing.Know(kBehindBitmap, part);
+  EXPECT_LT(packing.Packed(part).size(), 10U);
+  packing.Forget(kBehindBitmap, 200);
+  EXPECT_EQ(packing.Packed(part), Packing().Packed(part));
+}
+
 // Nothing is lost between the rooms of the memory: noise fills all of it but for the end of a part in each.
 TEST(Animation, TellsWhatDoesNotFit) {
   PictureImage frame = support::RandomPicture(6);

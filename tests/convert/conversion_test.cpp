@@ -83,14 +83,24 @@ TEST(Conversion, GivesBackWhatIsAPictureAlready) {
       ExpectLooksLike(PictureOf(converted.map), picture);
     }
   }
+  model::PictureImage plain;  // any background would do: the border tells
+  plain.Bitmap.fill(0x55);
+  plain.Bitmap[1] = 0;
+  plain.ScreenMemory.fill(0x11);
+  plain.BackgroundColour = support::Colour(6);
+  const std::vector palettes{model::kSurfaceColours};
+  EXPECT_EQ(PaletteColoursOf(ScreenOf(plain, palettes[0], 1), palettes)->background, plain.BackgroundColour);
 }
 
 TEST(Conversion, TakesNothingForAPictureThatIsNone) {
   const model::PictureImage picture = support::RandomPicture(3);
   const RgbImage good = ScreenOf(picture, model::kSurfaceColours, 2);
   const std::size_t inside = 2 * 384 * 2 * 100 + 2 * 100;
-  RgbImage half_a_pixel = good, between = good, clear = good;
+  RgbImage half_a_pixel = good, between = good, clear = good, two_for_one = good;
   half_a_pixel.pixels[inside] ^= 0xFFFFFF;
+  for (const std::size_t line : {0U, 768U}) {
+    for (std::size_t x = 0; x < 4; ++x) two_for_one.pixels[inside + line + x] ^= 1;
+  }
   for (std::size_t pixel = 0; pixel < between.pixels.size(); ++pixel) {
     if (between.pixels[pixel] == model::kSurfaceColours[5]) between.pixels[pixel] += 3;
   }
@@ -105,7 +115,8 @@ TEST(Conversion, TakesNothingForAPictureThatIsNone) {
       }
     }
   }
-  for (const RgbImage& image : {half_a_pixel, between, clear, beyond, Photo(320, 200, 1), Photo(7, 3, 1)}) {
+  for (const RgbImage& image :
+       {half_a_pixel, between, clear, two_for_one, beyond, Photo(320, 200, 1), Photo(7, 3, 1)}) {
     const Converted converted = Convert(image, {.grain = kNoGrain});
     EXPECT_FALSE(converted.exact);
     EXPECT_GT(converted.mean_error, 0);
@@ -113,6 +124,12 @@ TEST(Conversion, TakesNothingForAPictureThatIsNone) {
   const auto read = PaletteColoursOf(beyond, std::vector{model::kSurfaceColours});
   ASSERT_TRUE(read);
   EXPECT_EQ(CellsBeyondRule(*read, read->background), std::vector{0});
+
+  const auto five_in_a_cell = [](int x, int y) {
+    return model::kSurfaceColours.at(y == 0 && x < 8 ? static_cast<std::size_t>(x / 2) + 1 : 0);
+  };
+  const Converted converted = Convert(Painted(320, 200, five_in_a_cell), {.grain = kNoGrain});
+  EXPECT_EQ(std::pair(converted.changed_pixels, converted.changed_cells), std::pair(1, 1));
 }
 
 // Every background with every three others, one after the other.
@@ -281,12 +298,31 @@ TEST(Conversion, CanBeEndedAtEveryStepAndAskedAgain) {
   EXPECT_EQ(conversion.Convert(wishes, patient).map.colours, colours);
 }
 
+TEST(Conversion, IsTheSameWhateverWasWishedBefore) {
+  const RgbImage image = Photo(61, 83, 2);
+  Conversion conversion(image, {});
+  app::NoProgress nobody;
+  Wishes wishes{.preparation = {.fit = Fit::kContain}, .grain = kNoGrain};
+  for (const auto& change : std::vector<void (*)(Wishes&)>{[](Wishes&) {},
+                                                           [](Wishes& w) {
+                                                             w.grid = {10, 5};
+                                                           },
+                                                           [](Wishes& w) { w.preparation.backdrop = 0xFFFF0000; },
+                                                           [](Wishes& w) {
+                                                             w.preparation.crop = Area{5, 5, 20, 9};
+                                                           }}) {
+    change(wishes);
+    EXPECT_EQ(conversion.Convert(wishes, nobody).map.colours, Convert(image, wishes).map.colours);
+  }
+}
+
 TEST(Conversion, ProposesADitherByTheKindOfImage) {
   const auto proposed = [](const RgbImage& image) { return Conversion(image, {}).ProposedDither().name; };
   EXPECT_EQ(proposed(Photo(320, 200, 8)), "default");
-  EXPECT_EQ(proposed(Flat(0xFF123456)), "none");
-  EXPECT_EQ(proposed(Painted(320, 200, [](int, int y) { return 0xFF000000U | static_cast<unsigned>(y) << 8; })),
-            "fine");
+  for (const auto& [colours, name] : {std::pair{16, "none"}, {17, "fine"}}) {
+    const auto stripe = [&](int, int y) { return 0xFF000000U | static_cast<unsigned>(y % colours) << 8; };
+    EXPECT_EQ(proposed(Painted(320, 200, stripe)), name);
+  }
 }
 
 }  // namespace

@@ -88,7 +88,8 @@ TEST(History, ComesBackFromWhatWasRecordedAsFarAsThatIsWhole) {
       damaged[static_cast<std::size_t>(other.Below(static_cast<int>(damaged.size())))] ^= 1;
     }
     restored.Restore(damaged);
-    restored.GoTo(restored.Count() - 1);
+    const StepId last = restored.Count() - 1;
+    ASSERT_EQ(HashOf(restored.PictureAt(last)), session.shown[static_cast<std::size_t>(last)]);
     restored.GoTo(0);
   }
 }
@@ -155,6 +156,10 @@ TEST(History, KnowsWhichStepItsFileHolds) {
   recorded.insert(recorded.end(), news.begin(), news.end());
   restored.Restore(recorded);
   EXPECT_FALSE(restored.FileOf(opened).HasFile());
+
+  document = {.picture = support::RandomPicture(2), .kept = {}, .file = files::SetFileParameters("d")};
+  history.Open("Recover d");
+  EXPECT_FALSE(history.IsSaved(history.Current()));
 }
 
 }  // namespace
