@@ -34,7 +34,7 @@ class RenumberedTimes {
     if (now == list) return;
     PlaceCopy(fresh_.Path(), {now.begin(), now.end()}, names.TimesPath());
     const fs::path name = names.TimesPath().filename();
-    renamings_ = {{name, old_.Path().filename()}, {fresh_.Path().filename(), name}};
+    renamings_ = {{fresh_.Path().filename(), name}, {name, old_.Path().filename()}};  // nothing can fail behind the old
   }
   const std::vector<Renaming>& Renamings() const { return renamings_; }
 
