@@ -96,15 +96,14 @@ TEST(Conversion, TakesNothingForAPictureThatIsNone) {
   const model::PictureImage picture = support::RandomPicture(3);
   const RgbImage good = ScreenOf(picture, model::kSurfaceColours, 2);
   const std::size_t inside = 2 * 384 * 2 * 100 + 2 * 100;
-  RgbImage half_a_pixel = good, between = good, clear = good, two_for_one = good;
+  RgbImage half_a_pixel = good, between = good, clear = good;
   half_a_pixel.pixels[inside] ^= 0xFFFFFF;
-  for (const std::size_t line : {0U, 768U}) {
-    for (std::size_t x = 0; x < 4; ++x) two_for_one.pixels[inside + line + x] ^= 1;
-  }
   for (std::size_t pixel = 0; pixel < between.pixels.size(); ++pixel) {
     if (between.pixels[pixel] == model::kSurfaceColours[5]) between.pixels[pixel] += 3;
   }
   for (std::uint32_t& pixel : clear.pixels) pixel &= 0x80FFFFFF;
+  const RgbImage two_for_one =
+      Painted(320, 200, [](int x, int) { return model::kSurfaceColours[7] ^ (x < 2 ? 1U : 0U); });
   RgbImage beyond = good;  // five colours in one cell
   for (int n = 0; n < 8; ++n) {
     for (int line = 0; line < 2; ++line) {

@@ -242,6 +242,9 @@ TEST_F(CommandLineTest, SaysWhatMakesNoSense) {
            {"info i.png", 2, "this is an image"},
            {"info -- --json", 2, "--json: there is no such file"},
            {"info $(printf '\\377.kvp')", 2, "\xff.kvp: there is no such file"},
+           {"convert a.koa \U0001F600.kvp && kelvo-cli info --json \U0001F600.kvp | grep -q 'D83D.uDE00' && rm "
+            "\U0001F600.kvp",
+            0, ""},
            {"diff a.koa b.kla --background 3", 0, ""},
            {"diff a.koa - <b.kla", 0, ""},
            {"convert a.koa x.vid && kelvo-cli diff --exact a.koa x.vid >d", 1, ""},
