@@ -279,7 +279,7 @@ TEST_F(FramesTest, ThePreviewKeepsItsPaceWhateverTheViewDoes) {
     const auto seed_at = [&seeds = seeds](std::int64_t turn) {
       return seeds[static_cast<std::size_t>(turn) % seeds.size()];
     };
-    const auto begins = [&](std::int64_t turn) {
+    const auto begins = [&, &seeds = seeds](std::int64_t turn) {
       return turn % std::ssize(seeds) == 0 || seed_at(turn) != seed_at(turn - 1);
     };
     for (const int rate : {1, 7, 24, 25}) {

@@ -319,7 +319,9 @@ TEST(Conversion, ProposesADitherByTheKindOfImage) {
   const auto proposed = [](const RgbImage& image) { return Conversion(image, {}).ProposedDither().name; };
   EXPECT_EQ(proposed(Photo(320, 200, 8)), "default");
   for (const auto& [colours, name] : {std::pair{16, "none"}, {17, "fine"}}) {
-    const auto stripe = [&](int, int y) { return 0xFF000000U | static_cast<unsigned>(y % colours) << 8; };
+    const auto stripe = [&colours = colours](int, int y) {
+      return 0xFF000000U | static_cast<unsigned>(y % colours) << 8;
+    };
     EXPECT_EQ(proposed(Painted(320, 200, stripe)), name);
   }
 }
