@@ -1,5 +1,6 @@
 #include "ui/windows/frame_list.h"
 
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QMimeData>
 #include <algorithm>
@@ -92,9 +93,8 @@ QString FrameList::Description(int number) const {
 QPixmap FrameList::PictureOf(int number) const {
   Shown* known = pictures_.object(number);
   if (known != nullptr && known->look == look_) return known->picture;
-  std::error_code ignored;
   const std::filesystem::path& path = frames_.Path(number);
-  const auto written = std::filesystem::last_write_time(path, ignored);
+  const QDateTime written = QFileInfo(QtFromPath(path)).lastModified();  // std: whole seconds on Windows
   if (known != nullptr && known->written == written) {
     known->look = look_;
     return known->picture;

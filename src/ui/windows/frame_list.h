@@ -3,8 +3,8 @@
 
 #include <QAbstractListModel>
 #include <QCache>
+#include <QDateTime>
 #include <QPixmap>
-#include <filesystem>
 #include <optional>
 #include <vector>
 
@@ -50,7 +50,7 @@ class FrameList : public QAbstractListModel {
  private:
   struct Shown {
     QPixmap picture;
-    std::filesystem::file_time_type written;
+    QDateTime written;
     int look;  // at the folder, after which it was right
   };
   bool FollowsGap(int row) const;
